@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A temporary folder that is removed, with everything in it, when its owner goes away.
+///
+/// While it is owned, the folder itself is locked (flock), and the lock ends with the process
+/// however that ends; so a later start can tell a folder in use from one left behind.
+class TemporaryFolder final
+{
+public:
+    /// Creates the folder at `path`, with missing parents, and locks it. Throws PlatformError.
+    explicit TemporaryFolder(const QString& path);
+    ~TemporaryFolder();
+
+    TemporaryFolder(TemporaryFolder&& other) noexcept;
+    TemporaryFolder& operator=(TemporaryFolder&&) = delete;
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+
+    /// Removes the folder now, ignoring errors. May block; the destructor then has nothing to do.
+    void remove() noexcept;
+
+private:
+    QString m_path;
+    int m_lock = -1;
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// Where the launcher stands. A value: two phases are equal when their kinds are equal and, for
+/// `needs`, their messages are.
+class Phase final
+{
+public:
+    enum class Kind {
+        /// Setup or play failed; message() says so.
+        needs,
+        /// The game or the engine is missing, or the first-time setup has not completed.
+        notDownloaded,
+        /// The game or the engine is being downloaded.
+        downloading,
+        /// The first-time import is running.
+        settingUp,
+        /// Everything is installed; Play starts the game at once.
+        ready,
+        /// The game is running.
+        playing,
+    };
+
+    static Phase needs(const QString& message) { return {Kind::needs, message}; }
+    static Phase notDownloaded() { return {Kind::notDownloaded, {}}; }
+    static Phase downloading() { return {Kind::downloading, {}}; }
+    static Phase settingUp() { return {Kind::settingUp, {}}; }
+    static Phase ready() { return {Kind::ready, {}}; }
+    static Phase playing() { return {Kind::playing, {}}; }
+
+    [[nodiscard]] Kind kind() const { return m_kind; }
+    /// The sentence for the player in `needs`; empty in every other phase.
+    [[nodiscard]] const QString& message() const { return m_message; }
+
+    /// `downloading`, `settingUp` and `playing`.
+    [[nodiscard]] bool isBusy() const { return isSetup() || m_kind == Kind::playing; }
+    /// `downloading` and `settingUp`.
+    [[nodiscard]] bool isSetup() const
+    {
+        return m_kind == Kind::downloading || m_kind == Kind::settingUp;
+    }
+
+    bool operator==(const Phase&) const = default;
+    bool operator==(Kind kind) const { return m_kind == kind; }
+
+private:
+    Phase(Kind kind, const QString& message)
+        : m_kind(kind)
+        , m_message(message)
+    {
+    }
+
+    Kind m_kind;
+    QString m_message;
+};

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/ByteCount.h"
+
+#include <QLatin1String>
+
+#include <array>
+
+namespace {
+
+struct Unit
+{
+    qint64 bytes;
+    int decimals;
+    QLatin1String name;
+};
+
+constexpr std::array units{
+    Unit{1'000, 0, QLatin1String("KB")},
+    Unit{1'000'000, 1, QLatin1String("MB")},
+    Unit{1'000'000'000, 2, QLatin1String("GB")},
+    Unit{1'000'000'000'000, 2, QLatin1String("TB")},
+    Unit{1'000'000'000'000'000, 2, QLatin1String("PB")},
+};
+
+QString withoutTrailingZeros(QString number)
+{
+    if (!number.contains(u'.'))
+        return number;
+    while (number.endsWith(u'0'))
+        number.chop(1);
+    if (number.endsWith(u'.'))
+        number.chop(1);
+    return number;
+}
+
+QString inUnit(qint64 bytes, const Unit& unit)
+{
+    const auto amount = static_cast<double>(bytes) / static_cast<double>(unit.bytes);
+    return withoutTrailingZeros(QString::number(amount, 'f', unit.decimals));
+}
+
+} // namespace
+
+QString formattedByteCount(qint64 bytes)
+{
+    if (bytes == 0)
+        return QStringLiteral("Zero KB");
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
+    if (bytes > -1'000 && bytes < 1'000)
+        return QStringLiteral("%1 bytes").arg(bytes);
+    const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
+    std::size_t index = 0;
+    while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
+        ++index;
+    // What rounds up to a thousand of one unit is one of the next.
+    auto number = inUnit(bytes, units[index]);
+    if (index + 1 < units.size() && (number == QLatin1String("1000") || number == QLatin1String("-1000")))
+        number = inUnit(bytes, units[++index]);
+    return number + u' ' + units[index].name;
+}

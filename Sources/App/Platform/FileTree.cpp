@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/FileTree.h"
+
+#include "Platform/ExchangePaths.h"
+#include "Platform/PlatformError.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+#include <sys/stat.h>
+
+namespace {
+
+std::filesystem::path native(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+void move(const QString& from, const QString& to)
+{
+    // Not QFile::rename: it copies, slowly and in part, where the file systems differ.
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        throw PlatformError::fromErrno(
+            QStringLiteral("move “%1” to “%2”").arg(from, to), errno);
+}
+
+} // namespace
+
+bool FileTree::exists(const QString& path)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+void FileTree::remove(const QString& path)
+{
+    std::error_code error;
+    std::filesystem::remove_all(native(path), error);
+    if (error)
+        throw PlatformError::fromReason(QStringLiteral("remove “%1”").arg(path),
+            QString::fromStdString(error.message()));
+}
+
+void FileTree::removeQuietly(const QString& path) noexcept
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(native(path), ignored);
+}
+
+void FileTree::replace(const QString& target, const QString& staging)
+{
+    if (exchangePaths(staging, target)) {
+        // The new folder stands; the old one now has the staging name. A part of it that cannot
+        // be deleted is no reason to call the replacement failed.
+        removeQuietly(staging);
+        return;
+    }
+    remove(target);
+    move(staging, target);
+}

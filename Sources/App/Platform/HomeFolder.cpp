@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/HomeFolder.h"
+
+#include "Platform/PlatformError.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <array>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace {
+
+QString homeInUserDatabase()
+{
+    std::array<char, 16 * 1024> buffer = {};
+    struct passwd entry = {};
+    struct passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)
+        return {};
+    return QFile::decodeName(entry.pw_dir);
+}
+
+} // namespace
+
+QString homeFolder()
+{
+    // Not QDir::homePath(): without HOME it gives the root folder.
+    for (const auto& candidate : {QFile::decodeName(qgetenv("HOME")), homeInUserDatabase()}) {
+        if (QDir::isAbsolutePath(candidate))
+            return QDir::cleanPath(candidate);
+    }
+    throw PlatformError(QStringLiteral("Could not find your home folder: HOME is not set."));
+}

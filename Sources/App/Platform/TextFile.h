@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+/// Small text files of the game, read strictly.
+namespace TextFile {
+
+/// The most a text file of the game may hold; a larger one counts as unreadable, so that no file
+/// of the game can fill memory or hold up the window.
+constexpr qint64 maximumSize = 4 * 1024 * 1024;
+
+/// The whole text of the regular file at `path`. Nothing when it is missing, unreadable, not a
+/// regular file, larger than `maximumSize` or not well-formed UTF-8.
+std::optional<QString> read(const QString& path);
+
+/// `text` without the spaces and tabs at its ends. A carriage return stays.
+QStringView trimmedBlanks(QStringView text);
+
+} // namespace TextFile

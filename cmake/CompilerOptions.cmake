@@ -1,0 +1,21 @@
+# One interface target that every target of the project links: warnings, sanitizers, Qt's
+# strictness switches. Nothing here changes what a target means, only how it is compiled.
+add_library(CavernyxCompilerOptions INTERFACE)
+
+target_compile_options(CavernyxCompilerOptions INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wcast-align -Wformat=2
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>)
+
+target_compile_definitions(CavernyxCompilerOptions INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(CAVERNYX_SANITIZERS)
+    target_compile_options(CavernyxCompilerOptions INTERFACE
+        -fsanitize=${CAVERNYX_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(CavernyxCompilerOptions INTERFACE -fsanitize=${CAVERNYX_SANITIZERS})
+endif()
