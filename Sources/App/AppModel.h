@@ -20,6 +20,8 @@
 
 class Desktop;
 class FileDownloader;
+class PlayOutcome;
+class ProgressRelay;
 
 /// The launcher's state, and everything a player can do.
 ///
@@ -82,8 +84,8 @@ public:
     /// From a press of Play until all that it started has ended.
     [[nodiscard]] bool isFlowRunning() const { return m_flowRunning; }
 
-    /// Starts the setup flow, which skips what is done and ends with the game. Returns at once; does
-    /// nothing while busy.
+    /// Starts the setup flow, which skips what is done and ends with the game. Returns at once;
+    /// does nothing while busy.
     void play();
     /// Ends the setup flow with "Cancelled.". Returns at once; flowEnded() follows.
     void cancelSetup();
@@ -120,6 +122,18 @@ Q_SIGNALS:
 private:
     friend class AppModelAccess; // the tests' way to put the model into a state
 
+    // State.
+    Phase phaseOnDisk();
+    void applySize(int measurement, qint64 bytes);
+    std::shared_ptr<FileDownloader> makeDownloader();
+    void applyProgress(const DownloadProgress& progress);
+    void clearProgress();
+    LogCallback logCallback();
+    void enterDownloading(const QString& stepText);
+    void enterSettingUp(const QString& stepText);
+    void enterPlaying(const QString& stepText);
+    void markStarted();
+
     // Setup.
     QCoro::Task<> runFlow(std::stop_token stop);
     QCoro::Task<> runSteps(std::stop_token stop);
@@ -128,20 +142,17 @@ private:
     QCoro::Task<QString> getEngine(ProjectInfo info, std::stop_token stop);
     QCoro::Task<> importAssets(QString engine, ProjectInfo info, std::stop_token stop);
     void fail(const QString& message);
-    void reportFailure(const QString& description);
+    void concludeCancelled();
+    void concludeFailed(const QString& description);
 
     // Launch.
     QCoro::Task<> launch(QString engine, QString project);
+    QCoro::Task<int> runGame(QString engine, QStringList arguments);
+    void concludePlay(const PlayOutcome& outcome);
 
-    // Named transitions.
-    void enterDownloading(const QString& stepText);
-    void enterSettingUp(const QString& stepText);
-    void enterPlaying(const QString& stepText);
-    void markStarted();
-
-    std::shared_ptr<FileDownloader> makeDownloader();
-    void applyProgress(const DownloadProgress& progress);
-    LogCallback logCallback();
+    // Maintenance.
+    QCoro::Task<> deleteAndReinstall();
+    QCoro::Task<> deleteRoot();
 
     Desktop& m_desktop;
     const Durations m_durations;
@@ -162,10 +173,15 @@ private:
     LogStore m_log;
     GameRunner m_runner;
     std::shared_ptr<FileDownloader> m_downloader;
+    std::unique_ptr<ProgressRelay> m_progressRelay;
     QCoro::Task<> m_flowTask;
     std::stop_source m_flowStop;
     bool m_flowRunning = false;
     bool m_userStopped = false;
     bool m_cancelled = false;
     bool m_forceGameDownload = false;
+
+    std::stop_source m_sizeStop;
+    int m_sizesStarted = 0;
+    int m_sizeShown = 0;
 };

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+//
+// Starts the game and stays with it until it ends. A game that closes at once is the commonest way
+// for a launcher to look broken, so the first seconds are watched.
+#include "AppModel.h"
+
+#include "AppError.h"
+#include "Install/EngineManager.h"
+#include "Install/Paths.h"
+#include "PlayOutcome.h"
+#include "ProgressRelay.h"
+
+#include <QCoroFuture>
+#include <QFile>
+#include <QScopeGuard>
+#include <QTimer>
+
+#include <chrono>
+
+QCoro::Task<> AppModel::launch(QString engine, QString project)
+{
+    const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
+    m_log.append(QStringLiteral("Step 4 of 4 · Starting: Godot ") + arguments.join(u' '));
+    enterPlaying(QStringLiteral("Step 4 of 4 · Play"));
+
+    const auto start = std::chrono::steady_clock::now();
+    const auto status = co_await runGame(engine, arguments);
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+
+    m_stillStarting = false;
+    concludePlay(PlayOutcome::judge(m_userStopped, elapsed, status, m_durations.startUpWatch));
+}
+
+QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
+{
+    QTimer startUpWatch;
+    startUpWatch.setSingleShot(true);
+    startUpWatch.setTimerType(Qt::PreciseTimer);
+    connect(&startUpWatch, &QTimer::timeout, this, &AppModel::markStarted);
+    startUpWatch.start(m_durations.startUpWatch);
+
+    m_runner.process = std::make_shared<ManagedProcess>(
+        ManagedProcess::Lifetime::MayOutliveLauncher, m_durations.killGrace);
+    const auto forget = qScopeGuard([this] { m_runner.process.reset(); });
+    const auto run = m_runner.process->run(engine, arguments, logCallback());
+    co_return co_await run;
+}
+
+void AppModel::concludePlay(const PlayOutcome& outcome)
+{
+    switch (outcome.kind()) {
+    case PlayOutcome::Kind::stoppedByPlayer:
+    case PlayOutcome::Kind::closedNormally:
+        m_log.append(outcome.sentence());
+        refreshState();
+        return;
+    case PlayOutcome::Kind::closedTooSoon:
+        // The next Play imports once more. Always the name of the standard edition: the marker of
+        // a C# game stays.
+        QFile::remove(EngineManager{.mono = false}.markerFile());
+        throw AppError(outcome.sentence());
+    case PlayOutcome::Kind::stoppedUnexpectedly:
+        throw AppError(outcome.sentence());
+    }
+}
+
+void AppModel::stopGame()
+{
+    m_userStopped = true;
+    m_runner.terminateCurrent();
+}

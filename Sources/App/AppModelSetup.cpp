@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+//
+// From nothing to the running game: the four steps of one press of Play. Each looks at what is
+// already done on disk and skips it, so the same flow serves the first run, an interrupted run and
+// every later one.
+#include "AppModel.h"
+
+#include "AppError.h"
+#include "Install/EngineManager.h"
+#include "Install/FileDownloader.h"
+#include "Install/Paths.h"
+#include "Install/RepoDownloader.h"
+#include "Platform/Cancelled.h"
+#include "ProgressRelay.h"
+#include "Project/ImportChecker.h"
+#include "Project/ProjectInspector.h"
+
+#include <QCoroFuture>
+#include <QFile>
+#include <QtConcurrent>
+
+namespace {
+
+constexpr int newestGodot3ConfigVersion = 4;
+constexpr int reportedLogLines = 30;
+
+QString projectLine(const ProjectInfo& info)
+{
+    const auto major = info.configVersion > newestGodot3ConfigVersion ? 4 : 3;
+    return QStringLiteral("project.godot: config_version=%1 → Godot %2.x, C#: %3, main scene: ")
+               .arg(info.configVersion)
+               .arg(major)
+               .arg(info.usesCSharp ? QStringLiteral("yes") : QStringLiteral("no")) +
+           info.mainScene;
+}
+
+QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
+{
+    return QtConcurrent::run(
+        [project, stop] { return ImportChecker::missingCount(project, stop); });
+}
+
+/// A marker that cannot be written only means that the next Play imports once more.
+void createEmptyFile(const QString& path)
+{
+    QFile file(path);
+    static_cast<void>(file.open(QIODevice::WriteOnly));
+}
+
+} // namespace
+
+void AppModel::play()
+{
+    if (isBusy())
+        return;
+    m_failureText.reset();
+    m_userStopped = false;
+    m_cancelled = false;
+    m_flowStop = std::stop_source();
+    m_flowRunning = true;
+    Q_EMIT changed();
+    m_flowTask = runFlow(m_flowStop.get_token());
+}
+
+void AppModel::cancelSetup()
+{
+    // First of all, so that whatever error the interrupted step throws is known for a cancel.
+    m_cancelled = true;
+    m_flowStop.request_stop();
+    if (m_downloader)
+        m_downloader->cancel();
+    m_runner.terminateCurrent();
+}
+
+QCoro::Task<> AppModel::runFlow(std::stop_token stop)
+{
+    try {
+        co_await runSteps(stop);
+    } catch (const Cancelled&) {
+        concludeCancelled();
+    } catch (const std::exception& error) {
+        if (m_cancelled)
+            concludeCancelled();
+        else
+            concludeFailed(QString::fromUtf8(error.what()));
+    }
+    m_flowRunning = false;
+    Q_EMIT changed();
+    Q_EMIT flowEnded();
+}
+
+QCoro::Task<> AppModel::runSteps(std::stop_token stop)
+{
+    const auto project = co_await getGame(stop);
+    const auto info = co_await readProject(project);
+    const auto engine = co_await getEngine(info, stop);
+    co_await importAssets(engine, info, stop);
+    co_await launch(engine, info.folder);
+}
+
+QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
+{
+    const auto search = QtConcurrent::run(&ProjectInspector::findProject, Paths::game());
+    const auto installed = co_await search;
+    throwIfCancelled(stop);
+    if (installed && !m_forceGameDownload) {
+        m_log.append(QStringLiteral("Step 1 of 4 · Game already downloaded, skipping."));
+        co_return *installed;
+    }
+    m_forceGameDownload = false;
+    enterDownloading(QStringLiteral("Step 1 of 4 · Downloading the game"));
+    m_downloader = makeDownloader();
+    const auto log = logCallback();
+    const auto project = co_await RepoDownloader::fetch(m_downloader, log, stop);
+    throwIfCancelled(stop);
+    co_return project;
+}
+
+QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
+{
+    const auto reading = QtConcurrent::run(&ProjectInspector::inspect, project);
+    const auto info = co_await reading;
+    if (!info)
+        throw AppError(QStringLiteral("The downloaded folder has no readable project.godot."));
+    const auto gathering = QtConcurrent::run(&ProjectInspector::facts, project, Paths::game());
+    m_facts = co_await gathering;
+    m_info = info;
+    Q_EMIT changed();
+    m_log.append(projectLine(*info));
+    if (info->configVersion > newestGodot3ConfigVersion)
+        throw AppError(QStringLiteral("This game is made for Godot 4, but this app only knows how "
+                                      "to install Godot 3."));
+    co_return *info;
+}
+
+QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
+{
+    const EngineManager manager{.mono = info.usesCSharp};
+    const auto search = QtConcurrent::run([manager] { return manager.executable(); });
+    auto engine = co_await search;
+    if (engine) {
+        m_log.append(QStringLiteral("Step 2 of 4 · Engine already installed, skipping."));
+    } else {
+        const auto edition = manager.mono ? QStringLiteral("-mono") : QString();
+        enterDownloading(QStringLiteral("Step 2 of 4 · Downloading the Godot engine (%1%2)")
+                             .arg(EngineManager::version(), edition));
+        m_downloader = makeDownloader();
+        const auto log = logCallback();
+        engine = co_await manager.install(m_downloader, log, stop, m_durations.transferStall);
+    }
+    throwIfCancelled(stop);
+    if (!engine)
+        throw AppError(QStringLiteral("The Godot engine is missing."));
+    co_return *engine;
+}
+
+QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop_token stop)
+{
+    const EngineManager manager{.mono = info.usesCSharp};
+    const auto firstCount = countMissing(info.folder, stop);
+    const auto before = co_await firstCount;
+    throwIfCancelled(stop);
+    if (before < 1 && QFile::exists(manager.markerFile())) {
+        m_log.append(QStringLiteral("Step 3 of 4 · Already set up, skipping."));
+        co_return;
+    }
+    QFile::remove(manager.markerFile());
+    enterSettingUp(
+        QStringLiteral("Step 3 of 4 · First-time setup, this can take a minute or more"));
+    m_log.append(QStringLiteral("Importing the game's assets (Godot 3 has no --headless flag; "
+                                "using --editor --no-window --quit)."));
+    const auto log = logCallback();
+    const auto status =
+        co_await m_runner.runImport(engine, info.folder, m_durations.importLimit, log);
+    throwIfCancelled(stop);
+    const auto secondCount = countMissing(info.folder, stop);
+    const auto after = co_await secondCount;
+    throwIfCancelled(stop);
+    if (after >= 1)
+        throw AppError(QStringLiteral("The first-time setup did not finish: %1 game assets were "
+                                      "not imported (engine exit code %2).")
+                           .arg(after)
+                           .arg(status));
+    createEmptyFile(manager.markerFile());
+}
+
+void AppModel::concludeCancelled()
+{
+    m_log.append(QStringLiteral("Cancelled."));
+    refreshState();
+}
+
+void AppModel::concludeFailed(const QString& description)
+{
+    m_log.append(QStringLiteral("Error: ") + description);
+    fail(description);
+    updateSize();
+}
+
+void AppModel::fail(const QString& message)
+{
+    m_failureText = QStringLiteral("What happened: ") + message +
+                    QStringLiteral("\n\nLast log lines:\n") +
+                    m_log.newest(reportedLogLines).join(u'\n');
+    clearProgress();
+    m_stillStarting = false;
+    m_phase = Phase::needs(message);
+    Q_EMIT changed();
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "PlayOutcome.h"
+
+PlayOutcome PlayOutcome::judge(bool userStopped, std::chrono::nanoseconds elapsed, int exitStatus,
+                               std::chrono::nanoseconds startUpWatch)
+{
+    const auto kind = userStopped              ? Kind::stoppedByPlayer
+                      : elapsed < startUpWatch ? Kind::closedTooSoon
+                      : exitStatus == 0        ? Kind::closedNormally
+                                               : Kind::stoppedUnexpectedly;
+    return {kind, std::chrono::duration_cast<std::chrono::seconds>(elapsed), exitStatus};
+}
+
+QString PlayOutcome::sentence() const
+{
+    switch (m_kind) {
+    case Kind::stoppedByPlayer:
+        return QStringLiteral("Game stopped by you.");
+    case Kind::closedTooSoon:
+        return QStringLiteral("The game closed after %1 seconds (exit code %2), so it did not "
+                              "start properly.")
+            .arg(m_elapsed.count())
+            .arg(m_exitStatus);
+    case Kind::closedNormally:
+        return QStringLiteral("Game closed normally.");
+    case Kind::stoppedUnexpectedly:
+        return QStringLiteral("The game stopped unexpectedly (exit code %1).").arg(m_exitStatus);
+    }
+    Q_UNREACHABLE();
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Install/DownloadProgress.h"
+
+#include <QObject>
+
+#include <mutex>
+#include <optional>
+
+/// Carries one download's progress from the network thread to the thread it was made on.
+///
+/// A fast download reports thousands of times a second. The relay passes on the newest report, at
+/// most twenty times a second, so that progress never costs the window its smoothness. Reports
+/// that are still waiting when the relay is deleted are dropped.
+class ProgressRelay final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Any thread.
+    void report(const DownloadProgress& progress);
+
+Q_SIGNALS:
+    void progressed(const DownloadProgress& progress);
+
+private:
+    void scheduleDelivery();
+    void deliver();
+
+    std::mutex m_lock;
+    std::optional<DownloadProgress> m_waiting;
+};
