@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Process/LogCallback.h"
+
+#include <QByteArray>
 #include <QObject>
 #include <QStringList>
 
@@ -20,11 +23,19 @@ class LogStore final : public QObject
 public:
     /// Keeps at most `maxLines` lines. Belongs to the thread that creates it, the main thread.
     explicit LogStore(int maxLines = 2000,
-        std::chrono::milliseconds publicationDelay = std::chrono::milliseconds{100},
-        QObject* parent = nullptr);
+                      std::chrono::milliseconds publicationDelay = std::chrono::milliseconds{100},
+                      QObject* parent = nullptr);
 
     /// Adds the lines of `text`, split at every line feed, empty pieces included. Any thread.
     void append(const QString& text);
+
+    /// Adds whole lines of UTF-8 text, each ended by a line feed, as `append` of each of them
+    /// would. They are decoded only once somebody asks for them: of a flood of output, most never
+    /// are. Any thread.
+    void appendBlock(const QByteArray& lines);
+
+    /// What writes to this log. It must not be called once the log is gone.
+    [[nodiscard]] LogCallback callback();
 
     /// Empties the log and publishes that at once. Any thread.
     void clear();
@@ -45,16 +56,29 @@ Q_SIGNALS:
     void linesChanged();
 
 private:
-    void schedulePublication(std::chrono::milliseconds delay);
+    /// Whole lines of output that nobody has asked for yet.
+    struct Block
+    {
+        QByteArray bytes;
+        qsizetype lineCount = 0;
+    };
+
+    void decodeBlocks() const;
+    qsizetype dropDecoded(qsizetype count) const;
+    void announce(std::unique_lock<std::mutex> lock);
     void publish();
 
-    const int m_maxLines;
+    const qsizetype m_maxLines;
     const std::chrono::milliseconds m_publicationDelay;
     QStringList m_lines;
     qint64 m_firstLineNumber = 0;
 
+    // The log as it is now: the decoded lines, then those of the blocks. What is beyond the bound
+    // goes when the blocks are decoded; until then it is at most a bound's and a block's worth.
     mutable std::mutex m_lock;
-    std::deque<QString> m_buffer;
-    qint64 m_dropped = 0;
+    mutable std::deque<QString> m_decoded;
+    mutable std::deque<Block> m_blocks;
+    mutable qsizetype m_linesInBlocks = 0;
+    qint64 m_linesEver = 0;
     bool m_publishScheduled = false;
 };
