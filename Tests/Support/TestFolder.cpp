@@ -30,10 +30,10 @@ QString TestFolder::write(const QString& relative, const QByteArray& contents) c
 QString TestFolder::writeScript(const QString& relative, const QByteArray& body) const
 {
     const auto full = write(relative, "#!/bin/sh\n" + body);
-    EXPECT_TRUE(QFile::setPermissions(full,
-        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner
-            | QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther
-            | QFileDevice::ExeOther));
+    EXPECT_TRUE(QFile::setPermissions(full, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                QFileDevice::ExeOwner | QFileDevice::ReadGroup |
+                                                QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                                QFileDevice::ExeOther));
     return full;
 }
 
@@ -58,6 +58,7 @@ bool TestFolder::exists(const QString& relative) const
 
 QStringList TestFolder::names(const QString& relative) const
 {
-    return QDir(path(relative)).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    return QDir(path(relative))
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                   QDir::Name);
 }
