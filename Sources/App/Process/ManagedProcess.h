@@ -26,6 +26,7 @@ public:
     /// `killGrace` is the time from the polite request to stop to the kill.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::EndsWithLauncher,
         std::chrono::milliseconds killGrace = std::chrono::seconds{5});
+    /// Leaves a child that still runs to its end, and its future with it.
     ~ManagedProcess();
 
     /// Starts `executable` with `arguments`, no shell between. The future finishes once the child

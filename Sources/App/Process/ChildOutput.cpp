@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "Process/ChildOutput.h"
+
+#include "Platform/PlatformError.h"
+
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace {
+
+/// As much as a pipe holds by default.
+constexpr std::size_t chunkSize = 64 * 1024;
+
+} // namespace
+
+ChildOutput::ChildOutput(LogCallback onLine)
+    : m_onLine(std::move(onLine))
+    , m_chunk(chunkSize)
+{
+    std::array<int, 2> ends = {};
+    if (::pipe(ends.data()) != 0)
+        throw PlatformError::fromErrno(QStringLiteral("create a pipe"), errno);
+    m_readEnd = FileDescriptor(ends[0]);
+    m_writeEnd = FileDescriptor(ends[1]);
+    ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
+    ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
+    ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    m_notifier = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
+        if (readAtMost(std::ssize(m_chunk)) == 0)
+            m_notifier->setEnabled(false);
+    });
+}
+
+ChildOutput::~ChildOutput() = default;
+
+void ChildOutput::finish()
+{
+    m_notifier->setEnabled(false);
+    // What is in the pipe now is all the child wrote. Reading until the pipe is empty would never
+    // end if a process it left behind keeps writing.
+    int available = 0;
+    ::ioctl(m_readEnd.get(), FIONREAD, &available);
+    for (qsizetype rest = available; rest > 0;) {
+        const auto size = readAtMost(std::min<qsizetype>(rest, std::ssize(m_chunk)));
+        if (size <= 0)
+            break;
+        rest -= size;
+    }
+    if (const auto lastLine = m_lines.flush())
+        m_onLine(*lastLine);
+}
+
+/// Reads and delivers up to `size` bytes. Gives how many those were, 0 at the end of the stream and
+/// a negative number when there is nothing to read.
+qsizetype ChildOutput::readAtMost(qsizetype size)
+{
+    const auto count = ::read(m_readEnd.get(), m_chunk.data(), static_cast<std::size_t>(size));
+    if (count > 0)
+        deliver(QByteArrayView(m_chunk.data(), count));
+    return count;
+}
+
+void ChildOutput::deliver(QByteArrayView chunk)
+{
+    if (m_onLine.takesBlocks()) {
+        if (const auto lines = m_lines.appendRaw(chunk); !lines.isEmpty())
+            m_onLine.takeBlock(lines);
+        return;
+    }
+    const auto lines = m_lines.append(chunk);
+    for (const auto& line : lines)
+        m_onLine(line);
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "Support/ProcessState.h"
+
+#include <QFile>
+
+bool processRuns(qint64 id)
+{
+    QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    // The state follows the program's name, which stands in parentheses and may hold any character.
+    const auto text = status.readAll();
+    const auto state = text.mid(text.lastIndexOf(')') + 2, 1);
+    return !state.isEmpty() && state != "Z" && state != "X";
+}
