@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "Project/ImportChecker.h"
+
+#include "Platform/DirectoryWalk.h"
+#include "Platform/FileDescriptor.h"
+#include "Platform/TextFile.h"
+
+#include <QByteArrayView>
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t longestExtension = 4;
+
+/// The characters of an extension, lower-cased, in one number.
+constexpr std::uint32_t packed(std::string_view extension)
+{
+    std::uint32_t number = 0;
+    for (const auto character : extension) {
+        const auto lower = character >= 'A' && character <= 'Z' ? character - 'A' + 'a' : character;
+        number = (number << 8U) | static_cast<unsigned char>(lower);
+    }
+    return number;
+}
+
+constexpr std::array importable{packed("png"),  packed("jpg"), packed("jpeg"), packed("svg"),
+                                packed("webp"), packed("bmp"), packed("tga"),  packed("ogg"),
+                                packed("wav"),  packed("mp3"), packed("obj"),  packed("glb"),
+                                packed("gltf"), packed("dds"), packed("hdr"),  packed("exr")};
+
+bool isImportable(std::string_view name)
+{
+    const auto dot = name.rfind('.');
+    if (dot == std::string_view::npos)
+        return false;
+    const auto extension = name.substr(dot + 1);
+    return extension.size() <= longestExtension &&
+           std::ranges::find(importable, packed(extension)) != importable.end();
+}
+
+std::string_view trimmed(std::string_view text, std::string_view characters)
+{
+    const auto first = text.find_first_not_of(characters);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+}
+
+/// The project-relative destination that a line of an import record names, if it names one.
+std::optional<std::string_view> destination(std::string_view line)
+{
+    constexpr std::string_view resourcePrefix = "res://";
+    line = trimmed(line, " \t");
+    const auto equals = line.find('=');
+    if (!line.starts_with("path") || equals == std::string_view::npos)
+        return std::nullopt;
+    auto value = trimmed(line.substr(equals + 1), " \"");
+    if (!value.starts_with(resourcePrefix))
+        return std::nullopt;
+    value.remove_prefix(resourcePrefix.size());
+    // A further slash would make it an absolute path.
+    value.remove_prefix(std::min(value.find_first_not_of('/'), value.size()));
+    return value;
+}
+
+/// Looks at the assets of one project, one after the other.
+class Check final
+{
+public:
+    explicit Check(const QString& project)
+        : m_project(
+              ::open(QFile::encodeName(project).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+    }
+
+    bool isMissing(int folder, std::string_view asset)
+    {
+        m_name.assign(asset).append(".import");
+        const auto record = readText(folder, m_name.c_str());
+        return !record || !isSatisfied(*record);
+    }
+
+private:
+    /// The strictly decoded text of a regular file, valid until the next call.
+    std::optional<std::string_view> readText(int folder, const char* name)
+    {
+        // Without O_NONBLOCK, opening a pipe would wait for its writer.
+        const FileDescriptor file(::openat(folder, name, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        struct stat status = {};
+        if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+            status.st_size > TextFile::maximumSize)
+            return std::nullopt;
+        const auto expected = static_cast<std::size_t>(status.st_size);
+        m_text.resize(std::max(m_text.size(), expected));
+        std::size_t size = 0;
+        while (size < expected) {
+            const auto count = ::read(file.get(), m_text.data() + size, expected - size);
+            if (count < 0)
+                return std::nullopt;
+            if (count == 0)
+                break;
+            size += static_cast<std::size_t>(count);
+        }
+        if (!QByteArrayView(m_text.data(), static_cast<qsizetype>(size)).isValidUtf8())
+            return std::nullopt;
+        return std::string_view(m_text.data(), size);
+    }
+
+    /// Whether one of the files that the record names exists, or it names none.
+    bool isSatisfied(std::string_view record)
+    {
+        bool namesAny = false;
+        while (!record.empty()) {
+            const auto end = std::min(record.find('\n'), record.size());
+            if (const auto path = destination(record.substr(0, end))) {
+                namesAny = true;
+                if (existsInProject(*path))
+                    return true;
+            }
+            record.remove_prefix(std::min(end + 1, record.size()));
+        }
+        return !namesAny;
+    }
+
+    bool existsInProject(std::string_view path)
+    {
+        if (path.find('\0') != std::string_view::npos)
+            return false;
+        m_name.assign(path.empty() ? "." : path);
+        return ::faccessat(m_project.get(), m_name.c_str(), F_OK, 0) == 0;
+    }
+
+    const FileDescriptor m_project;
+    std::string m_name;
+    std::vector<char> m_text;
+};
+
+} // namespace
+
+int ImportChecker::missingCount(const QString& project, const std::stop_token& stop)
+{
+    Check check(project);
+    int count = 0;
+    DirectoryWalk::walk(project, DirectoryWalk::Hidden::Skip, stop,
+                        [&](const DirectoryWalk::Entry& entry) {
+                            if (isImportable(entry.name) && !stop.stop_requested() &&
+                                check.isMissing(entry.folder, entry.name))
+                                ++count;
+                        });
+    return stop.stop_requested() ? 0 : count;
+}

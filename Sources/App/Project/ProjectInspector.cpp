@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "Project/ProjectInspector.h"
+
+#include "Platform/TextFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/// The path of the project file that `folder` holds if it is a project folder.
+QString projectFile(const QString& folder)
+{
+    return folder + QStringLiteral("/project.godot");
+}
+
+QStringList entryNames(const QString& folder)
+{
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+}
+
+/// The folders directly in `folder`, without hidden ones and links.
+QStringList foldersIn(const QString& folder)
+{
+    QStringList paths;
+    const auto entries = QDir(folder).entryInfoList(
+        QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::Unsorted);
+    for (const auto& entry : entries) {
+        if (!entry.fileName().startsWith(u'.'))
+            paths.append(entry.filePath());
+    }
+    return paths;
+}
+
+/// Every double-quoted run of characters in `line`. There are no escapes.
+QStringList quoted(QStringView line)
+{
+    const auto pieces = line.split(u'"');
+    QStringList items;
+    // The pieces are outside and inside quotes in turn; the last one is not closed.
+    for (qsizetype i = 1; i + 1 < pieces.size(); i += 2)
+        items.append(pieces.at(i).toString());
+    return items;
+}
+
+/// 0 for what is not a decimal number.
+int decimal(QStringView text)
+{
+    const auto digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
+    // Checked here, since Qt's own conversion tolerates white space.
+    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+    return std::ranges::all_of(digits, isDigit) ? text.toInt() : 0;
+}
+
+void readLine(QStringView line, ProjectInfo& info)
+{
+    const auto value = [line](QStringView prefix) { return line.sliced(prefix.size()); };
+    constexpr QStringView version = u"config_version=";
+    if (line.startsWith(version)) {
+        info.configVersion = decimal(TextFile::trimmedBlanks(value(version)));
+    } else if (line.startsWith(u"config/name=")) {
+        if (const auto items = quoted(line); !items.isEmpty())
+            info.name = items.first();
+    } else if (line.startsWith(u"run/main_scene=")) {
+        info.mainScene = quoted(line).value(0);
+    } else if (line.startsWith(u"config/features=")) {
+        info.features = quoted(line);
+    }
+}
+
+bool usesCSharp(const ProjectInfo& info, const QString& text)
+{
+    if (info.features.contains(QStringLiteral("C#")) || text.contains(u"[mono]"))
+        return true;
+    return std::ranges::any_of(entryNames(info.folder), [](const QString& name) {
+        return name.endsWith(u".csproj") || name.endsWith(u".sln");
+    });
+}
+
+void readLicense(const QString& text, RepoFacts& facts)
+{
+    QStringList lines;
+    for (const auto line : QStringView(text).split(u'\n')) {
+        if (const auto trimmed = TextFile::trimmedBlanks(line); !trimmed.isEmpty())
+            lines.append(trimmed.toString());
+    }
+    if (lines.isEmpty())
+        return;
+    facts.license = lines.first();
+    const auto copyright = std::ranges::find_if(lines, [](const QString& line) {
+        return line.startsWith(u"copyright", Qt::CaseInsensitive);
+    });
+    if (copyright != lines.end())
+        facts.author = *copyright;
+}
+
+void readReadme(const QString& text, RepoFacts& facts)
+{
+    constexpr QStringView keyword = u"#+DESCRIPTION:";
+    for (const auto line : QStringView(text).split(u'\n')) {
+        if (!line.startsWith(keyword, Qt::CaseInsensitive))
+            continue;
+        if (const auto summary = TextFile::trimmedBlanks(line.sliced(keyword.size()));
+            !summary.isEmpty())
+            facts.summary = summary.toString();
+    }
+}
+
+void readFacts(const QString& folder, RepoFacts& facts)
+{
+    for (const auto& name : entryNames(folder)) {
+        const auto path = folder + u'/' + name;
+        if (name.startsWith(u"license", Qt::CaseInsensitive)) {
+            if (const auto text = TextFile::read(path))
+                readLicense(*text, facts);
+        }
+        if (name.startsWith(u"readme", Qt::CaseInsensitive)) {
+            if (const auto text = TextFile::read(path))
+                readReadme(*text, facts);
+        }
+    }
+}
+
+} // namespace
+
+std::optional<QString> ProjectInspector::findProject(const QString& root)
+{
+    constexpr int levelCount = 5;
+    QStringList level{root};
+    for (int depth = 0; depth < levelCount; ++depth) {
+        QStringList next;
+        for (const auto& folder : level) {
+            if (QFileInfo(projectFile(folder)).isFile())
+                return folder;
+            next += foldersIn(folder);
+        }
+        level = next;
+    }
+    return std::nullopt;
+}
+
+std::optional<ProjectInfo> ProjectInspector::inspect(const QString& folder)
+{
+    const auto text = TextFile::read(projectFile(folder));
+    if (!text)
+        return std::nullopt;
+    ProjectInfo info;
+    info.folder = folder;
+    for (const auto line : QStringView(*text).split(u'\n'))
+        readLine(TextFile::trimmedBlanks(line), info);
+    if (info.configVersion == 0)
+        return std::nullopt;
+    info.usesCSharp = usesCSharp(info, *text);
+    return info;
+}
+
+RepoFacts ProjectInspector::facts(const QString& folder, const QString& stopFolder)
+{
+    constexpr int mostFolders = 6;
+    const auto stop = QDir::cleanPath(stopFolder);
+    auto current = QDir::cleanPath(folder);
+    RepoFacts facts;
+    for (int count = 0; count < mostFolders; ++count) {
+        readFacts(current, facts);
+        if (current == stop || current == u"/")
+            break;
+        current = QDir::cleanPath(current + QStringLiteral("/.."));
+    }
+    return facts;
+}

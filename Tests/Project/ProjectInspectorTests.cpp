@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "Project/ProjectInspector.h"
+
+#include "Platform/TextFile.h"
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace {
+
+const QByteArray projectFile = "project.godot";
+
+class ProjectInspectorTest : public testing::Test
+{
+protected:
+    [[nodiscard]] std::optional<ProjectInfo> inspect(const QByteArray& text) const
+    {
+        m_folder.write(QString::fromUtf8(projectFile), text);
+        return ProjectInspector::inspect(m_folder.path());
+    }
+
+    /// inspect() of a file that has a usable version before `text`.
+    [[nodiscard]] ProjectInfo inspectWithVersion(const QByteArray& text) const
+    {
+        const auto info = inspect("config_version=4\n" + text);
+        EXPECT_TRUE(info.has_value());
+        return info.value_or(ProjectInfo());
+    }
+
+    TestFolder m_folder;
+};
+
+TEST_F(ProjectInspectorTest, usesDefaultsForAFileThatHoldsTheVersionOnly)
+{
+    ProjectInfo expected;
+    expected.folder = m_folder.path();
+    expected.configVersion = 4;
+    EXPECT_EQ(inspect("config_version=4"), expected);
+    EXPECT_EQ(expected.name, QStringLiteral("Game"));
+}
+
+TEST_F(ProjectInspectorTest, readsARealProjectFile)
+{
+    const auto info = inspect("; Engine configuration file.\n"
+                              "config_version=4\n\n[application]\n\n"
+                              "config/name=\"Tiny Größe\"\n"
+                              "run/main_scene=\"res://Main.tscn\"\n"
+                              "config/features=PackedStringArray(\"3.5\", \"Mobile\")\n");
+    ASSERT_TRUE(info);
+    EXPECT_EQ(info->name, QStringLiteral("Tiny Größe"));
+    EXPECT_EQ(info->configVersion, 4);
+    EXPECT_EQ(info->mainScene, QStringLiteral("res://Main.tscn"));
+    EXPECT_EQ(info->features, (QStringList{QStringLiteral("3.5"), QStringLiteral("Mobile")}));
+    EXPECT_FALSE(info->usesCSharp);
+}
+
+TEST_F(ProjectInspectorTest, givesNothingWithoutAUsableVersion)
+{
+    for (const auto* version : {"abc", "", "0", "4x", "x4", "4.0", "+", "-", "--4", "0x4", "4 4",
+                                "99999999999999999999", "\xd9\xa4" /* a digit, but not of ours */})
+        EXPECT_EQ(inspect(QByteArray("config_version=") + version + '\n'), std::nullopt) << version;
+    EXPECT_EQ(inspect(""), std::nullopt);
+    EXPECT_EQ(inspect("config_version =4\n"), std::nullopt);
+}
+
+TEST_F(ProjectInspectorTest, readsAVersionWithASignAndBlanks)
+{
+    EXPECT_EQ(inspect(" \tconfig_version= \t+5 \t\n")->configVersion, 5);
+    EXPECT_EQ(inspect("config_version=-2")->configVersion, -2);
+}
+
+TEST_F(ProjectInspectorTest, doesNotReadAVersionThatACarriageReturnFollows)
+{
+    EXPECT_EQ(inspect("config_version=4\r\nconfig/name=\"A\"\r\n"), std::nullopt);
+    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\r\n").name, QStringLiteral("A"));
+}
+
+TEST_F(ProjectInspectorTest, lastVersionWinsEvenWhenItIsUnusable)
+{
+    EXPECT_EQ(inspect("config_version=4\nconfig_version=5\n")->configVersion, 5);
+    EXPECT_EQ(inspect("config_version=4\nconfig_version=x\n"), std::nullopt);
+}
+
+TEST_F(ProjectInspectorTest, ignoresANameWithABlankBeforeTheEqualsSign)
+{
+    EXPECT_EQ(inspectWithVersion("config/name =\"A\"\n").name, QStringLiteral("Game"));
+}
+
+TEST_F(ProjectInspectorTest, readsAnEmptyName)
+{
+    EXPECT_EQ(inspectWithVersion("config/name=\"\"\n").name, QString());
+}
+
+TEST_F(ProjectInspectorTest, keepsTheNameWhenALineHoldsNoQuotedText)
+{
+    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\nconfig/name=B\n").name, QStringLiteral("A"));
+    EXPECT_EQ(inspectWithVersion("config/name=\"unclosed\n").name, QStringLiteral("Game"));
+}
+
+TEST_F(ProjectInspectorTest, clearsTheMainSceneWhenALineHoldsNoQuotedText)
+{
+    EXPECT_EQ(inspectWithVersion("run/main_scene=\"res://A\"\nrun/main_scene=B\n").mainScene,
+              QString());
+}
+
+TEST_F(ProjectInspectorTest, knowsNoEscapesInQuotes)
+{
+    EXPECT_EQ(inspectWithVersion("config/name=\"a \\\" b\"\n").name, QStringLiteral("a \\"));
+}
+
+TEST_F(ProjectInspectorTest, seesCSharpInTheFeatures)
+{
+    EXPECT_TRUE(inspectWithVersion("config/features=[\"3.5\", \"C#\"]\n").usesCSharp);
+    EXPECT_FALSE(inspectWithVersion("config/features=[\"3.5\", \"c#\", \"C# \"]\n").usesCSharp);
+}
+
+TEST_F(ProjectInspectorTest, seesCSharpInAMonoSection)
+{
+    EXPECT_TRUE(inspectWithVersion("[mono]\n").usesCSharp);
+    EXPECT_FALSE(inspectWithVersion("[Mono]\n").usesCSharp);
+}
+
+TEST_F(ProjectInspectorTest, seesCSharpInASolutionOrProjectFileBesideIt)
+{
+    m_folder.write(QStringLiteral("sub/Game.sln"));
+    m_folder.write(QStringLiteral("Game.SLN"));
+    EXPECT_FALSE(inspectWithVersion("").usesCSharp);
+    const auto solution = m_folder.write(QStringLiteral("Game.sln"));
+    EXPECT_TRUE(inspectWithVersion("").usesCSharp);
+    QFile::remove(solution);
+    m_folder.write(QStringLiteral(".hidden.csproj"));
+    EXPECT_TRUE(inspectWithVersion("").usesCSharp);
+}
+
+TEST_F(ProjectInspectorTest, givesNothingForAFileItCannotUse)
+{
+    EXPECT_EQ(ProjectInspector::inspect(m_folder.path()), std::nullopt);
+    EXPECT_EQ(inspect("config_version=4\nconfig/name=\"\xff\"\n"), std::nullopt);
+    EXPECT_EQ(inspect("config_version=4\n" + QByteArray(TextFile::maximumSize, ' ')), std::nullopt);
+    const TestFolder other;
+    other.makeFolder(QString::fromUtf8(projectFile));
+    EXPECT_EQ(ProjectInspector::inspect(other.path()), std::nullopt);
+}
+
+class FindProjectTest : public testing::Test
+{
+protected:
+    void writeProject(const char* folder) const
+    {
+        m_root.write(QString::fromUtf8(folder) + QStringLiteral("/project.godot"));
+    }
+
+    /// The found folder, as seen from the root; "none" when none was found.
+    [[nodiscard]] QString found() const
+    {
+        const auto folder = ProjectInspector::findProject(m_root.path());
+        if (!folder)
+            return QStringLiteral("none");
+        EXPECT_TRUE(folder->startsWith(m_root.path()));
+        return folder->sliced(m_root.path().size());
+    }
+
+    TestFolder m_root;
+};
+
+TEST_F(FindProjectTest, prefersTheRoot)
+{
+    writeProject(".");
+    writeProject("a");
+    EXPECT_EQ(found(), QString());
+}
+
+TEST_F(FindProjectTest, findsAProjectOneFolderBelowTheTop)
+{
+    m_root.write(QStringLiteral("tetherwalk-master/README.md"));
+    writeProject("tetherwalk-master/game");
+    EXPECT_EQ(found(), QStringLiteral("/tetherwalk-master/game"));
+}
+
+TEST_F(FindProjectTest, prefersTheShallowestFolder)
+{
+    writeProject("a/b/c");
+    writeProject("z/y");
+    EXPECT_EQ(found(), QStringLiteral("/z/y"));
+}
+
+TEST_F(FindProjectTest, looksFourLevelsDownAndNoDeeper)
+{
+    writeProject("1/2/3/4/5");
+    EXPECT_EQ(found(), QStringLiteral("none"));
+    writeProject("1/2/3/4");
+    EXPECT_EQ(found(), QStringLiteral("/1/2/3/4"));
+}
+
+TEST_F(FindProjectTest, doesNotEnterHiddenFolders)
+{
+    writeProject(".hidden");
+    EXPECT_EQ(found(), QStringLiteral("none"));
+}
+
+TEST_F(FindProjectTest, doesNotFollowLinks)
+{
+    const TestFolder elsewhere;
+    elsewhere.write(QStringLiteral("project.godot"));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), m_root.path(QStringLiteral("link"))));
+    EXPECT_EQ(found(), QStringLiteral("none"));
+}
+
+TEST_F(FindProjectTest, findsNothingInAnEmptyOrMissingFolder)
+{
+    EXPECT_EQ(found(), QStringLiteral("none"));
+    EXPECT_EQ(ProjectInspector::findProject(m_root.path(QStringLiteral("none"))), std::nullopt);
+}
+
+} // namespace
