@@ -2,6 +2,7 @@
 #include "Install/Paths.h"
 
 #include "Install/TemporaryFolder.h"
+#include "Platform/DirectoryWalk.h"
 #include "Platform/HostPlatform.h"
 #include "Platform/PlatformError.h"
 
@@ -11,11 +12,26 @@
 
 #include <filesystem>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace {
 
 QString newUuid()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+}
+
+/// The bytes that a regular file takes on disk; 0 for anything else.
+qint64 allocatedSize(const DirectoryWalk::Entry& entry)
+{
+    constexpr qint64 blockSize = 512; // whatever the file system's own block size is
+    struct stat status = {};
+    if (entry.kind != DirectoryWalk::Kind::RegularFile
+        || ::fstatat(entry.folder, entry.name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0
+        || !S_ISREG(status.st_mode))
+        return 0;
+    return status.st_blocks * blockSize;
 }
 
 } // namespace
@@ -53,4 +69,13 @@ void Paths::ensure(const QString& path)
     if (error)
         throw PlatformError::fromReason(QStringLiteral("create the folder “%1”").arg(path),
             QString::fromStdString(error.message()));
+}
+
+qint64 Paths::size(const QString& path, const std::stop_token& stop)
+{
+    qint64 sum = 0;
+    DirectoryWalk::walk(
+        path, DirectoryWalk::Hidden::Include, stop,
+        [&sum](const DirectoryWalk::Entry& entry) { sum += allocatedSize(entry); });
+    return sum;
 }

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "Install/TemporaryFolder.h"
+
+#include "Platform/FileDescriptor.h"
+#include "Platform/PlatformError.h"
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <optional>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace {
+
+class TemporaryFolderTest : public testing::Test
+{
+protected:
+    /// Whether somebody else could clear the folder as one that nobody owns.
+    [[nodiscard]] bool isFree() const
+    {
+        const FileDescriptor folder(
+            ::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        return ::flock(folder.get(), LOCK_EX | LOCK_NB) == 0;
+    }
+
+    const TestFolder m_parent;
+    const QString m_path = m_parent.path(QStringLiteral("new parent/größe"));
+};
+
+TEST_F(TemporaryFolderTest, existsWithItsParentsForTheUserAlone)
+{
+    const TemporaryFolder folder(m_path);
+    EXPECT_EQ(folder.path(), m_path);
+    EXPECT_TRUE(QFileInfo(m_path).isDir());
+    EXPECT_EQ(QFile::permissions(m_path) &
+                  (QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
+                   QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther),
+              QFileDevice::Permissions());
+}
+
+TEST_F(TemporaryFolderTest, isRemovedWithEverythingInItWhenItsOwnerGoes)
+{
+    {
+        const TemporaryFolder folder(m_path);
+        m_parent.write(QStringLiteral("new parent/größe/a/b"));
+    }
+    EXPECT_FALSE(QFileInfo::exists(m_path));
+    EXPECT_TRUE(QFileInfo::exists(QFileInfo(m_path).path()));
+}
+
+TEST_F(TemporaryFolderTest, canBeRemovedEarly)
+{
+    TemporaryFolder folder(m_path);
+    folder.remove();
+    EXPECT_FALSE(QFileInfo::exists(m_path));
+    m_parent.makeFolder(QStringLiteral("new parent/größe"));
+    folder.remove(); // It owns nothing any more.
+    EXPECT_TRUE(QFileInfo::exists(m_path));
+}
+
+TEST_F(TemporaryFolderTest, changesItsOwnerWithoutBeingRemoved)
+{
+    std::optional<TemporaryFolder> first(std::in_place, m_path);
+    {
+        const TemporaryFolder second(std::move(*first));
+        first.reset();
+        EXPECT_TRUE(QFileInfo::exists(m_path));
+        EXPECT_EQ(second.path(), m_path);
+        EXPECT_FALSE(isFree());
+    }
+    EXPECT_FALSE(QFileInfo::exists(m_path));
+}
+
+TEST_F(TemporaryFolderTest, isLockedWhileItIsOwned)
+{
+    const TemporaryFolder folder(m_path);
+    EXPECT_FALSE(isFree());
+}
+
+TEST_F(TemporaryFolderTest, isNotMadeWhereSomethingIsAlready)
+{
+    const TemporaryFolder folder(m_path);
+    try {
+        const TemporaryFolder again(m_path);
+        FAIL() << "It was made.";
+    } catch (const PlatformError& error) {
+        EXPECT_EQ(
+            error.message(),
+            QStringLiteral("Could not create the temporary folder “%1”: File exists.").arg(m_path));
+    }
+    EXPECT_TRUE(QFileInfo::exists(m_path));
+}
+
+} // namespace
