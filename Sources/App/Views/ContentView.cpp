@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "Views/ContentView.h"
+
+#include "AppModel.h"
+#include "Views/AboutView.h"
+#include "Views/HeaderArt.h"
+#include "Views/PlayButton.h"
+#include "Views/PlayPanel.h"
+#include "Views/SettingsView.h"
+#include "Views/Stack.h"
+#include "Views/TextLabel.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWindow>
+
+#include <array>
+
+namespace {
+
+constexpr auto spacing = 16;
+constexpr auto padding = 20;
+constexpr auto factsSpacing = 6;
+constexpr auto controlsSpacing = 4;
+constexpr auto actionWidth = 120;
+
+/// What the player does, and with which key or button. Fixed texts: the game offers no such list.
+struct Control
+{
+    const char* action;
+    const char* binding;
+};
+
+constexpr std::array controls{
+    Control{QT_TRANSLATE_NOOP("ContentView", "Move"),
+            QT_TRANSLATE_NOOP("ContentView", "A / D, or the left stick")},
+    Control{QT_TRANSLATE_NOOP("ContentView", "Jump"),
+            QT_TRANSLATE_NOOP("ContentView", "Space or W, or the A button")},
+    Control{QT_TRANSLATE_NOOP("ContentView", "Grappling hook"),
+            QT_TRANSLATE_NOOP("ContentView", "Left mouse button, or a shoulder button")},
+    Control{QT_TRANSLATE_NOOP("ContentView", "Aim"),
+            QT_TRANSLATE_NOOP("ContentView", "Hold F, or use the right stick")},
+    Control{QT_TRANSLATE_NOOP("ContentView", "Restart"),
+            QT_TRANSLATE_NOOP("ContentView", "Alt + R")},
+};
+
+QWidget* controlRow(const Control& control)
+{
+    auto* const action =
+        new TextLabel(TextStyle::body, QFont::Medium, ContentView::tr(control.action));
+    auto* const binding =
+        new TextLabel(TextStyle::body, ContentView::tr(control.binding), TextTone::secondary);
+    action->setFixedWidth(actionWidth);
+    auto* const row = horizontalStack(defaultSpacing, {action, binding});
+    // Both are set in the same size, so that their first baselines meet where their tops do.
+    row->layout()->setAlignment(action, Qt::AlignTop);
+    row->layout()->setAlignment(binding, Qt::AlignTop);
+    return row;
+}
+
+QPushButton* sheetButton(const QString& title)
+{
+    auto* const button = new QPushButton(title);
+    button->setAutoDefault(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+ContentView::ContentView(AppModel& model)
+    : m_model(model)
+{
+    auto* const column = new QWidget;
+    stackVertically(*column, spacing, padding,
+                    {
+                        new HeaderArt,
+                        factsBlock(),
+                        controlsBlock(),
+                        m_panel = new PlayPanel(m_model),
+                        sheetButtons(),
+                    });
+    static_cast<QBoxLayout*>(column->layout())->addStretch();
+
+    setWidget(column);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWindowTitle(tr("Cavernyx Platformer"));
+    fitToScreen();
+    m_panel->playButton().setFocus();
+
+    connect(&m_model, &AppModel::changed, this, &ContentView::refreshFacts);
+    refreshFacts();
+}
+
+QWidget* ContentView::factsBlock()
+{
+    return verticalStack(factsSpacing,
+                         {
+                             m_summary = new TextLabel(TextStyle::body),
+                             m_credits = new TextLabel(TextStyle::caption, {}, TextTone::secondary),
+                         });
+}
+
+QWidget* ContentView::controlsBlock()
+{
+    return verticalStack(
+        controlsSpacing,
+        {
+            new TextLabel(TextStyle::headline, tr("Controls")),
+            controlRow(controls[0]),
+            controlRow(controls[1]),
+            controlRow(controls[2]),
+            controlRow(controls[3]),
+            controlRow(controls[4]),
+            new TextLabel(
+                TextStyle::caption,
+                tr("The README has no controls list (see README); these come from the game's "
+                   "input settings."),
+                TextTone::secondary),
+        });
+}
+
+QWidget* ContentView::sheetButtons()
+{
+    auto* const settings = sheetButton(tr("Settings\u2026"));
+    auto* const about = sheetButton(tr("About"));
+    connect(settings, &QPushButton::clicked, this,
+            [this] { openSheet([this] { return new SettingsView(m_model, this); }); });
+    connect(about, &QPushButton::clicked, this,
+            [this] { openSheet([this] { return new AboutView(this); }); });
+    return horizontalStack(defaultSpacing, {settings, about, StackItem::spacer()});
+}
+
+template<typename Make>
+void ContentView::openSheet(Make make)
+{
+    if (m_sheet)
+        return;
+    m_sheet = make();
+    m_sheet->open();
+}
+
+void ContentView::refreshFacts()
+{
+    const auto& facts = m_model.facts();
+    m_summary->setText(facts.summary);
+    m_credits->setText(facts.license + QStringLiteral(" \u00b7 ") + facts.author);
+}
+
+void ContentView::keyPressEvent(QKeyEvent* event)
+{
+    // Only keys that no control under the focus has used come here.
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat())
+            m_panel->pressDefaultButton();
+        return;
+    case Qt::Key_Home:
+        verticalScrollBar()->triggerAction(QScrollBar::SliderToMinimum);
+        return;
+    case Qt::Key_End:
+        verticalScrollBar()->triggerAction(QScrollBar::SliderToMaximum);
+        return;
+    default:
+        QScrollArea::keyPressEvent(event);
+    }
+}
+
+void ContentView::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &ContentView::fitToScreen,
+            Qt::UniqueConnection);
+}
+
+void ContentView::fitToScreen()
+{
+    setMinimumSize(leastSize.boundedTo(screen()->availableSize()));
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "Views/ControlFace.h"
+
+#include "Views/SystemColors.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
+
+namespace ControlFace {
+
+QColor inState(const QColor& color, QStyle::State state, const QPalette& palette)
+{
+    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    if (!state.testFlag(QStyle::State_Enabled))
+        return SystemColors::withOpacity(color, 0.45);
+    if (state.testFlag(QStyle::State_Sunken))
+        return SystemColors::blended(SystemColors::withOpacity(text, 0.16), color);
+    if (state.testFlag(QStyle::State_MouseOver))
+        return SystemColors::blended(SystemColors::withOpacity(text, 0.06), color);
+    return color;
+}
+
+void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette)
+{
+    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    const auto enabled = state.testFlag(QStyle::State_Enabled);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(SystemColors::withOpacity(text, enabled ? 0.22 : 0.12), 1));
+    painter.setBrush(inState(palette.color(QPalette::Active, QPalette::Button), state, palette));
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.restore();
+    if (showsFocus(state))
+        paintFocusRing(painter, rect, radius, SystemColors::blue(palette));
+}
+
+bool showsFocus(QStyle::State state)
+{
+    return state.testFlag(QStyle::State_HasFocus) &&
+           state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
+void paintFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius, const QColor& color)
+{
+    constexpr auto width = 2.5;
+    constexpr auto inset = width / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), cornerRadius - inset / 2,
+                            cornerRadius - inset / 2);
+    painter.restore();
+}
+
+} // namespace ControlFace

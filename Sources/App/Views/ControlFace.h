@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QStyle>
+
+class QPainter;
+class QPalette;
+class QRectF;
+
+/// The one visual language of everything that can be pressed: a softly rounded face with a thin
+/// edge, which answers to the pointer and the keyboard.
+namespace ControlFace {
+
+/// The corner radius of every control of ordinary size.
+inline constexpr auto radius = 6.0;
+
+/// `color` as it looks while the control is hovered, pressed or disabled.
+[[nodiscard]] QColor inState(const QColor& color, QStyle::State state, const QPalette& palette);
+
+/// A bordered face in the palette's button colour, with the ring when the keyboard is on it.
+void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette);
+
+/// Whether the keyboard, and not the pointer, brought the focus here.
+[[nodiscard]] bool showsFocus(QStyle::State state);
+
+/// The ring around what has the keyboard's focus, just inside `rect`.
+void paintFocusRing(QPainter& painter, const QRectF& rect, double cornerRadius,
+                    const QColor& color);
+
+} // namespace ControlFace

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "Views/DisclosureButton.h"
+
+#include "Views/ControlFace.h"
+#include "Views/Glyphs.h"
+#include "Views/SystemColors.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionButton>
+
+namespace {
+
+/// The place of the angle before the title, and the room around both for the focus ring.
+constexpr auto angleWidth = 16;
+constexpr auto margin = 4;
+
+} // namespace
+
+DisclosureButton::DisclosureButton(const QString& title)
+    : QPushButton(title)
+{
+    setCheckable(true);
+    setAutoDefault(true);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+}
+
+QSize DisclosureButton::sizeHint() const
+{
+    const auto label = fontMetrics().size(Qt::TextSingleLine, text());
+    return {angleWidth + label.width() + 2 * margin, label.height() + margin};
+}
+
+void DisclosureButton::paintEvent(QPaintEvent*)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const auto text = palette().color(QPalette::WindowText);
+    const auto emphasised = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
+    const auto place = QRect(0, 0, angleWidth, height());
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.save();
+    painter.setPen(QPen(emphasised ? text : SystemColors::secondaryText(palette()), 1.75,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(QRectF(style()->visualRect(layoutDirection(), rect(), place)).center());
+    painter.rotate(isChecked() ? 90 : (isRightToLeft() ? 180 : 0));
+    painter.drawPath(Glyphs::chevron({-2, -4, 4, 8}));
+    painter.restore();
+
+    painter.setPen(text);
+    const auto label = rect().adjusted(angleWidth + margin, 0, 0, 0);
+    painter.drawText(style()->visualRect(layoutDirection(), rect(), label),
+                     static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), this->text());
+    if (ControlFace::showsFocus(option.state))
+        ControlFace::paintFocusRing(painter, rect(), 4, SystemColors::blue(palette()));
+}

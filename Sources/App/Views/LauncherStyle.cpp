@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+#include "Views/LauncherStyle.h"
+
+#include "Views/ControlFace.h"
+#include "Views/Glyphs.h"
+#include "Views/SystemColors.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto horizontalButtonPadding = 14;
+constexpr auto verticalButtonPadding = 5;
+constexpr auto popUpArrowWidth = 26;
+constexpr auto scrollBarExtent = 12;
+constexpr auto shortestScrollBarSlider = 28;
+
+/// The colours that the light and the dark palette are made of.
+struct PaletteColors
+{
+    QColor window;
+    QColor base;
+    QColor button;
+    QColor text;
+    QColor selection;
+};
+
+QPalette paletteOf(const PaletteColors& colors)
+{
+    QPalette palette(colors.button, colors.window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, colors.text);
+    palette.setColor(QPalette::Base, colors.base);
+    palette.setColor(QPalette::AlternateBase, colors.window);
+    palette.setColor(QPalette::ToolTipBase, colors.base);
+    palette.setColor(QPalette::ToolTipText, colors.text);
+    palette.setColor(QPalette::Highlight, colors.selection);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    const auto faint = SystemColors::withOpacity(colors.text, 0.38);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faint);
+    const auto link = SystemColors::readable(SystemColors::blue(palette), colors.window, palette);
+    palette.setColor(QPalette::Link, link);
+    palette.setColor(QPalette::LinkVisited, link);
+    palette.setColor(QPalette::PlaceholderText, SystemColors::secondaryText(palette));
+    return palette;
+}
+
+void paintPopUpArrows(QPainter& painter, const QRectF& place, const QColor& color)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const auto direction : {-1, 1}) {
+        painter.save();
+        painter.translate(place.center() + QPointF(0, direction * 3.5));
+        painter.rotate(direction * 90);
+        painter.drawPath(Glyphs::chevron({-1.75, -3, 3.5, 6}));
+        painter.restore();
+    }
+    painter.restore();
+}
+
+void paintScrollBar(QPainter& painter, const QStyleOptionSlider& option, const QRectF& slider)
+{
+    if (option.maximum <= option.minimum)
+        return;
+    const auto active = option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider) &&
+                        option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
+    const auto text = option.palette.color(QPalette::WindowText);
+    const auto shape = slider.adjusted(3, 3, -3, -3);
+    const auto radius = std::min(shape.width(), shape.height()) / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SystemColors::withOpacity(text, active ? 0.5 : 0.3));
+    painter.drawRoundedRect(shape, radius, radius);
+    painter.restore();
+}
+
+/// A scroll bar without arrows: the groove is all of it.
+QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part)
+{
+    const auto horizontal = option.orientation == Qt::Horizontal;
+    const auto length = horizontal ? option.rect.width() : option.rect.height();
+    const auto range = option.maximum - option.minimum;
+    const auto wanted =
+        range > 0
+            ? static_cast<int>(qint64{length} * option.pageStep / (qint64{range} + option.pageStep))
+            : length;
+    const auto slider = std::min(length, std::max(wanted, shortestScrollBarSlider));
+    const auto start = QStyle::sliderPositionFromValue(
+        option.minimum, option.maximum, option.sliderPosition, length - slider, option.upsideDown);
+    const auto along = [&option, horizontal](int from, int count) {
+        const auto& bar = option.rect;
+        return horizontal ? QRect(bar.left() + from, bar.top(), count, bar.height())
+                          : QRect(bar.left(), bar.top() + from, bar.width(), count);
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarGroove:
+        return option.rect;
+    case QStyle::SC_ScrollBarSlider:
+        return along(start, slider);
+    case QStyle::SC_ScrollBarSubPage:
+        return along(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+        return along(start + slider, length - start - slider);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+LauncherStyle::LauncherStyle()
+    : QProxyStyle(QStringLiteral("fusion"))
+{
+}
+
+QPalette LauncherStyle::lightPalette()
+{
+    return paletteOf({.window = QColor(244, 244, 246),
+                      .base = Qt::white,
+                      .button = Qt::white,
+                      .text = QColor(29, 29, 31),
+                      .selection = QColor(0, 99, 225)});
+}
+
+QPalette LauncherStyle::darkPalette()
+{
+    return paletteOf({.window = QColor(30, 30, 32),
+                      .base = QColor(22, 22, 24),
+                      .button = QColor(62, 62, 66),
+                      .text = QColor(240, 240, 243),
+                      .selection = QColor(10, 100, 220)});
+}
+
+QPalette LauncherStyle::standardPalette() const
+{
+    return SystemColors::isDark(QProxyStyle::standardPalette()) ? darkPalette() : lightPalette();
+}
+
+void LauncherStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                                 const QPalette& palette, bool enabled, const QString& text,
+                                 QPalette::ColorRole role) const
+{
+    if (role != QPalette::PlaceholderText) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+        return;
+    }
+    auto secondary = palette;
+    secondary.setColor(role, SystemColors::secondaryText(palette));
+    QProxyStyle::drawItemText(painter, rect, flags, secondary, enabled, text, role);
+}
+
+void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                  QPainter* painter, const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        ControlFace::paint(*painter, option->rect, option->state, option->palette);
+        return;
+    case PE_FrameFocusRect:
+        // A button's face paints its own ring; this one is for the rest, links for example.
+        if (!qstyleoption_cast<const QStyleOptionButton*>(option) &&
+            !(widget && widget->inherits("QPushButton")))
+            ControlFace::paintFocusRing(*painter, option->rect, 4,
+                                        SystemColors::blue(option->palette));
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void LauncherStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const
+{
+    if (control == CC_ComboBox) {
+        ControlFace::paint(*painter, option->rect, option->state, option->palette);
+        const auto arrows = proxy()->subControlRect(control, option, SC_ComboBoxArrow, widget);
+        paintPopUpArrows(*painter, arrows, option->palette.color(QPalette::ButtonText));
+        return;
+    }
+    if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        bar && control == CC_ScrollBar) {
+        paintScrollBar(*painter, *bar, scrollBarPart(*bar, SC_ScrollBarSlider));
+        return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                    SubControl part, const QWidget* widget) const
+{
+    const auto& rect = option->rect;
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+        return visualRect(option->direction, rect,
+                          rect.adjusted(horizontalButtonPadding - 4, 1, -popUpArrowWidth, -1));
+    if (control == CC_ComboBox && part == SC_ComboBoxArrow)
+        return visualRect(
+            option->direction, rect,
+            {rect.right() + 1 - popUpArrowWidth, rect.top(), popUpArrowWidth, rect.height()});
+    if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        bar && control == CC_ScrollBar)
+        return visualRect(option->direction, rect, scrollBarPart(*bar, part));
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize LauncherStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                      const QSize& contents, const QWidget* widget) const
+{
+    const auto height = option ? option->fontMetrics.height() + 2 * verticalButtonPadding : 0;
+    switch (type) {
+    case CT_PushButton:
+        return {contents.width() + 2 * horizontalButtonPadding, std::max(height, 26)};
+    case CT_ComboBox:
+        return {contents.width() + horizontalButtonPadding + popUpArrowWidth, std::max(height, 26)};
+    default:
+        return QProxyStyle::sizeFromContents(type, option, contents, widget);
+    }
+}
+
+int LauncherStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                               const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_ScrollBarExtent:
+        return scrollBarExtent;
+    case PM_ScrollBarSliderMin:
+        return shortestScrollBarSlider;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int LauncherStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}

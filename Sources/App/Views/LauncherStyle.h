@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+/// How the launcher's stock controls look: Fusion, with the faces of ControlFace, slim scroll bars
+/// and palettes of its own where the platform brings none.
+///
+/// Everything is painted from the palette of the moment; there is no style sheet, which would cost
+/// more at start-up than the whole window.
+class LauncherStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    LauncherStyle();
+
+    [[nodiscard]] static QPalette lightPalette();
+    [[nodiscard]] static QPalette darkPalette();
+
+    /// Light or dark as the platform's own theme would have it.
+    [[nodiscard]] QPalette standardPalette() const override;
+
+    /// Text in the role PlaceholderText is drawn in the secondary text colour.
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                       SubControl part, const QWidget* widget) const override;
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                         const QSize& contents,
+                                         const QWidget* widget) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* returnData) const override;
+};

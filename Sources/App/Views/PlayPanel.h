@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Views/RoundedBox.h"
+
+class AppModel;
+class DisclosureButton;
+class LogView;
+class PlayButton;
+class ProgressBar;
+class QPushButton;
+class StatusDot;
+class TextBox;
+class TextLabel;
+
+/// Where the player starts and follows everything: status, progress, Play with Stop and Cancel, the
+/// report of a failure, and the log.
+///
+/// It keeps no state: everything it shows is derived anew from the model after each of its changes,
+/// and what has not changed is not touched.
+class PlayPanel final : public RoundedBox
+{
+    Q_OBJECT
+
+public:
+    /// `model` must outlive the panel.
+    explicit PlayPanel(AppModel& model);
+
+    /// The Return key, wherever nothing else uses it: presses Play if that is enabled.
+    void pressDefaultButton();
+
+    [[nodiscard]] PlayButton& playButton() { return *m_play; }
+
+private:
+    [[nodiscard]] QWidget* statusRow();
+    [[nodiscard]] QWidget* progressBlock();
+    [[nodiscard]] QWidget* buttonRow();
+    [[nodiscard]] QWidget* failureBlock();
+    [[nodiscard]] QWidget* logDisclosure();
+
+    void refresh();
+    void refreshStatus();
+    void refreshProgress();
+    void refreshButtons();
+    void refreshFailure();
+    void refreshLog();
+
+    AppModel& m_model;
+    StatusDot* m_dot = nullptr;
+    TextLabel* m_title = nullptr;
+    TextLabel* m_detail = nullptr;
+    QWidget* m_progressBlock = nullptr;
+    ProgressBar* m_progress = nullptr;
+    TextLabel* m_progressText = nullptr;
+    PlayButton* m_play = nullptr;
+    QPushButton* m_stop = nullptr;
+    QPushButton* m_cancel = nullptr;
+    QWidget* m_failureBlock = nullptr;
+    TextBox* m_failure = nullptr;
+    DisclosureButton* m_showLog = nullptr;
+    QWidget* m_disclosed = nullptr;
+    /// There only while it is shown.
+    LogView* m_log = nullptr;
+};

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QProgressBar>
+
+#include <optional>
+
+/// A thin linear progress bar. Without a fraction a short piece travels along it; that animation
+/// runs only while it can be seen.
+class ProgressBar final : public QProgressBar
+{
+    Q_OBJECT
+
+public:
+    ProgressBar();
+
+    /// 0 to 1, or nothing when it is not known how far the work is.
+    void setFraction(std::optional<double> fraction);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    [[nodiscard]] bool isIndeterminate() const { return minimum() == maximum(); }
+    /// Where the filled part lies, 0 to 1 along the bar.
+    [[nodiscard]] std::pair<double, double> filledPart() const;
+    void updateAnimation();
+
+    QBasicTimer m_animation;
+    QElapsedTimer m_travel;
+};

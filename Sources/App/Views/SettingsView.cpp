@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "Views/SettingsView.h"
+
+#include "AppModel.h"
+#include "Views/DestructiveButton.h"
+#include "Views/Divider.h"
+#include "Views/SegmentedPicker.h"
+#include "Views/Stack.h"
+#include "Views/TextLabel.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto spacing = 14;
+constexpr auto padding = 20;
+
+QString label(ResolutionChoice choice)
+{
+    if (choice == ResolutionChoice::gameDefault)
+        return SettingsView::tr("Game default");
+    return rawValue(choice).replace(u'x', QStringLiteral(" \u00d7 "));
+}
+
+/// A control with its label before it. The control takes the rest of the row.
+QWidget* labelled(const QString& text, QWidget* control)
+{
+    auto* const title = new QLabel(text);
+    title->setBuddy(control);
+    auto* const row = horizontalStack(defaultSpacing, {title, control});
+    control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return row;
+}
+
+/// Gives the labels of two rows one width, so that their controls stand under each other.
+void alignLabels(const QWidget& one, const QWidget& other)
+{
+    auto* const first = one.findChild<QLabel*>();
+    auto* const second = other.findChild<QLabel*>();
+    const auto width = std::max(first->sizeHint().width(), second->sizeHint().width());
+    first->setMinimumWidth(width);
+    second->setMinimumWidth(width);
+}
+
+} // namespace
+
+SettingsView::SettingsView(AppModel& model, QWidget* parent)
+    : Sheet(tr("Settings"), parent)
+    , m_model(model)
+{
+    auto* const window = windowPicker();
+    auto* const resolution = resolutionPicker();
+    alignLabels(*window, *resolution);
+
+    stackVertically(
+        *this, spacing, padding,
+        {
+            new TextLabel(TextStyle::title2, QFont::Bold, tr("Settings")),
+            window,
+            resolution,
+            new TextLabel(TextStyle::caption, tr("Applies the next time you press Play."),
+                          TextTone::secondary),
+            new Divider,
+            gameButtons(),
+            new TextLabel(
+                TextStyle::caption,
+                tr("Updating downloads the game again. Save files are kept; they live in Godot's "
+                   "own folder."),
+                TextTone::secondary),
+            folderButtons(),
+            m_noSaves = new TextLabel(TextStyle::caption,
+                                      tr("No saves yet (Godot's user folder does not exist)."),
+                                      TextTone::secondary),
+            removeRow(),
+            doneRow(),
+        });
+
+    connect(&m_model, &AppModel::changed, this, &SettingsView::refresh);
+    refresh();
+    m_model.updateSize();
+}
+
+QWidget* SettingsView::windowPicker()
+{
+    m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
+    connect(m_window, &SegmentedPicker::chosen, this,
+            [this](int index) { m_model.setFullscreen(index == 1); });
+    return labelled(tr("Window"), m_window);
+}
+
+QWidget* SettingsView::resolutionPicker()
+{
+    m_resolution = new QComboBox;
+    m_resolution->setAccessibleName(tr("Resolution"));
+    for (const auto choice : allResolutionChoices)
+        m_resolution->addItem(label(choice));
+    connect(m_resolution, &QComboBox::activated, this, [this](int index) {
+        m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
+    });
+    return labelled(tr("Resolution"), m_resolution);
+}
+
+QWidget* SettingsView::gameButtons()
+{
+    m_update = button(tr("Update the game"));
+    m_reinstall = button(tr("Reinstall"));
+    connect(m_update, &QPushButton::clicked, this, [this] {
+        m_model.updateGame();
+        accept();
+    });
+    connect(m_reinstall, &QPushButton::clicked, this, [this] {
+        m_model.reinstall();
+        accept();
+    });
+    return horizontalStack(defaultSpacing, {m_update, m_reinstall, StackItem::spacer()});
+}
+
+QWidget* SettingsView::folderButtons()
+{
+    auto* const reveal = button(tr("Reveal in Finder"));
+    m_showSaves = button(tr("Show saves"));
+    connect(reveal, &QPushButton::clicked, &m_model, &AppModel::revealInFinder);
+    connect(m_showSaves, &QPushButton::clicked, &m_model, &AppModel::showSaves);
+    return horizontalStack(defaultSpacing, {reveal, m_showSaves, StackItem::spacer()});
+}
+
+QWidget* SettingsView::removeRow()
+{
+    m_remove = new DestructiveButton;
+    m_remove->setAutoDefault(false);
+    connect(m_remove, &QPushButton::clicked, &m_model, &AppModel::removeEverything);
+    return horizontalStack(defaultSpacing, {m_remove, StackItem::spacer()});
+}
+
+void SettingsView::refresh()
+{
+    const auto busy = m_model.phase().isBusy();
+    const auto hasSaves = m_model.savesFolder().has_value();
+    const auto& size = m_model.installedSize();
+    const auto* const choice =
+        std::find(allResolutionChoices.begin(), allResolutionChoices.end(), m_model.resolution());
+
+    m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
+    m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));
+    m_update->setEnabled(!busy);
+    m_reinstall->setEnabled(!busy);
+    m_showSaves->setEnabled(hasSaves);
+    m_noSaves->setVisible(!hasSaves);
+    m_remove->setText(size.isEmpty() ? tr("Remove everything")
+                                     : tr("Remove everything (frees %1)").arg(size));
+    m_remove->setEnabled(!busy);
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+class QPushButton;
+
+/// A sheet over the main window: exactly 440 wide, as high as its content, closed by its Done
+/// button, by Return from anywhere in it and by Escape.
+class Sheet : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `parent` is the window the sheet hangs on and blocks while it is open.
+    Sheet(const QString& title, QWidget* parent);
+
+    /// A button that leaves Return to Done.
+    [[nodiscard]] static QPushButton* button(const QString& title);
+
+protected:
+    /// The last row of every sheet.
+    [[nodiscard]] QWidget* doneRow();
+    bool event(QEvent* event) override;
+};

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+
+/// A small disc that shows the launcher's status as a colour. Its accessible name says the same in
+/// words, for whom colour does not tell.
+class StatusDot final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// Gives the colour for the palette of the moment.
+    using Color = QColor (*)(const QPalette& palette);
+
+    explicit StatusDot(Color initial);
+
+    void setStatus(Color status, const QString& meaning);
+    /// The colour as it is shown.
+    [[nodiscard]] QColor color() const { return m_color(palette()); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Color m_color;
+};

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Views/SystemColors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace SystemColors {
+
+namespace {
+
+/// The least contrast at which text of ordinary size is readable for everyone.
+constexpr auto readableContrast = 4.5;
+/// What the panels add to the window: the secondary colour at this opacity.
+constexpr auto panelOpacity = 0.08;
+
+double linear(double component)
+{
+    return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+} // namespace
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+QColor blue(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(10, 132, 255) : QColor(0, 122, 255);
+}
+
+QColor green(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(50, 215, 75) : QColor(40, 205, 65);
+}
+
+QColor orange(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(255, 159, 10) : QColor(255, 149, 0);
+}
+
+QColor red(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(255, 69, 58) : QColor(255, 59, 48);
+}
+
+QColor gray(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(152, 152, 157) : QColor(142, 142, 147);
+}
+
+QColor secondaryText(const QPalette& palette)
+{
+    const auto window = palette.color(QPalette::Window);
+    const auto text = palette.color(QPalette::WindowText);
+    for (auto opacity = 0.55; opacity < 1; opacity += 0.01) {
+        const auto candidate = withOpacity(text, opacity);
+        const auto panel = blended(withOpacity(text, opacity * panelOpacity), window);
+        if (contrast(blended(candidate, panel), panel) >= readableContrast &&
+            contrast(blended(candidate, window), window) >= readableContrast)
+            return candidate;
+    }
+    return text;
+}
+
+QColor withOpacity(const QColor& color, double opacity)
+{
+    auto result = color;
+    result.setAlphaF(static_cast<float>(opacity));
+    return result;
+}
+
+QColor blended(const QColor& color, const QColor& background)
+{
+    const auto mix = [share = color.alphaF()](float front, float back) {
+        return front * share + back * (1 - share);
+    };
+    return QColor::fromRgbF(mix(color.redF(), background.redF()),
+                            mix(color.greenF(), background.greenF()),
+                            mix(color.blueF(), background.blueF()));
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor readable(const QColor& color, const QColor& background, const QPalette& palette)
+{
+    const auto text = palette.color(QPalette::WindowText);
+    for (auto share = 0.0; share < 1; share += 0.02) {
+        const auto candidate = blended(withOpacity(text, share), color);
+        if (contrast(candidate, background) >= readableContrast)
+            return candidate;
+    }
+    return text;
+}
+
+} // namespace SystemColors

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "Views/TextBox.h"
+
+#include "Views/ControlFace.h"
+#include "Views/Stack.h"
+#include "Views/SystemColors.h"
+#include "Views/TypeScale.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+
+namespace {
+
+constexpr auto cornerRadius = 6;
+constexpr auto padding = 6;
+
+} // namespace
+
+TextBox::TextBox(const QString& name, int height, Tint tint)
+    : RoundedBox(cornerRadius, tint)
+    , m_edit(new QPlainTextEdit)
+{
+    m_edit->setAccessibleName(name);
+    m_edit->setReadOnly(true);
+    m_edit->setUndoRedoEnabled(false);
+    m_edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_edit->setTabChangesFocus(true);
+    m_edit->setFrameShape(QFrame::NoFrame);
+    m_edit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_edit->document()->setDocumentMargin(0);
+    m_edit->viewport()->setAutoFillBackground(false);
+    m_edit->setFont(monospacedFont(TextStyle::caption));
+    m_edit->setFixedHeight(height);
+    m_edit->installEventFilter(this);
+    stackVertically(*this, 0, padding, {m_edit});
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void TextBox::setText(const QString& text)
+{
+    m_edit->setPlainText(text);
+}
+
+QString TextBox::text() const
+{
+    return m_edit->toPlainText();
+}
+
+bool TextBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationFontChange)
+        m_edit->setFont(monospacedFont(TextStyle::caption));
+    return RoundedBox::event(event);
+}
+
+bool TextBox::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    return RoundedBox::eventFilter(object, event);
+}
+
+void TextBox::paintEvent(QPaintEvent* event)
+{
+    RoundedBox::paintEvent(event);
+    if (!m_edit->hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
+    QPainter painter(this);
+    ControlFace::paintFocusRing(painter, rect(), cornerRadius, SystemColors::blue(palette()));
+}

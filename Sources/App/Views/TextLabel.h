@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Views/TypeScale.h"
+
+#include <QLabel>
+
+#include <functional>
+
+/// The two strengths of the window's text.
+enum class TextTone { primary, secondary };
+
+/// A text in one of the window's styles that wraps to as many lines as it needs.
+///
+/// Plain text only: what a repository or a server says is never taken for markup. It follows the
+/// system's font and palette while it is shown.
+class TextLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit TextLabel(TextStyle style, const QString& text = {},
+                       TextTone tone = TextTone::primary);
+    /// The same in another weight than the style's own.
+    TextLabel(TextStyle style, QFont::Weight weight, const QString& text);
+    /// The same at a size of its own, in device-independent pixels.
+    TextLabel(int pixelSize, QFont::Weight weight, const QString& text);
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    TextLabel(std::function<QFont()> font, const QString& text, TextTone tone);
+
+    /// Gives the font as the system would have it at the moment.
+    std::function<QFont()> m_font;
+};
