@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "Process/ImportWatcher.h"
+
+ImportWatcher::ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds limit)
+    : m_settled(settled)
+    , m_limit(limit)
+{
+}
+
+ImportWatcher::Step ImportWatcher::next(int count, std::chrono::milliseconds elapsed)
+{
+    Step step;
+    if (count != m_lastCount)
+        step.log.append(QStringLiteral("Import progress: %1 assets still to import").arg(count));
+    m_lastCount = count;
+    if (isSettled(count, elapsed)) {
+        step.log.append(QStringLiteral("All assets imported, closing the setup run."));
+        step.verdict = Verdict::End;
+    } else if (elapsed > m_limit) {
+        step.log.append(QStringLiteral("Setup took too long, stopping it."));
+        step.verdict = Verdict::End;
+    }
+    return step;
+}
+
+/// Whether this count of nothing missing comes long enough after the first one in a row.
+bool ImportWatcher::isSettled(int count, std::chrono::milliseconds elapsed)
+{
+    if (count != 0) {
+        m_allDoneSince.reset();
+        return false;
+    }
+    if (!m_allDoneSince) {
+        m_allDoneSince = elapsed;
+        return false;
+    }
+    return elapsed - *m_allDoneSince >= m_settled;
+}

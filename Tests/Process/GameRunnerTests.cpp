@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "Process/GameRunner.h"
+
+#include "Platform/PlatformError.h"
+#include "Support/Await.h"
+#include "Support/CollectedLines.h"
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoroTask>
+
+#include <csignal>
+#include <exception>
+#include <optional>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+TEST(GameRunner, playsInAWindowOfTheGamesOwnSize)
+{
+    EXPECT_EQ(GameRunner::playArguments(QStringLiteral("/the project"), false,
+                                        ResolutionChoice::gameDefault),
+              (QStringList{QStringLiteral("--path"), QStringLiteral("/the project"),
+                           QStringLiteral("--windowed")}));
+}
+
+TEST(GameRunner, playsFullScreenInAChosenSize)
+{
+    EXPECT_EQ(
+        GameRunner::playArguments(QStringLiteral("/p"), true, ResolutionChoice::r1440),
+        (QStringList{QStringLiteral("--path"), QStringLiteral("/p"), QStringLiteral("--fullscreen"),
+                     QStringLiteral("--resolution"), QStringLiteral("2560x1440")}));
+}
+
+Durations shortDurations()
+{
+    Durations durations;
+    durations.importPoll = 30ms;
+    durations.importSettled = 60ms;
+    durations.killGrace = 300ms;
+    return durations;
+}
+
+/// The outcome of a run; the exception is kept, since one must not leave an awaited task here.
+struct Outcome
+{
+    std::optional<int> status;
+    std::exception_ptr failure;
+
+    [[nodiscard]] bool isThere() const { return status || failure; }
+};
+
+class ImportRunTest : public testing::Test
+{
+protected:
+    QCoro::Task<> runInto(QString engine, std::chrono::milliseconds timeout)
+    {
+        try {
+            auto run = m_runner.runImport(engine, m_folder.path(QStringLiteral("project")), timeout,
+                                          m_output.callback());
+            m_outcome.status = co_await run;
+        } catch (...) {
+            m_outcome.failure = std::current_exception();
+        }
+    }
+
+    /// Starts the import with the shell script `body` as the engine.
+    void start(const QByteArray& body, std::chrono::milliseconds timeout = 60s)
+    {
+        m_task.emplace(runInto(m_folder.writeScript(QStringLiteral("engine"), body), timeout));
+    }
+
+    int finish()
+    {
+        waitUntil([this] { return m_outcome.isThere(); });
+        if (m_outcome.failure)
+            std::rethrow_exception(m_outcome.failure);
+        return m_outcome.status.value_or(-1);
+    }
+
+    void writeAsset() const { m_folder.write(QStringLiteral("project/a.png")); }
+
+    TestFolder m_folder;
+    QString m_project = m_folder.makeFolder(QStringLiteral("project"));
+    CollectedLines m_output;
+    GameRunner m_runner{shortDurations()};
+    Outcome m_outcome;
+    std::optional<QCoro::Task<>> m_task;
+};
+
+TEST_F(ImportRunTest, startsTheEditorOnTheProjectWithoutAWindow)
+{
+    start("for a in \"$@\"; do echo \"$a\"; done; exit 3");
+    EXPECT_EQ(finish(), 3);
+    EXPECT_EQ(m_output.lines(),
+              (QStringList{QStringLiteral("--path"), m_project, QStringLiteral("--editor"),
+                           QStringLiteral("--no-window")}));
+}
+
+TEST_F(ImportRunTest, holdsItsChildUntilItEnds)
+{
+    EXPECT_EQ(m_runner.process, nullptr);
+    start("exit 0");
+    ASSERT_NE(m_runner.process, nullptr);
+    EXPECT_TRUE(m_runner.process->isRunning());
+    finish();
+    EXPECT_EQ(m_runner.process, nullptr);
+}
+
+TEST_F(ImportRunTest, logsNothingOfItsOwnWhenTheEngineEndsBeforeTheFirstCount)
+{
+    writeAsset();
+    start("exit 0");
+    EXPECT_EQ(finish(), 0);
+    QTest::qWait(100);
+    EXPECT_EQ(m_output.lines(), QStringList());
+}
+
+TEST_F(ImportRunTest, isClosedOnceEverythingIsImported)
+{
+    writeAsset();
+    start("echo importing; sleep 0.2; : > \"$2/a.png.import\"; exec sleep 600");
+    EXPECT_EQ(finish(), SIGTERM);
+    EXPECT_EQ(m_output.lines(),
+              (QStringList{QStringLiteral("importing"),
+                           QStringLiteral("Import progress: 1 assets still to import"),
+                           QStringLiteral("Import progress: 0 assets still to import"),
+                           QStringLiteral("All assets imported, closing the setup run.")}));
+}
+
+TEST_F(ImportRunTest, isStoppedWhenItTakesTooLong)
+{
+    writeAsset();
+    start("exec sleep 600", 100ms);
+    EXPECT_EQ(finish(), SIGTERM);
+    EXPECT_EQ(m_output.lines(),
+              (QStringList{QStringLiteral("Import progress: 1 assets still to import"),
+                           QStringLiteral("Setup took too long, stopping it.")}));
+}
+
+TEST_F(ImportRunTest, killsAnEngineThatIgnoresTheRequestToStop)
+{
+    writeAsset();
+    start("trap '' TERM; while :; do sleep 0.05; done", 100ms);
+    EXPECT_EQ(finish(), SIGKILL);
+}
+
+TEST_F(ImportRunTest, canBeStoppedFromOutside)
+{
+    writeAsset();
+    start("exec sleep 600");
+    m_runner.terminateCurrent();
+    EXPECT_EQ(finish(), SIGTERM);
+    m_runner.terminateCurrent(); // There is nothing left to stop.
+}
+
+TEST_F(ImportRunTest, passesOnThatTheEngineCannotBeStarted)
+{
+    m_task.emplace(runInto(QStringLiteral("/nowhere/engine"), 60s));
+    EXPECT_THROW(finish(), PlatformError);
+    EXPECT_EQ(m_runner.process, nullptr);
+    EXPECT_EQ(m_output.lines(), QStringList());
+}
+
+TEST_F(ImportRunTest, endsAtOnceThoughItsNextCountIsFarAway)
+{
+    auto durations = shortDurations();
+    durations.importPoll = 1h;
+    GameRunner runner(durations);
+    auto task = runner.runImport(m_folder.writeScript(QStringLiteral("engine"), "exit 0"),
+                                 m_project, 60s, m_output.callback());
+    EXPECT_TRUE(waitUntil([&task] { return task.isReady(); }));
+}
+
+} // namespace
