@@ -199,7 +199,7 @@ void AppModel::clearProgress()
 
 LogCallback AppModel::logCallback()
 {
-    return [log = &m_log](const QString& line) { log->append(line); };
+    return m_log.callback();
 }
 
 void AppModel::enterDownloading(const QString& stepText)
