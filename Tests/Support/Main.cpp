@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "Support/WebHostScope.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 
 #include <cstdlib>
+#include <iostream>
 
 namespace {
 
@@ -12,9 +15,11 @@ void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& mes
 {
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
-    ADD_FAILURE() << "Qt said: " << message.toStdString();
-    if (type == QtFatalMsg)
+    if (type == QtFatalMsg) {
+        std::cerr << message.toStdString() << std::endl;
         std::abort();
+    }
+    ADD_FAILURE() << "Qt said: " << message.toStdString();
 }
 
 } // namespace
@@ -24,5 +29,6 @@ int main(int argumentCount, char** arguments)
     testing::InitGoogleTest(&argumentCount, arguments);
     const QCoreApplication application(argumentCount, arguments);
     qInstallMessageHandler(failOnWarning);
+    const WebHostScope nowhere(QStringLiteral("http://127.0.0.1:1"));
     return RUN_ALL_TESTS();
 }

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <chrono>
+
 /// How far a download has come.
 struct DownloadProgress
 {
@@ -13,6 +15,11 @@ struct DownloadProgress
     /// The average since the transfer started; always finite.
     double bytesPerSecond = 0;
 
-    /// E.g. "7.3 MB of 70.1 MB · 2.4 MB/s", without the total when that is unknown.
+    /// The progress of a transfer that started `elapsed` ago. The rate of the first moment is
+    /// taken over a whole millisecond, so that it stays finite.
+    static DownloadProgress after(std::chrono::nanoseconds elapsed, qint64 received, qint64 total);
+
+    /// E.g. "7.3 MB of 70.1 MB · 2.4 MB/s", without the total when that is unknown. A rate that is
+    /// not finite is a programming error and stops the program.
     [[nodiscard]] QString text() const;
 };

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 
 class HttpTransfer;
 
@@ -26,14 +27,14 @@ public:
     /// `onProgress` is called on the network thread, for every piece that arrives. A transfer in
     /// which no byte arrives for `stallLimit` fails.
     explicit FileDownloader(ProgressCallback onProgress,
-        std::chrono::milliseconds stallLimit = Durations().transferStall);
+                            std::chrono::milliseconds stallLimit = Durations().transferStall);
     ~FileDownloader();
 
     /// Downloads `url` into the existing folder `into`, replacing a file of that name, and gives
     /// the file's path. The file is named after the URL's last path component, or "download" when
-    /// that is empty. The future carries an AppError for a status other than 200, a PlatformError
-    /// for what the network or the file system reports, and Cancelled after cancel(). Must not be
-    /// called while a download is pending.
+    /// that is empty or no name for a file. The future carries an AppError for a status other than
+    /// 200, a PlatformError for what the network or the file system reports, and Cancelled after
+    /// cancel(). Must not be called while a download is pending.
     QFuture<QString> start(const QUrl& url, const QString& into);
 
     /// Ends the pending download, if any, with Cancelled. Any thread.
@@ -42,5 +43,6 @@ public:
 private:
     ProgressCallback m_onProgress;
     std::chrono::milliseconds m_stallLimit;
+    std::mutex m_mutex;
     std::shared_ptr<HttpTransfer> m_transfer;
 };

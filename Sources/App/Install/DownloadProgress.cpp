@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "Install/DownloadProgress.h"
+
+#include "Platform/ByteCount.h"
+
+#include <algorithm>
+#include <cmath>
+
+DownloadProgress DownloadProgress::after(std::chrono::nanoseconds elapsed, qint64 received,
+                                         qint64 total)
+{
+    const auto seconds = std::max(std::chrono::duration<double>(elapsed).count(), 0.001);
+    return {.received = received,
+            .total = total,
+            .bytesPerSecond = static_cast<double>(received) / seconds};
+}
+
+QString DownloadProgress::text() const
+{
+    if (!std::isfinite(bytesPerSecond))
+        qFatal("A download's rate must be finite.");
+    const auto amount = formattedByteCount(received);
+    const auto rate =
+        formattedByteCount(static_cast<qint64>(bytesPerSecond)) + QStringLiteral("/s");
+    if (total < 1)
+        return QStringLiteral("%1 · %2").arg(amount, rate);
+    return QStringLiteral("%1 of %2 · %3").arg(amount, formattedByteCount(total), rate);
+}

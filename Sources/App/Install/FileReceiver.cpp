@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "Install/FileReceiver.h"
+
+#include "AppError.h"
+#include "Platform/FileTree.h"
+#include "Platform/PlatformError.h"
+
+#include <QFile>
+#include <QUuid>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+FileReceiver::FileReceiver(const QUrl& url, const QString& folder, const QString& name,
+                           ProgressCallback onProgress, QPromise<QString> result)
+    : m_url(url)
+    , m_destination(folder + u'/' + name)
+    , m_partPath(folder + QStringLiteral("/.download-") +
+                 QUuid::createUuid().toString(QUuid::WithoutBraces))
+    , m_onProgress(std::move(onProgress))
+    , m_result(std::move(result))
+{
+    m_sinceStart.start();
+}
+
+FileReceiver::~FileReceiver()
+{
+    removePart();
+}
+
+void FileReceiver::begin(int status, qint64 length)
+{
+    if (status != 200)
+        throw AppError(QStringLiteral("The server answered with HTTP %1 for %2.")
+                           .arg(QString::number(status), m_url.toString(QUrl::FullyEncoded)));
+    m_length = length;
+    m_part.emplace(m_partPath);
+}
+
+void FileReceiver::take(QByteArrayView piece)
+{
+    m_part->write(piece);
+    m_received += piece.size();
+    m_onProgress(DownloadProgress::after(std::chrono::nanoseconds(m_sinceStart.nsecsElapsed()),
+                                         m_received, m_length));
+}
+
+void FileReceiver::complete()
+{
+    m_part->close();
+    FileTree::remove(m_destination);
+    if (std::rename(QFile::encodeName(m_partPath).constData(),
+                    QFile::encodeName(m_destination).constData()) != 0)
+        throw PlatformError::fromErrno(QStringLiteral("save “%1”").arg(m_destination), errno);
+    m_part.reset();
+    m_result.addResult(m_destination);
+    m_result.finish();
+}
+
+void FileReceiver::fail(const std::exception_ptr& error) noexcept
+{
+    removePart();
+    m_result.setException(error);
+    m_result.finish();
+}
+
+void FileReceiver::removePart() noexcept
+{
+    if (!m_part)
+        return;
+    m_part.reset();
+    FileTree::removeQuietly(m_partPath);
+}

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "Install/WebHost.h"
+
+QString webHost()
+{
+    return QStringLiteral("https://github.com");
+}

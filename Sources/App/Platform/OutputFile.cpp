@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/OutputFile.h"
+
+#include "Platform/PlatformError.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <utility>
+
+#include <unistd.h>
+
+OutputFile::OutputFile(const QString& path, mode_t mode)
+    : OutputFile(AT_FDCWD, QFile::encodeName(path), mode)
+{
+}
+
+OutputFile::OutputFile(int folder, const QByteArray& name, mode_t mode)
+    : m_name(name)
+    , m_descriptor(::openat(folder, name.constData(),
+                            O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode))
+{
+    if (m_descriptor < 0)
+        throw PlatformError::fromErrno(QStringLiteral("create “%1”").arg(shownName()), errno);
+}
+
+OutputFile::~OutputFile()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+void OutputFile::write(QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const auto written =
+            ::write(m_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (written >= 0)
+            bytes = bytes.sliced(written);
+        else if (errno != EINTR)
+            throw PlatformError::fromErrno(QStringLiteral("write “%1”").arg(shownName()), errno);
+    }
+}
+
+void OutputFile::close()
+{
+    // After an error, EINTR included, the descriptor is gone all the same.
+    if (::close(std::exchange(m_descriptor, -1)) != 0 && errno != EINTR)
+        throw PlatformError::fromErrno(QStringLiteral("write “%1”").arg(shownName()), errno);
+}
+
+QString OutputFile::shownName() const
+{
+    return QFile::decodeName(m_name);
+}
