@@ -52,6 +52,7 @@ void AppModel::reinstall()
     if (isBusy())
         return;
     m_flowRunning = true;
+    m_cancelled = false;
     Q_EMIT changed();
     m_flowTask = deleteAndReinstall();
 }
@@ -66,7 +67,10 @@ QCoro::Task<> AppModel::deleteAndReinstall()
     co_await removal;
     m_flowRunning = false;
     refreshState();
-    play();
+    if (m_cancelled)
+        Q_EMIT flowEnded(); // The player quit meanwhile.
+    else
+        play();
 }
 
 void AppModel::removeEverything()
