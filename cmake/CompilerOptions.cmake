@@ -19,3 +19,13 @@ if(CAVERNYX_SANITIZERS)
         -fsanitize=${CAVERNYX_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(CavernyxCompilerOptions INTERFACE -fsanitize=${CAVERNYX_SANITIZERS})
 endif()
+
+# cavernyx_precompile(<target> <header>...): compiles the heavy headers of the target's libraries
+# once. Off by default, so that a source that forgets an include does not go unnoticed; the presets
+# that compile everything several times over turn it on.
+option(CAVERNYX_PRECOMPILED_HEADERS "Compile the libraries' headers once for each target" OFF)
+function(cavernyx_precompile target)
+    if(CAVERNYX_PRECOMPILED_HEADERS)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
