@@ -88,7 +88,8 @@ TEST(LineBuffer, takesAChunkOfNoBytesWithoutChange)
 
 TEST(LineBuffer, givesTheSameLinesHoweverTheBytesAreCut)
 {
-    const QByteArray bytes("first\n\nthird with € in it\r\n\xff\nlast");
+    const QByteArray bytes(
+        "first\n\nthird with €😀 in it\r\n\xff\n\xe2\x82\n\xf0\x9f\x98z\xc0\xaf\nlast");
     const auto expected = QString::fromUtf8(bytes).split(u'\n');
     for (qsizetype size = 1; size <= bytes.size(); ++size) {
         LineBuffer buffer;
@@ -101,14 +102,25 @@ TEST(LineBuffer, givesTheSameLinesHoweverTheBytesAreCut)
     }
 }
 
-TEST(LineBuffer, givesCompleteLinesRawWithTheirLineFeeds)
+TEST(LineBuffer, handsLinesOverOneByOneInOrder)
 {
     LineBuffer buffer;
-    EXPECT_EQ(buffer.appendRaw("ab"), QByteArray());
-    EXPECT_EQ(buffer.appendRaw("c\n\nd\r\ne"), QByteArray("abc\n\nd\r\n"));
-    EXPECT_EQ(buffer.append("f\n"), strings({"ef"}));
-    EXPECT_EQ(buffer.appendRaw("g\n"), QByteArray("g\n"));
-    EXPECT_EQ(buffer.flush(), std::nullopt);
+    QStringList lines;
+    const auto take = [&lines](const QString& line) { lines.append(line); };
+    buffer.append("a\nb", take);
+    buffer.append("\n\nc", take);
+    EXPECT_EQ(lines, strings({"a", "b", ""}));
+    EXPECT_EQ(buffer.flush(), QStringLiteral("c"));
+}
+
+TEST(LineBuffer, replacesACharacterThatTheEndOfTheLineCutsOff)
+{
+    LineBuffer buffer;
+    buffer.append("a\xe2\x82");
+    EXPECT_EQ(buffer.append("\nb"), QStringList{QString::fromUtf8("a\xe2\x82")});
+    buffer.append("\xe2");
+    EXPECT_EQ(buffer.flush(), QString::fromUtf8("b\xe2"));
+    EXPECT_EQ(buffer.append("\x82\xac\n"), QStringList{QString::fromUtf8("\x82\xac")});
 }
 
 TEST(LineBuffer, losesNothingBetweenAnAppendAndAFlushOnDifferentThreads)

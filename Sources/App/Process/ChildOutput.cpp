@@ -54,7 +54,8 @@ void ChildOutput::finish()
             break;
         rest -= size;
     }
-    if (const auto lastLine = m_lines.flush())
+    const auto lastLine = m_onLine.takesBlocks() ? m_blocks.flush() : m_lines.flush();
+    if (lastLine)
         m_onLine(*lastLine);
 }
 
@@ -71,11 +72,9 @@ qsizetype ChildOutput::readAtMost(qsizetype size)
 void ChildOutput::deliver(QByteArrayView chunk)
 {
     if (m_onLine.takesBlocks()) {
-        if (const auto lines = m_lines.appendRaw(chunk); !lines.isEmpty())
+        if (const auto lines = m_blocks.append(chunk); !lines.isEmpty())
             m_onLine.takeBlock(lines);
-        return;
+    } else {
+        m_lines.append(chunk, [this](const QString& line) { m_onLine(line); });
     }
-    const auto lines = m_lines.append(chunk);
-    for (const auto& line : lines)
-        m_onLine(line);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/FileDescriptor.h"
+#include "Process/BlockBuffer.h"
 #include "Process/LineBuffer.h"
 #include "Process/LogCallback.h"
 
@@ -40,6 +41,8 @@ private:
     FileDescriptor m_readEnd;
     FileDescriptor m_writeEnd;
     std::unique_ptr<QSocketNotifier> m_notifier;
+    // Which of the two serves depends on what the callback takes.
+    BlockBuffer m_blocks;
     LineBuffer m_lines;
     std::vector<char> m_chunk;
 };
