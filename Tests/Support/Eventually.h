@@ -64,6 +64,17 @@ QCoro::Task<> settle(QCoro::Task<Value> task, std::shared_ptr<QPromise<Value>> p
     promise->finish();
 }
 
+inline QCoro::Task<> settle(QCoro::Task<> task, std::shared_ptr<QPromise<bool>> promise)
+{
+    try {
+        co_await task;
+        promise->addResult(true);
+    } catch (...) {
+        promise->setException(std::current_exception());
+    }
+    promise->finish();
+}
+
 } // namespace Detail
 
 /// The same for a coroutine.
@@ -71,6 +82,16 @@ template<typename Value>
 Outcome<Value> eventually(QCoro::Task<Value> task)
 {
     auto promise = std::make_shared<QPromise<Value>>();
+    promise->start();
+    const auto future = promise->future();
+    auto settled = Detail::settle(std::move(task), promise);
+    return eventually(future);
+}
+
+/// The same for a coroutine without a value, which then is "true".
+inline Outcome<bool> eventually(QCoro::Task<> task)
+{
+    auto promise = std::make_shared<QPromise<bool>>();
     promise->start();
     const auto future = promise->future();
     auto settled = Detail::settle(std::move(task), promise);

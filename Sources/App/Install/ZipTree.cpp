@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "Install/ZipTree.h"
+
+#include "Platform/PlatformError.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <limits>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr mode_t executableMode = 0755;
+constexpr mode_t plainMode = 0644;
+
+bool isFolder(int base, const std::string& place)
+{
+    struct stat status = {};
+    return ::fstatat(base, place.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode);
+}
+
+} // namespace
+
+ZipTree::ZipTree(const QString& destination)
+    : m_destination(destination)
+    , m_folder(
+          ::open(QFile::encodeName(destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+    if (m_folder < 0)
+        throw PlatformError::fromErrno(QStringLiteral("open the folder “%1”").arg(destination),
+                                       errno);
+}
+
+ZipTree::~ZipTree()
+{
+    ::close(m_folder);
+}
+
+void ZipTree::makeFolder(const std::string& place)
+{
+    if (place.empty() || m_made.contains(place))
+        return;
+    const auto slash = place.rfind('/');
+    if (slash != std::string::npos)
+        makeFolder(place.substr(0, slash));
+    if (::mkdirat(m_folder, place.c_str(), executableMode) != 0) {
+        const auto reason = errno;
+        if (reason != EEXIST || !isFolder(m_folder, place))
+            throw PlatformError::fromErrno(
+                QStringLiteral("create the folder “%1”").arg(QString::fromStdString(place)),
+                reason);
+    }
+    m_made.insert(place);
+}
+
+OutputFile ZipTree::makeFile(const QByteArray& place, bool executable)
+{
+    makeFolderAbove(place);
+    return OutputFile(m_folder, place, executable ? executableMode : plainMode);
+}
+
+void ZipTree::addLink(const QByteArray& place, const QByteArray& target)
+{
+    m_links.push_back({place, target});
+}
+
+void ZipTree::makeLinks()
+{
+    for (const auto& link : m_links) {
+        makeFolderAbove(link.place);
+        if (::symlinkat(link.target.constData(), m_folder, link.place.constData()) != 0)
+            throw PlatformError::fromErrno(
+                QStringLiteral("create the link “%1”").arg(QFile::decodeName(link.place)), errno);
+    }
+}
+
+qint64 ZipTree::freeSpace() const
+{
+    struct statvfs status = {};
+    if (::fstatvfs(m_folder, &status) != 0)
+        throw PlatformError::fromErrno(
+            QStringLiteral("read the free space of “%1”").arg(m_destination), errno);
+    const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);
+    constexpr auto most = std::numeric_limits<qint64>::max();
+    return bytes < static_cast<double>(most) ? static_cast<qint64>(bytes) : most;
+}
+
+void ZipTree::makeFolderAbove(const QByteArray& place)
+{
+    const auto slash = place.lastIndexOf('/');
+    if (slash > 0)
+        makeFolder(place.first(slash).toStdString());
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Install/ZipEntry.h"
+
+#include <QByteArray>
+
+#include <stop_token>
+#include <string>
+#include <unordered_map>
+
+class ZipError;
+
+/// Decides whether an archive may be unpacked, from the headers of all its entries.
+///
+/// An honest archive of a game or an engine holds files, folders and links between them, each once.
+/// Whatever could write or lead outside of the folder, overwrite another entry, or come to life as
+/// something other than that, makes the whole archive untrustworthy.
+class ZipVetting final
+{
+public:
+    /// Takes the next entry. Throws ZipError when it must not be unpacked.
+    void add(const ZipEntry& entry);
+
+    /// To be called after the last entry, when all links are known. Throws ZipError when one leads
+    /// outside of the folder, through others or not; and Cancelled when `stop` is requested.
+    void checkLinks(const std::stop_token& stop) const;
+
+    /// The bytes that the files will take.
+    [[nodiscard]] qint64 totalSize() const { return m_totalSize; }
+
+    /// Where in the folder an entry of this name belongs: the name without "." and empty parts. It
+    /// is empty for the folder itself. Throws ZipError for a name that leads elsewhere.
+    static QByteArray placeOf(const ZipEntry& entry);
+
+private:
+    /// What stands at a place; a folder is also one that only the names of others imply.
+    struct Place
+    {
+        ZipEntry::Kind kind = ZipEntry::Kind::Folder;
+        bool hasOwnEntry = false;
+        std::string target;
+    };
+
+    void addSize(const ZipEntry& entry);
+    void addFoldersAbove(const ZipEntry& entry, const std::string& place);
+    void addPlace(const ZipEntry& entry, const std::string& place);
+    void checkLink(const std::string& link) const;
+
+    std::unordered_map<std::string, Place> m_places;
+    qint64 m_totalSize = 0;
+};

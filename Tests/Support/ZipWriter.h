@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+#include <sys/stat.h>
+
+/// Writes zip archives, also such as no honest tool would write: every field of a header is free.
+class ZipWriter final
+{
+public:
+    struct Entry
+    {
+        QByteArray name;
+        QByteArray data = {};
+        /// The Unix mode; 0 for an archive of a system without modes.
+        quint32 mode = S_IFREG | 0644;
+        bool deflated = false;
+        bool zip64 = false;
+        /// Bit 0: encrypted; bit 11: the name is UTF-8.
+        quint16 flags = 0;
+        /// In place of the true checksum and size.
+        std::optional<quint32> checksum = std::nullopt;
+        std::optional<quint32> size = std::nullopt;
+    };
+
+    ZipWriter& add(const Entry& entry);
+    ZipWriter& addFile(const QByteArray& name, const QByteArray& data = {});
+    ZipWriter& addLink(const QByteArray& name, const QByteArray& target);
+
+    /// The whole archive, with its directory.
+    [[nodiscard]] QByteArray archive() const;
+
+private:
+    struct Written
+    {
+        Entry entry;
+        QByteArray body;
+        qint64 offset = 0;
+    };
+
+    static QByteArray commonHeader(const Written& written);
+    static QByteArray extraField(const Written& written, bool inDirectory);
+    static QByteArray directoryHeader(const Written& written);
+
+    QByteArray m_bytes;
+    QList<Written> m_entries;
+};
