@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/LinuxPlatform.h"
+
+#include "AppError.h"
+#include "Support/EnvironmentScope.h"
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+TEST(LinuxPlatform, keepsDataInTheUsersDataFolder)
+{
+    const EnvironmentScope home("HOME", "/home/player");
+    const EnvironmentScope data("XDG_DATA_HOME", std::nullopt);
+    EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/home/player/.local/share"));
+}
+
+TEST(LinuxPlatform, keepsDataWhereTheEnvironmentSaysSo)
+{
+    const EnvironmentScope data("XDG_DATA_HOME", "/data/größe/");
+    EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/data/größe"));
+}
+
+TEST(LinuxPlatform, ignoresADataFolderThatIsRelativeOrEmpty)
+{
+    const EnvironmentScope home("HOME", "/home/player");
+    for (const auto* value : {"relative/data", "", "~/data"}) {
+        const EnvironmentScope data("XDG_DATA_HOME", value);
+        EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/home/player/.local/share"));
+    }
+}
+
+TEST(LinuxPlatform, namesTheEngineArchiveOfEachProcessorAndEdition)
+{
+    const auto suffix = [](bool mono, const char* processor) {
+        return LinuxPlatform::engineArchiveSuffix(mono, QString::fromUtf8(processor)).toStdString();
+    };
+    EXPECT_EQ(suffix(false, "x86_64"), "x11.64.zip");
+    EXPECT_EQ(suffix(true, "x86_64"), "mono_x11_64.zip");
+    EXPECT_EQ(suffix(false, "i386"), "x11.32.zip");
+    EXPECT_EQ(suffix(true, "i386"), "mono_x11_32.zip");
+}
+
+TEST(LinuxPlatform, saysThatThereIsNoEngineForAnotherProcessor)
+{
+    try {
+        LinuxPlatform::engineArchiveSuffix(false, QStringLiteral("arm64"));
+        FAIL() << "There is one.";
+    } catch (const AppError& error) {
+        EXPECT_TRUE(error.message().contains(u"(arm64)")) << error.what();
+    }
+}
+
+class LinuxEngineProgram : public testing::Test
+{
+protected:
+    void write(const char* relative) const { m_folder.write(QString::fromUtf8(relative)); }
+
+    /// The found program, as seen from the engine folder; "none" when none was found.
+    [[nodiscard]] std::string found() const
+    {
+        const auto program = LinuxPlatform::findEngineProgram(m_folder.path());
+        return program ? QDir(m_folder.path()).relativeFilePath(*program).toStdString() : "none";
+    }
+
+    TestFolder m_folder;
+};
+
+TEST_F(LinuxEngineProgram, isFoundInBothEditions)
+{
+    write("Godot_v3.5.3-stable_mono_x11_64/GodotSharp/Api/Release/GodotSharp.dll");
+    write("Godot_v3.5.3-stable_mono_x11_64/Godot_v3.5.3-stable_mono_x11.64");
+    EXPECT_EQ(found(), "Godot_v3.5.3-stable_mono_x11_64/Godot_v3.5.3-stable_mono_x11.64");
+    write("Godot_v3.5.3-stable_x11.64");
+    EXPECT_EQ(found(), "Godot_v3.5.3-stable_x11.64");
+}
+
+TEST_F(LinuxEngineProgram, isTheFirstInPlainStringOrder)
+{
+    write("b/godot");
+    write("b/Godot");
+    EXPECT_EQ(found(), "b/Godot");
+    write("a/zgodot");
+    EXPECT_EQ(found(), "a/zgodot");
+}
+
+TEST_F(LinuxEngineProgram, isRecognisedInAnyCaseAndPlaceOfItsName)
+{
+    write("my-GoDoT-build");
+    EXPECT_EQ(found(), "my-GoDoT-build");
+}
+
+TEST_F(LinuxEngineProgram, isARegularFile)
+{
+    m_folder.makeFolder(QStringLiteral("godot"));
+    const TestFolder elsewhere;
+    const auto outside = elsewhere.write(QStringLiteral("file"));
+    ASSERT_TRUE(QFile::link(outside, m_folder.path(QStringLiteral("Godot_link"))));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), m_folder.path(QStringLiteral("folder"))));
+    write("readme.txt");
+    EXPECT_EQ(found(), "none");
+    write("godot/godot");
+    EXPECT_EQ(found(), "godot/godot");
+}
+
+TEST_F(LinuxEngineProgram, isNotThereWithoutTheFolder)
+{
+    EXPECT_EQ(LinuxPlatform::findEngineProgram(m_folder.path(QStringLiteral("none"))),
+              std::nullopt);
+}
+
+TEST_F(LinuxEngineProgram, isFoundWithoutWriting)
+{
+    write("godot");
+    const auto path = m_folder.path(QStringLiteral("godot"));
+    const auto before = QFile::permissions(path);
+    EXPECT_EQ(found(), "godot");
+    EXPECT_EQ(QFile::permissions(path), before);
+}
+
+TEST(LinuxPlatform, unpacksWithoutATool)
+{
+    EXPECT_EQ(LinuxPlatform::unpackCommand(QStringLiteral("/a.zip"), QStringLiteral("/b")),
+              std::nullopt);
+    EXPECT_EQ(LinuxPlatform::clearQuarantineCommand(QStringLiteral("/b")), std::nullopt);
+}
+
+TEST(LinuxPlatform, namesTheSavesFolderAsTheEngineDoes)
+{
+    const EnvironmentScope data("XDG_DATA_HOME", "/data");
+    const auto saves = [](const char* name) {
+        const auto folder = LinuxPlatform::savesFolder(QString::fromUtf8(name));
+        const auto parent = QStringLiteral("/data/godot/app_userdata/");
+        EXPECT_TRUE(folder.startsWith(parent)) << folder.toStdString();
+        return folder.sliced(parent.size()).toStdString();
+    };
+    EXPECT_EQ(saves("Tiny Größe!"), "Tiny Größe!");
+    EXPECT_EQ(saves("a:b*c?d\"e<f>g|h/i\\j"), "a-b-c-d-e-f-g-h-i-j");
+    EXPECT_EQ(saves(" \tspaced out "), "spaced out");
+    EXPECT_EQ(saves("../up"), "..-up");
+}
+
+} // namespace
