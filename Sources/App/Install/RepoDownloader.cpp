@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "Install/RepoDownloader.h"
+
+#include "AppError.h"
+#include "Install/FileDownloader.h"
+#include "Install/Finally.h"
+#include "Install/Paths.h"
+#include "Install/TemporaryFolder.h"
+#include "Install/Unzipper.h"
+#include "Install/WebHost.h"
+#include "Platform/Cancelled.h"
+#include "Platform/FileTree.h"
+#include "Platform/OffThread.h"
+#include "Project/ProjectInspector.h"
+
+#include <QCoroFuture>
+
+namespace {
+
+QString branch()
+{
+    return QStringLiteral("master");
+}
+
+/// Swaps the unpacked game in, and gives its project's folder. Blocks.
+QString putInPlace(const QString& staging, const std::stop_token& stop)
+{
+    if (!ProjectInspector::findProject(staging))
+        throw AppError(
+            QStringLiteral("The downloaded game does not contain a project.godot file."));
+    throwIfCancelled(stop);
+    FileTree::replace(Paths::game(), staging);
+    const auto project = ProjectInspector::findProject(Paths::game());
+    if (!project)
+        throw AppError(
+            QStringLiteral("The game folder was unpacked but project.godot was not found."));
+    return *project;
+}
+
+QCoro::Task<QString> unpackAndPutInPlace(QString archive, QString staging, LogCallback log,
+                                         std::stop_token stop)
+{
+    auto unpacking = Unzipper::unzip(archive, staging, log, stop);
+    co_await unpacking;
+    const auto placing = offThread([=] { return putInPlace(staging, stop); });
+    const QString project = co_await placing;
+    co_return project;
+}
+
+QCoro::Task<QString> fetchThrough(QString temporary, std::shared_ptr<FileDownloader> downloader,
+                                  LogCallback log, std::stop_token stop)
+{
+    log(QStringLiteral("Downloading the game source from GitHub (branch %1)…").arg(branch()));
+    const auto url = RepoDownloader::zipURL();
+    throwIfCancelled(stop);
+    const auto download = downloader->start(url, temporary);
+    const std::stop_callback cancel(stop, [downloader] { downloader->cancel(); });
+    const QString archive = co_await download;
+    throwIfCancelled(stop);
+    log(QStringLiteral("Unpacking the game with ditto…"));
+    const auto ensured = offThread([] { Paths::ensure(Paths::root()); });
+    co_await ensured;
+    const auto staging = Paths::newStagingFolder(Paths::game());
+    auto installing = finallyOffThread(unpackAndPutInPlace(archive, staging, log, stop),
+                                       [staging] { FileTree::removeQuietly(staging); });
+    const QString project = co_await installing;
+    log(QStringLiteral("Game ready at %1").arg(project));
+    co_return project;
+}
+
+} // namespace
+
+QUrl RepoDownloader::zipURL()
+{
+    const QUrl url(
+        webHost() +
+            QStringLiteral("/brindlework-demos/tetherwalk/archive/refs/heads/%1.zip").arg(branch()),
+        QUrl::StrictMode);
+    if (!url.isValid())
+        throw AppError(QStringLiteral("Invalid game URL."));
+    return url;
+}
+
+QCoro::Task<QString> RepoDownloader::fetch(std::shared_ptr<FileDownloader> downloader,
+                                           LogCallback log, std::stop_token stop)
+{
+    const auto created =
+        offThread([] { return std::make_shared<TemporaryFolder>(Paths::newTempDir()); });
+    const std::shared_ptr<TemporaryFolder> temporary = co_await created;
+    auto fetching = finallyOffThread(fetchThrough(temporary->path(), downloader, log, stop),
+                                     [temporary] { temporary->remove(); });
+    const QString project = co_await fetching;
+    co_return project;
+}

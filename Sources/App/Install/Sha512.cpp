@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "Install/Sha512.h"
+
+#include "Platform/Cancelled.h"
+#include "Platform/PlatformError.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <openssl/evp.h>
+
+#include <array>
+#include <cerrno>
+#include <memory>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t pieceSize = 4'194'304;
+
+class InputFile final
+{
+public:
+    explicit InputFile(const QString& path)
+        : m_path(path)
+        , m_descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
+    {
+        if (m_descriptor < 0)
+            throw PlatformError::fromErrno(QStringLiteral("open “%1”").arg(path), errno);
+    }
+    ~InputFile() { ::close(m_descriptor); }
+
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    /// Gives the number of bytes read; 0 at the end.
+    std::size_t read(char* buffer, std::size_t size)
+    {
+        while (true) {
+            const auto count = ::read(m_descriptor, buffer, size);
+            if (count >= 0)
+                return static_cast<std::size_t>(count);
+            if (errno != EINTR)
+                throw PlatformError::fromErrno(QStringLiteral("read “%1”").arg(m_path), errno);
+        }
+    }
+
+private:
+    QString m_path;
+    int m_descriptor;
+};
+
+class Hash final
+{
+public:
+    Hash() { check(m_context && EVP_DigestInit_ex(m_context.get(), EVP_sha512(), nullptr) == 1); }
+
+    void add(const char* bytes, std::size_t size)
+    {
+        check(EVP_DigestUpdate(m_context.get(), bytes, size) == 1);
+    }
+
+    QByteArray digest()
+    {
+        std::array<unsigned char, EVP_MAX_MD_SIZE> bytes = {};
+        unsigned int size = 0;
+        check(EVP_DigestFinal_ex(m_context.get(), bytes.data(), &size) == 1);
+        return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(size)};
+    }
+
+private:
+    static void check(bool succeeded)
+    {
+        if (!succeeded)
+            throw PlatformError(QStringLiteral("Could not compute a SHA-512 checksum."));
+    }
+
+    struct Free
+    {
+        void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
+    };
+    std::unique_ptr<EVP_MD_CTX, Free> m_context{EVP_MD_CTX_new()};
+};
+
+} // namespace
+
+QString sha512OfFile(const QString& path, const std::stop_token& stop)
+{
+    InputFile file(path);
+    Hash hash;
+    const auto buffer = std::make_unique_for_overwrite<char[]>(pieceSize);
+    while (true) {
+        throwIfCancelled(stop);
+        const auto size = file.read(buffer.get(), pieceSize);
+        if (size == 0)
+            break;
+        hash.add(buffer.get(), size);
+    }
+    return QString::fromLatin1(hash.digest().toHex());
+}

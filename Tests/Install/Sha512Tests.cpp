@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "Install/EngineManager.h"
+
+#include "Platform/Cancelled.h"
+#include "Platform/PlatformError.h"
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QCryptographicHash>
+#include <QFile>
+
+TEST(Sha512, ofAnEmptyFileIsThatOfTheEmptyString)
+{
+    const TestFolder folder;
+
+    EXPECT_EQ(EngineManager::sha512(folder.write(QStringLiteral("empty"))),
+              QStringLiteral("cf83e1357eefb8bdf1542850d66d8007d620e4050b5715dc83f4a921d36ce9ce"
+                             "47d0d13c5d85f2b0ff8318d2877eec2f63b931bd47417a81a538327af927da3e"));
+}
+
+TEST(Sha512, isTheStandardOneOnEitherSideOfAPiece)
+{
+    const TestFolder folder;
+    for (const auto size : {1, 3, 4'194'303, 4'194'304, 4'194'305, 9'000'000}) {
+        QByteArray bytes(size, 'a');
+        bytes[size / 2] = 'b';
+
+        const auto digest = EngineManager::sha512(folder.write(QStringLiteral("file"), bytes));
+
+        EXPECT_EQ(digest.toLatin1(),
+                  QCryptographicHash::hash(bytes, QCryptographicHash::Sha512).toHex())
+            << size;
+    }
+}
+
+TEST(Sha512, saysWhichFileCannotBeRead)
+{
+    const TestFolder folder;
+    for (const auto& path : {folder.path(QStringLiteral("missing")), folder.path()}) {
+        try {
+            (void)EngineManager::sha512(path);
+            ADD_FAILURE() << "It was read.";
+        } catch (const PlatformError& error) {
+            EXPECT_TRUE(error.message().contains(path)) << error.what();
+        }
+    }
+}
+
+TEST(Sha512, endsWithCancelled)
+{
+    const TestFolder folder;
+    const auto file = folder.write(QStringLiteral("file"), "x");
+    std::stop_source stop;
+    stop.request_stop();
+
+    EXPECT_THROW((void)EngineManager::sha512(file, stop.get_token()), Cancelled);
+}
