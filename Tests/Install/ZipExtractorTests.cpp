@@ -9,8 +9,10 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include <csignal>
+#include <random>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -89,6 +91,26 @@ TEST_F(ZipExtractorTest, unpacksFilesAndFolders)
     EXPECT_EQ(folder.read(unpacked(QStringLiteral("top/stored"))), "stored bytes");
     EXPECT_EQ(folder.read(unpacked(QStringLiteral("top/deep/er/deflated"))), large);
     EXPECT_EQ(folder.read(unpacked(QStringLiteral("top/empty"))), "");
+}
+
+TEST_F(ZipExtractorTest, unpacksFilesWhereverTheInputBufferEnds)
+{
+    // Entries of many sizes lie across the buffer's end in every way.
+    std::minstd_rand random(1);
+    QHash<QString, QByteArray> contents;
+    ZipWriter zip;
+    for (int i = 0; i < 2'000; ++i) {
+        QByteArray data(static_cast<qsizetype>(1 + random() % 500), Qt::Uninitialized);
+        for (auto& byte : data)
+            byte = static_cast<char>(random() % 64);
+        zip.add({.name = QByteArray::number(i), .data = data, .deflated = true});
+        contents.insert(QString::number(i), data);
+    }
+
+    EXPECT_EQ(extract(zip), 0) << log.join(u'\n').toStdString();
+
+    for (const auto& [name, data] : contents.asKeyValueRange())
+        EXPECT_EQ(folder.read(unpacked(name)), data) << name.toStdString();
 }
 
 TEST_F(ZipExtractorTest, keepsTheExecuteBitAndNoOtherMode)

@@ -97,11 +97,14 @@ QByteArrayView ZipReader::read()
     const void* bytes = nullptr;
     std::size_t size = 0;
     la_int64_t offset = 0;
-    const auto result = archive_read_data_block(m_reader.get(), &bytes, &size, &offset);
-    if (result == ARCHIVE_EOF)
-        return {};
-    if (result != ARCHIVE_OK)
-        throw damage();
+    // A block may be empty in the middle of an entry, where the library's input buffer ends.
+    do {
+        const auto result = archive_read_data_block(m_reader.get(), &bytes, &size, &offset);
+        if (result == ARCHIVE_EOF)
+            return {};
+        if (result != ARCHIVE_OK)
+            throw damage();
+    } while (size == 0);
     return {static_cast<const char*>(bytes), static_cast<qsizetype>(size)};
 }
 
