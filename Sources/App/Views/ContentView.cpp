@@ -88,7 +88,6 @@ ContentView::ContentView(AppModel& model)
     setWidget(column);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWindowTitle(tr("Cavernyx Platformer"));
     fitToScreen();

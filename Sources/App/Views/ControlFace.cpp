@@ -36,6 +36,29 @@ void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPa
         paintFocusRing(painter, rect, radius, SystemColors::blue(palette));
 }
 
+void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
+                    const QPalette& palette, double cornerRadius)
+{
+    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(state.testFlag(QStyle::State_Enabled)
+                         ? inState(SystemColors::blue(palette), state, palette)
+                         : SystemColors::withOpacity(text, 0.12));
+    painter.drawRoundedRect(rect, cornerRadius, cornerRadius);
+    painter.restore();
+    if (showsFocus(state))
+        paintFocusRing(painter, rect.adjusted(2, 2, -2, -2), cornerRadius - 2, Qt::white);
+}
+
+QColor prominentText(QStyle::State state, const QPalette& palette)
+{
+    if (state.testFlag(QStyle::State_Enabled))
+        return Qt::white;
+    return SystemColors::withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.38);
+}
+
 bool showsFocus(QStyle::State state)
 {
     return state.testFlag(QStyle::State_HasFocus) &&

@@ -12,7 +12,7 @@
 namespace {
 
 /// The place of the angle before the title, and the room around both for the focus ring.
-constexpr auto angleWidth = 16;
+constexpr auto angleWidth = 12;
 constexpr auto margin = 4;
 
 } // namespace

@@ -50,6 +50,13 @@ QPalette paletteOf(const PaletteColors& colors)
     return palette;
 }
 
+/// Whether this is the button that Return presses; it is filled with the accent colour.
+bool isDefaultButton(const QStyleOption& option)
+{
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
 void paintPopUpArrows(QPainter& painter, const QRectF& place, const QColor& color)
 {
     painter.save();
@@ -162,7 +169,11 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 {
     switch (element) {
     case PE_PanelButtonCommand:
-        ControlFace::paint(*painter, option->rect, option->state, option->palette);
+        if (isDefaultButton(*option))
+            ControlFace::paintProminent(*painter, option->rect, option->state, option->palette,
+                                        ControlFace::radius);
+        else
+            ControlFace::paint(*painter, option->rect, option->state, option->palette);
         return;
     case PE_FrameFocusRect:
         // A button's face paints its own ring; this one is for the rest, links for example.
@@ -174,6 +185,19 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+void LauncherStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const
+{
+    if (element != CE_PushButtonLabel || !isDefaultButton(*option)) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    auto label = *qstyleoption_cast<const QStyleOptionButton*>(option);
+    label.palette.setColor(QPalette::ButtonText,
+                           ControlFace::prominentText(option->state, option->palette));
+    QProxyStyle::drawControl(element, &label, painter, widget);
 }
 
 void LauncherStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

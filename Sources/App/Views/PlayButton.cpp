@@ -4,7 +4,6 @@
 #include "Views/ControlFace.h"
 #include "Views/Glyphs.h"
 #include "Views/Stack.h"
-#include "Views/SystemColors.h"
 #include "Views/TypeScale.h"
 
 #include <QEvent>
@@ -51,21 +50,10 @@ void PlayButton::paintEvent(QPaintEvent*)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    const auto enabled = option.state.testFlag(QStyle::State_Enabled);
-    const auto text = palette().color(QPalette::Active, QPalette::WindowText);
-    const auto face =
-        enabled ? ControlFace::inState(SystemColors::blue(palette()), option.state, palette())
-                : SystemColors::withOpacity(text, 0.12);
-
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(face);
-    painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
-    if (ControlFace::showsFocus(option.state))
-        ControlFace::paintFocusRing(painter, QRectF(rect()).adjusted(2, 2, -2, -2),
-                                    cornerRadius - 2, Qt::white);
-    paintLabel(painter, enabled ? Qt::white : SystemColors::withOpacity(text, 0.38));
+    ControlFace::paintProminent(painter, rect(), option.state, palette(), cornerRadius);
+    paintLabel(painter, ControlFace::prominentText(option.state, palette()));
 }
 
 void PlayButton::paintLabel(QPainter& painter, const QColor& color) const

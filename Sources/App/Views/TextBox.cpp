@@ -66,8 +66,14 @@ bool TextBox::eventFilter(QObject* object, QEvent* event)
 void TextBox::paintEvent(QPaintEvent* event)
 {
     RoundedBox::paintEvent(event);
-    if (!m_edit->hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
-        return;
     QPainter painter(this);
-    ControlFace::paintFocusRing(painter, rect(), cornerRadius, SystemColors::blue(palette()));
+    if (m_edit->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        ControlFace::paintFocusRing(painter, rect(), cornerRadius, SystemColors::blue(palette()));
+        return;
+    }
+    // On a dark panel the tint alone would hardly tell where the box ends.
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(SystemColors::withOpacity(palette().color(QPalette::WindowText), 0.08));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
+                            cornerRadius);
 }

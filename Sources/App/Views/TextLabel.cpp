@@ -3,12 +3,20 @@
 
 #include <QEvent>
 
+#include <algorithm>
+
+namespace {
+
+/// The narrowest column that a text is asked to wrap in.
+constexpr auto leastWidth = 80;
+
+} // namespace
+
 TextLabel::TextLabel(std::function<QFont()> font, const QString& text, TextTone tone)
     : m_font(std::move(font))
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     // The style draws this role in the secondary colour of the palette of the moment.
     setForegroundRole(tone == TextTone::secondary ? QPalette::PlaceholderText
                                                   : QPalette::WindowText);
@@ -30,6 +38,15 @@ TextLabel::TextLabel(int pixelSize, QFont::Weight weight, const QString& text)
     : TextLabel([pixelSize, weight] { return systemFont(pixelSize, weight); }, text,
                 TextTone::primary)
 {
+}
+
+QSize TextLabel::minimumSizeHint() const
+{
+    if (!wordWrap())
+        return QLabel::minimumSizeHint();
+    // The height follows from the width that the label is given. One guessed from a small width
+    // would make the column that all stands in taller than it has to be.
+    return {std::min(QLabel::minimumSizeHint().width(), leastWidth), fontMetrics().height()};
 }
 
 bool TextLabel::event(QEvent* event)

@@ -26,6 +26,8 @@ public:
     /// The same at a size of its own, in device-independent pixels.
     TextLabel(int pixelSize, QFont::Weight weight, const QString& text);
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     bool event(QEvent* event) override;
 
