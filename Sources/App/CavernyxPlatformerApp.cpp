@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "CavernyxPlatformerApp.h"
+
+#include "AppDelegate.h"
+#include "AppModel.h"
+#include "ColorScheme.h"
+#include "Views/ContentView.h"
+#include "Views/LauncherStyle.h"
+#include "WidgetDesktop.h"
+
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// While the application starts, Qt's own words for a display that cannot be opened, and its abort,
+/// are replaced by one sentence. Whatever the cause is - no display, no permission, no plug-in for
+/// it - Qt alone knows, and only so late.
+class DisplayCheck final
+{
+public:
+    DisplayCheck() { qInstallMessageHandler(handle); }
+    ~DisplayCheck() { qInstallMessageHandler(nullptr); }
+
+    DisplayCheck(const DisplayCheck&) = delete;
+    DisplayCheck& operator=(const DisplayCheck&) = delete;
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext&, const QString&)
+    {
+        if (type != QtFatalMsg)
+            return;
+        std::fputs(
+            "Cavernyx Platformer needs a graphical desktop, and no display could be opened.\n",
+            stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+};
+
+/// Names and settings that have to be known before the application is made.
+int prepare(int argumentCount)
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Cavernyx Platformer"));
+    QCoreApplication::setApplicationName(QStringLiteral("Cavernyx Platformer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CAVERNYX_VERSION));
+    QGuiApplication::setDesktopFileName(
+        QStringLiteral("io.github.brindlework_demos.CavernyxPlatformer"));
+    // A fraction of the screen's scale is used as it is, so that sizes stay exact.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication::setStyle(new LauncherStyle);
+    return argumentCount;
+}
+
+QApplication makeApplication(int& argumentCount, char** arguments)
+{
+    const DisplayCheck check;
+    prepare(argumentCount);
+    return QApplication(argumentCount, arguments);
+}
+
+} // namespace
+
+AppModel& AppModel::shared()
+{
+    static WidgetDesktop desktop;
+    // Never released: it serves until the process is gone.
+    static auto& model = *new AppModel(desktop);
+    return model;
+}
+
+CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
+    : m_arguments{programName, nullptr}
+    , m_application(makeApplication(m_argumentCount, m_arguments))
+{
+    // Nothing is edited here; a caret in the selectable texts need not wake the processor.
+    QApplication::setCursorFlashTime(0);
+    // The delegate decides when the program ends.
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadTranslation();
+}
+
+int CavernyxPlatformerApp::run()
+{
+    ColorScheme colorScheme;
+    ContentView window(AppModel::shared());
+    AppDelegate delegate(AppModel::shared(), window);
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+void CavernyxPlatformerApp::loadTranslation()
+{
+    auto* const translator = new QTranslator(&m_application);
+    const auto folder = QCoreApplication::applicationDirPath() +
+                        QStringLiteral("/../share/cavernyx-platformer/translations");
+    if (translator->load(QLocale(), QStringLiteral("cavernyx-platformer"), QStringLiteral("_"),
+                         folder))
+        QCoreApplication::installTranslator(translator);
+}

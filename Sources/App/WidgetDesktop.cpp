@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "WidgetDesktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace {
+
+constexpr auto alertIconSize = 64;
+
+/// The window that the player is looking at, a sheet before the main window.
+QWidget* frontWindow()
+{
+    if (auto* const modal = QApplication::activeModalWidget())
+        return modal;
+    const auto windows = QApplication::topLevelWidgets();
+    for (auto* const window : windows) {
+        if (window->isVisible() && !window->parent())
+            return window;
+    }
+    return nullptr;
+}
+
+QDBusMessage showItems(const QString& path)
+{
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
+                                                  QStringLiteral("/org/freedesktop/FileManager1"),
+                                                  QStringLiteral("org.freedesktop.FileManager1"),
+                                                  QStringLiteral("ShowItems"));
+    message << QStringList{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)} << QString();
+    return message;
+}
+
+} // namespace
+
+bool WidgetDesktop::confirm(const QString& title, const QString& message, const QString& button)
+{
+    QMessageBox alert(frontWindow());
+    alert.setWindowTitle(QCoreApplication::applicationName());
+    alert.setWindowModality(Qt::WindowModal);
+    alert.setIconPixmap(QApplication::windowIcon().pixmap(alertIconSize));
+    alert.setTextFormat(Qt::PlainText);
+    alert.setText(title);
+    alert.setInformativeText(message);
+    auto* const action = alert.addButton(button, QMessageBox::AcceptRole);
+    auto* const cancel = alert.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole);
+    alert.setDefaultButton(action);
+    alert.setEscapeButton(cancel);
+    alert.exec();
+    return alert.clickedButton() == action;
+}
+
+void WidgetDesktop::copyText(const QString& text)
+{
+    QApplication::clipboard()->setText(text);
+}
+
+void WidgetDesktop::openFolder(const QString& path)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void WidgetDesktop::revealFolder(const QString& path)
+{
+    const auto parent = QFileInfo(path).path();
+    const auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        openFolder(parent);
+        return;
+    }
+    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(showItems(path)), qApp);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                     [this, parent](QDBusPendingCallWatcher* call) {
+                         call->deleteLater();
+                         if (call->isError())
+                             openFolder(parent);
+                     });
+}
