@@ -3,6 +3,7 @@
 
 #include "AppModel.h"
 #include "Views/AboutView.h"
+#include "Views/FontChange.h"
 #include "Views/HeaderArt.h"
 #include "Views/PlayButton.h"
 #include "Views/PlayPanel.h"
@@ -150,6 +151,12 @@ void ContentView::refreshFacts()
     const auto& facts = m_model.facts();
     m_summary->setText(facts.summary);
     m_credits->setText(facts.license + QStringLiteral(" \u00b7 ") + facts.author);
+}
+
+bool ContentView::event(QEvent* event)
+{
+    passOnFontChange(*this, *event);
+    return QScrollArea::event(event);
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)

@@ -23,6 +23,7 @@ public:
     static constexpr auto leastSize = QSize(620, 760);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     [[nodiscard]] QSize sizeHint() const override { return leastSize; }

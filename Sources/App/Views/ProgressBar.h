@@ -19,6 +19,9 @@ public:
     /// 0 to 1, or nothing when it is not known how far the work is.
     void setFraction(std::optional<double> fraction);
 
+    /// Whether the animation runs.
+    [[nodiscard]] bool isAnimating() const { return m_animation.isActive(); }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 

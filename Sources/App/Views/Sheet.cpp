@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Views/Sheet.h"
 
+#include "Views/FontChange.h"
 #include "Views/Stack.h"
 
 #include <QEvent>
@@ -41,6 +42,7 @@ QWidget* Sheet::doneRow()
 bool Sheet::event(QEvent* event)
 {
     const auto handled = QDialog::event(event);
+    passOnFontChange(*this, *event);
     // The content wraps, so its height follows from the fixed width and has to be asked for.
     if (event->type() == QEvent::LayoutRequest && layout())
         setFixedHeight(layout()->heightForWidth(sheetWidth));

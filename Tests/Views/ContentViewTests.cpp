@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "Support/AppModelAccess.h"
+#include "Views/ViewTest.h"
+
+#include "Views/AboutView.h"
+#include "Views/HeaderArt.h"
+#include "Views/PlayPanel.h"
+#include "Views/SettingsView.h"
+
+#include <QScreen>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+using ContentViewTest = ViewTest;
+
+TEST_F(ContentViewTest, isNoSmallerThan620By760UnlessTheScreenIs)
+{
+    EXPECT_EQ(ContentView::leastSize, QSize(620, 760));
+    const auto least = ContentView::leastSize.boundedTo(window().screen()->availableSize());
+    window().resize(100, 100);
+    settle();
+    EXPECT_EQ(window().size(), least);
+}
+
+TEST_F(ContentViewTest, hasTheNameOfTheProgramAsItsTitle)
+{
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Cavernyx Platformer"));
+}
+
+TEST_F(ContentViewTest, pads20AroundAColumnSpacedBy16)
+{
+    const auto banner = place(only<HeaderArt>());
+    const auto panel = place(only<PlayPanel>());
+    const auto settings = place(*button(QStringLiteral("Settings\u2026")));
+    EXPECT_EQ(banner.topLeft(), QPoint(20, 20));
+    EXPECT_EQ(banner.width(), window().viewport()->width() - 40);
+    EXPECT_EQ(panel.left(), 20);
+    EXPECT_EQ(panel.width(), banner.width());
+    EXPECT_EQ(place(*label(model().facts().summary)).top() - banner.bottom() - 1, 16);
+    EXPECT_EQ(settings.top() - panel.bottom() - 1, 16);
+    EXPECT_EQ(settings.left(), 20);
+}
+
+TEST_F(ContentViewTest, showsTheFactsWithLicenceAndAuthor)
+{
+    EXPECT_TRUE(label(QStringLiteral("A short platform/adventure demo project to teach how to "
+                                     "create similar 2D games, inspired by cavernyxes.")));
+    EXPECT_TRUE(label(QStringLiteral("MIT License \u00b7 Quennet (Brindlework)")));
+
+    AppModelAccess::setFacts(
+        model(), {QStringLiteral("<b>S</b>"), QStringLiteral("L"), QStringLiteral("A")});
+    settle();
+    auto* const summary = label(QStringLiteral("<b>S</b>"));
+    ASSERT_TRUE(summary);
+    EXPECT_EQ(summary->textFormat(), Qt::PlainText) << "what a repository says is no markup";
+    auto* const credits = label(QStringLiteral("L \u00b7 A"));
+    ASSERT_TRUE(credits);
+    EXPECT_EQ(place(*credits).top() - place(*summary).bottom() - 1, 6);
+}
+
+TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
+{
+    AppModelAccess::setFacts(model(), {QString(), QString(), QString()});
+    settle();
+    EXPECT_TRUE(label(QString()));
+    EXPECT_TRUE(label(QStringLiteral(" \u00b7 ")));
+}
+
+TEST_F(ContentViewTest, listsTheFiveControlsInOrder)
+{
+    const std::pair<QString, QString> controls[]{
+        {QStringLiteral("Move"), QStringLiteral("A / D, or the left stick")},
+        {QStringLiteral("Jump"), QStringLiteral("Space or W, or the A button")},
+        {QStringLiteral("Grappling hook"),
+         QStringLiteral("Left mouse button, or a shoulder button")},
+        {QStringLiteral("Aim"), QStringLiteral("Hold F, or use the right stick")},
+        {QStringLiteral("Restart"), QStringLiteral("Alt + R")},
+    };
+    auto above = place(*label(QStringLiteral("Controls")));
+    for (const auto& [action, binding] : controls) {
+        auto* const left = label(action);
+        auto* const right = label(binding);
+        ASSERT_TRUE(left && right) << action.toStdString();
+        EXPECT_EQ(place(*left).width(), 120);
+        EXPECT_EQ(place(*right).left() - place(*left).right() - 1, 8);
+        EXPECT_EQ(place(*left).top(), place(*right).top());
+        EXPECT_EQ(place(*left).top() - above.bottom() - 1, 4);
+        EXPECT_EQ(left->font().weight(), QFont::Medium);
+        above = place(*right);
+    }
+    EXPECT_TRUE(label(QStringLiteral("The README has no controls list (see README); these come "
+                                     "from the game's input settings.")));
+}
+
+TEST_F(ContentViewTest, opensOneSheetAtATimeAndTakesItAwayWithEscape)
+{
+    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
+    EXPECT_TRUE(settings.isVisible());
+    button(QStringLiteral("About"))->click();
+    settle();
+    EXPECT_FALSE(window().findChild<AboutView*>());
+    QTest::keyClick(&settings, Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(window().findChild<SettingsView*>());
+    EXPECT_TRUE(open<AboutView>(QStringLiteral("About")).isVisible());
+}
+
+TEST_F(ContentViewTest, leavesEscapeWithoutEffectInTheWindow)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_TRUE(model().phase() == Phase::Kind::playing);
+}
+
+TEST_F(ContentViewTest, scrollsNoFurtherThanItsContent)
+{
+    settle();
+    const auto last = place(*button(QStringLiteral("About")));
+    const auto end = window().widget()->mapTo(&window(), QPoint(0, window().widget()->height()));
+    const auto bottom = std::max(last.bottom() + 1 + 20, window().viewport()->height());
+    EXPECT_EQ(end.y(), bottom);
+}
+
+TEST_F(ContentViewTest, growsItsTextsWithTheSystemsFont)
+{
+    auto* const title = label(QStringLiteral("Controls"));
+    const auto before = title->font().pointSizeF();
+    const auto system = QApplication::font();
+    auto larger = system;
+    larger.setPointSizeF(system.pointSizeF() * 4 / 3);
+    QApplication::setFont(larger);
+    settle();
+    EXPECT_NEAR(title->font().pointSizeF(), before * 4 / 3, 0.01);
+    QApplication::setFont(system);
+}
+
+TEST(HeaderArt, hasSixPlatformsOfTheirSizes)
+{
+    EXPECT_EQ(HeaderArt::barSizes(),
+              (QList<QSize>{{40, 10}, {63, 27}, {86, 10}, {59, 27}, {82, 10}, {55, 27}}));
+}
+
+TEST(HeaderArt, paintsItsGradientAndPlatformsToTheNumbers)
+{
+    HeaderArt art;
+    art.resize(580, art.height());
+    EXPECT_EQ(art.height(), 150);
+    const auto picture = art.grab().toImage();
+    // The middle of the diagonal, where the second colour of three stands alone.
+    const auto middle = picture.pixelColor(290, 2);
+    EXPECT_GT(middle.blueF(), middle.greenF());
+    // The second platform, 27 high: its inside is a quarter darker than what is above it.
+    const auto left = (580 - 475) / 2 + 40 + 18;
+    const auto inside = picture.pixelColor(left + 30, 150 - 25);
+    const auto above = picture.pixelColor(left + 30, 150 - 30);
+    EXPECT_NEAR(inside.redF(), above.redF() * 0.75F, 0.02);
+    EXPECT_NEAR(inside.blueF(), above.blueF() * 0.75F, 0.02);
+}
+
+} // namespace

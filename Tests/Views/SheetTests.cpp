@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "Support/AppModelAccess.h"
+#include "Views/ViewTest.h"
+
+#include "Views/AboutView.h"
+#include "Views/SegmentedPicker.h"
+#include "Views/SettingsView.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLayout>
+#include <QPointer>
+#include <QTest>
+
+namespace {
+
+class SettingsViewTest : public ViewTest
+{
+protected:
+    SettingsView& sheet()
+    {
+        auto* const open = window().findChild<SettingsView*>();
+        return open ? *open : this->open<SettingsView>(QStringLiteral("Settings\u2026"));
+    }
+    QAbstractButton& control(const QString& text) { return *button(sheet(), text); }
+    QComboBox& resolution() { return only<QComboBox>(sheet()); }
+    /// The remove button, whatever its title.
+    QAbstractButton& removal()
+    {
+        const auto buttons = sheet().findChildren<QAbstractButton*>();
+        for (auto* const candidate : buttons) {
+            if (candidate->text().startsWith(QStringLiteral("Remove everything")))
+                return *candidate;
+        }
+        qFatal("There is no remove button.");
+    }
+};
+
+TEST_F(SettingsViewTest, is440WideAndPaddedBy20)
+{
+    EXPECT_EQ(sheet().width(), 440);
+    EXPECT_EQ(sheet().layout()->contentsMargins(), QMargins(20, 20, 20, 20));
+    EXPECT_EQ(sheet().layout()->spacing(), 14);
+    EXPECT_EQ(place(control(QStringLiteral("Done"))).right(), 440 - 20 - 1);
+    EXPECT_EQ(place(control(QStringLiteral("Done"))).bottom(), sheet().height() - 20 - 1);
+}
+
+TEST_F(SettingsViewTest, hasItsTextsInOrder)
+{
+    auto bottom = 0;
+    for (const auto& text :
+         {QStringLiteral("Settings"), QStringLiteral("Window"), QStringLiteral("Resolution"),
+          QStringLiteral("Applies the next time you press Play."),
+          QStringLiteral("Updating downloads the game again. Save files are kept; they live in "
+                         "Godot's own folder."),
+          QStringLiteral("No saves yet (Godot's user folder does not exist).")}) {
+        auto* const found = label(sheet(), text);
+        ASSERT_TRUE(found) << text.toStdString();
+        EXPECT_TRUE(found->isVisible());
+        EXPECT_GT(place(*found).top(), bottom);
+        bottom = place(*found).bottom();
+    }
+}
+
+TEST_F(SettingsViewTest, writesTheWindowModeAtOnce)
+{
+    control(QStringLiteral("Fullscreen")).click();
+    EXPECT_TRUE(model().fullscreen());
+    control(QStringLiteral("Windowed")).click();
+    EXPECT_FALSE(model().fullscreen());
+}
+
+TEST_F(SettingsViewTest, offersTheResolutionsInOrderAndWritesTheChoiceAtOnce)
+{
+    QStringList labels;
+    for (auto i = 0; i < resolution().count(); ++i)
+        labels.append(resolution().itemText(i));
+    EXPECT_EQ(labels,
+              (QStringList{QStringLiteral("Game default"), QStringLiteral("1280 \u00d7 720"),
+                           QStringLiteral("1600 \u00d7 900"), QStringLiteral("1920 \u00d7 1080"),
+                           QStringLiteral("2560 \u00d7 1440")}));
+    resolution().setFocus();
+    QTest::keyClick(&resolution(), Qt::Key_Down);
+    EXPECT_EQ(model().resolution(), ResolutionChoice::r720);
+}
+
+TEST_F(SettingsViewTest, showsTheStoredSettings)
+{
+    model().setFullscreen(true);
+    model().setResolution(ResolutionChoice::r1080);
+    EXPECT_EQ(only<SegmentedPicker>(sheet()).current(), 1);
+    EXPECT_EQ(resolution().currentText(), QStringLiteral("1920 \u00d7 1080"));
+}
+
+TEST_F(SettingsViewTest, disablesWhatWouldDisturbWhileBusy)
+{
+    for (const auto& phase : {Phase::downloading(), Phase::settingUp(), Phase::playing()}) {
+        AppModelAccess::setPhase(model(), phase);
+        EXPECT_FALSE(control(QStringLiteral("Update the game")).isEnabled());
+        EXPECT_FALSE(control(QStringLiteral("Reinstall")).isEnabled());
+        EXPECT_FALSE(removal().isEnabled());
+        EXPECT_TRUE(control(QStringLiteral("Fullscreen")).isEnabled());
+        EXPECT_TRUE(resolution().isEnabled());
+        EXPECT_TRUE(control(QStringLiteral("Reveal in Finder")).isEnabled());
+        EXPECT_TRUE(control(QStringLiteral("Done")).isEnabled());
+    }
+    AppModelAccess::setPhase(model(), Phase::ready());
+    EXPECT_TRUE(control(QStringLiteral("Update the game")).isEnabled());
+    EXPECT_TRUE(control(QStringLiteral("Reinstall")).isEnabled());
+    EXPECT_TRUE(removal().isEnabled());
+}
+
+TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
+{
+    ProjectInfo info;
+    info.name = QStringLiteral("Swing");
+    AppModelAccess::setInfo(model(), info);
+    EXPECT_FALSE(control(QStringLiteral("Show saves")).isEnabled());
+    EXPECT_TRUE(label(sheet(), QStringLiteral("No saves yet (Godot's user folder does not exist)."))
+                    ->isVisible());
+
+    ASSERT_TRUE(QDir().mkpath(home.path(QStringLiteral("data/godot/app_userdata/Swing"))));
+    AppModelAccess::setInfo(model(), info);
+    EXPECT_TRUE(control(QStringLiteral("Show saves")).isEnabled());
+    EXPECT_FALSE(
+        label(sheet(), QStringLiteral("No saves yet (Godot's user folder does not exist)."))
+            ->isVisible());
+    control(QStringLiteral("Show saves")).click();
+    EXPECT_EQ(desktop.opened.size(), 1);
+    EXPECT_TRUE(sheet().isVisible());
+}
+
+TEST_F(SettingsViewTest, namesWhatRemovingFrees)
+{
+    AppModelAccess::setInstalledSize(model(), {});
+    EXPECT_EQ(removal().text(), QStringLiteral("Remove everything"));
+    AppModelAccess::setInstalledSize(model(), QStringLiteral("312.4 MB"));
+    EXPECT_EQ(removal().text(), QStringLiteral("Remove everything (frees 312.4 MB)"));
+}
+
+TEST_F(SettingsViewTest, staysOpenAfterRemovingButClosesAfterUpdating)
+{
+    desktop.answer = false;
+    const QPointer<SettingsView> open(&sheet());
+    removal().click();
+    settle();
+    EXPECT_EQ(desktop.questions.constLast().title, QStringLiteral("Remove everything?"));
+    ASSERT_TRUE(open && open->isVisible());
+    control(QStringLiteral("Update the game")).click();
+    settle();
+    EXPECT_EQ(desktop.questions.constLast().title, QStringLiteral("Update the game?"));
+    EXPECT_FALSE(open);
+}
+
+TEST_F(SettingsViewTest, closesWithReturnFromAnywhereInIt)
+{
+    for (const auto& text : {QStringLiteral("Windowed"), QStringLiteral("Reinstall"),
+                             QStringLiteral("Reveal in Finder"), QStringLiteral("Done")}) {
+        const QPointer<SettingsView> open(&sheet());
+        control(text).setFocus();
+        QTest::keyClick(&control(text), Qt::Key_Return);
+        settle();
+        EXPECT_FALSE(open) << text.toStdString();
+        EXPECT_TRUE(desktop.questions.isEmpty());
+    }
+    const QPointer<SettingsView> open(&sheet());
+    resolution().setFocus();
+    QTest::keyClick(&resolution(), Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(open);
+}
+
+class AboutViewTest : public ViewTest
+{
+protected:
+    AboutView& sheet()
+    {
+        auto* const open = window().findChild<AboutView*>();
+        return open ? *open : this->open<AboutView>(QStringLiteral("About"));
+    }
+};
+
+TEST_F(AboutViewTest, is440WideWithItsTextsInOrder)
+{
+    EXPECT_EQ(sheet().width(), 440);
+    EXPECT_EQ(sheet().layout()->spacing(), 10);
+    auto bottom = 0;
+    for (const auto& text :
+         {QStringLiteral("About"),
+          QStringLiteral("The game \"Snaglet!\" is made by Quennet and the Brindlework team, 2019, "
+                         "and is released under the MIT License. The game belongs to its author; "
+                         "this app is only a launcher that downloads it."),
+          QStringLiteral("Based on brindlework-demos/tetherwalk, MIT License."),
+          QStringLiteral("The Godot engine is free software under the MIT License "
+                         "(godotengine.org). It is downloaded from the official godotengine/godot "
+                         "releases and checked against the published SHA-512 checksum."),
+          QStringLiteral("Nothing is sent anywhere except the two downloads (the game from GitHub "
+                         "and the engine from GitHub releases).")}) {
+        auto* const found = label(sheet(), text);
+        ASSERT_TRUE(found) << text.toStdString();
+        EXPECT_GT(place(*found).top(), bottom);
+        EXPECT_GE(found->height(), found->heightForWidth(found->width())) << "nothing is cut";
+        bottom = place(*found).bottom();
+    }
+}
+
+TEST_F(AboutViewTest, showsTheAddressItselfAsALink)
+{
+    const auto address = QStringLiteral("https://github.com/brindlework-demos/tetherwalk");
+    auto* const link = label(sheet(), QStringLiteral("<a href=\"%1\">%1</a>").arg(address));
+    ASSERT_TRUE(link);
+    EXPECT_EQ(link->accessibleName(), address);
+    EXPECT_TRUE(link->openExternalLinks());
+    EXPECT_TRUE(link->textInteractionFlags() & Qt::LinksAccessibleByKeyboard);
+}
+
+TEST_F(AboutViewTest, closesWithReturn)
+{
+    const QPointer<AboutView> open(&sheet());
+    QTest::keyClick(open, Qt::Key_Return);
+    settle();
+    EXPECT_FALSE(open);
+}
+
+} // namespace
