@@ -8,6 +8,7 @@
 #include "Views/LauncherStyle.h"
 #include "WidgetDesktop.h"
 
+#include <QIcon>
 #include <QLocale>
 #include <QTranslator>
 
@@ -41,7 +42,7 @@ private:
 };
 
 /// Names and settings that have to be known before the application is made.
-int prepare(int argumentCount)
+void prepare()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Cavernyx Platformer"));
     QCoreApplication::setApplicationName(QStringLiteral("Cavernyx Platformer"));
@@ -52,13 +53,21 @@ int prepare(int argumentCount)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication::setStyle(new LauncherStyle);
-    return argumentCount;
+}
+
+/// The icon at the sizes that are shown here; the desktop finds the others where it is installed.
+QIcon programIcon()
+{
+    QIcon icon;
+    icon.addFile(QStringLiteral(":/icon/icon-64.png"));
+    icon.addFile(QStringLiteral(":/icon/icon-128.png"));
+    return icon;
 }
 
 QApplication makeApplication(int& argumentCount, char** arguments)
 {
     const DisplayCheck check;
-    prepare(argumentCount);
+    prepare();
     return QApplication(argumentCount, arguments);
 }
 
@@ -81,6 +90,7 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
     // The delegate decides when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
     loadTranslation();
+    QApplication::setWindowIcon(programIcon());
 }
 
 int CavernyxPlatformerApp::run()
