@@ -7,6 +7,7 @@
 #include "Views/PlayPanel.h"
 #include "Views/SettingsView.h"
 
+#include <QAccessible>
 #include <QScreen>
 #include <QTest>
 
@@ -28,6 +29,13 @@ TEST_F(ContentViewTest, isNoSmallerThan620By760UnlessTheScreenIs)
 TEST_F(ContentViewTest, hasTheNameOfTheProgramAsItsTitle)
 {
     EXPECT_EQ(window().windowTitle(), QStringLiteral("Cavernyx Platformer"));
+}
+
+TEST_F(ContentViewTest, isAWindowToAssistiveTechnology)
+{
+    auto* const accessible = QAccessible::queryAccessibleInterface(&window());
+    EXPECT_EQ(accessible->role(), QAccessible::Window);
+    EXPECT_EQ(accessible->text(QAccessible::Name), window().windowTitle());
 }
 
 TEST_F(ContentViewTest, pads20AroundAColumnSpacedBy16)

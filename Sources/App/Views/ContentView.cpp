@@ -11,6 +11,7 @@
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
+#include <QAccessibleWidget>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -70,11 +71,21 @@ QPushButton* sheetButton(const QString& title)
     return button;
 }
 
+/// A scroll area that is a window says so to assistive technology: a scroll area alone is only a
+/// nameless container there.
+QAccessibleInterface* windowInterface(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("ContentView"))
+        return nullptr;
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
+}
+
 } // namespace
 
 ContentView::ContentView(AppModel& model)
     : m_model(model)
 {
+    QAccessible::installFactory(windowInterface);
     auto* const column = new QWidget;
     stackVertically(*column, spacing, padding,
                     {

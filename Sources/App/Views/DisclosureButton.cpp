@@ -30,7 +30,7 @@ DisclosureButton::DisclosureButton(const QString& title)
 QSize DisclosureButton::sizeHint() const
 {
     const auto label = fontMetrics().size(Qt::TextSingleLine, text());
-    return {angleWidth + label.width() + 2 * margin, label.height() + margin};
+    return {angleWidth + label.width() + 3 * margin, label.height() + margin};
 }
 
 void DisclosureButton::paintEvent(QPaintEvent*)
@@ -39,7 +39,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     initStyleOption(&option);
     const auto text = palette().color(QPalette::WindowText);
     const auto emphasised = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const auto place = QRect(0, 0, angleWidth, height());
+    const auto place = QRect(margin / 2, 0, angleWidth, height());
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -52,7 +52,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     painter.restore();
 
     painter.setPen(text);
-    const auto label = rect().adjusted(angleWidth + margin, 0, 0, 0);
+    const auto label = rect().adjusted(angleWidth + 3 * margin / 2, 0, 0, 0);
     painter.drawText(style()->visualRect(layoutDirection(), rect(), label),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), this->text());
     if (ControlFace::showsFocus(option.state))
