@@ -126,6 +126,10 @@ TEST_F(ContentViewTest, leavesEscapeWithoutEffectInTheWindow)
 
 TEST_F(ContentViewTest, scrollsNoFurtherThanItsContent)
 {
+    window().setMinimumSize(ContentView::leastSize);
+    AppModelAccess::setPhase(model(), Phase::needs(QStringLiteral("It broke. ").repeated(20)));
+    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
+    model().setShowLog(true);
     settle();
     const auto last = place(*button(QStringLiteral("About")));
     const auto end = window().widget()->mapTo(&window(), QPoint(0, window().widget()->height()));

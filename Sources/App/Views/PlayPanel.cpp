@@ -94,8 +94,7 @@ PlayPanel::PlayPanel(AppModel& model)
 
 void PlayPanel::pressDefaultButton()
 {
-    if (m_play->isEnabled())
-        m_play->click();
+    m_play->click();
 }
 
 QWidget* PlayPanel::statusRow()
