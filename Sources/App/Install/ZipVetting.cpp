@@ -153,7 +153,11 @@ void ZipVetting::checkLink(const std::string& link) const
             here = folderOf(here);
             continue;
         }
-        auto next = here.empty() ? part : here + '/' + part;
+        // Not one expression: GCC 12 takes part of the temporary for uninitialised.
+        auto next = here;
+        if (!next.empty())
+            next += '/';
+        next += part;
         const auto known = m_places.find(next);
         if (known == m_places.end() || known->second.kind != ZipEntry::Kind::Link) {
             here = std::move(next);
