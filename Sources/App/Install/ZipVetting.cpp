@@ -147,7 +147,7 @@ void ZipVetting::checkLink(const std::string& link) const
     while (!rest.empty()) {
         const auto part = std::move(rest.back());
         rest.pop_back();
-        if (part == "..") {
+        if (std::string_view(part) == "..") {
             if (here.empty())
                 refuse(QStringLiteral("leads outside the folder"));
             here = folderOf(here);
