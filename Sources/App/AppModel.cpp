@@ -6,13 +6,13 @@
 #include "Install/FileDownloader.h"
 #include "Install/Paths.h"
 #include "Platform/ByteCount.h"
+#include "Platform/OffThread.h"
 #include "Platform/PlatformError.h"
 #include "ProgressRelay.h"
 #include "Project/ProjectInspector.h"
 
 #include <QFile>
 #include <QSettings>
-#include <QtConcurrent>
 
 #include <algorithm>
 
@@ -147,7 +147,7 @@ void AppModel::updateSize()
         return; // Nothing can be installed where there is no home; the phase says so.
     }
     const auto measurement = ++m_sizesStarted;
-    QtConcurrent::run([root, stop = m_sizeStop.get_token()] {
+    offThread([root, stop = m_sizeStop.get_token()] {
         return Paths::size(root, stop);
     }).then(this, [this, measurement](qint64 bytes) { applySize(measurement, bytes); });
 }

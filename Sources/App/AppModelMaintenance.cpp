@@ -9,12 +9,12 @@
 #include "Install/Paths.h"
 #include "Platform/FileTree.h"
 #include "Platform/HostPlatform.h"
+#include "Platform/OffThread.h"
 #include "ProgressRelay.h"
 
 #include <QCoroFuture>
 #include <QFile>
 #include <QFileInfo>
-#include <QtConcurrent>
 
 namespace {
 
@@ -60,7 +60,7 @@ void AppModel::reinstall()
 QCoro::Task<> AppModel::deleteAndReinstall()
 {
     const QStringList folders{Paths::game(), Paths::engines()};
-    const auto removal = QtConcurrent::run([folders] {
+    const auto removal = offThread([folders] {
         for (const auto& folder : folders)
             FileTree::removeQuietly(folder);
     });
@@ -96,7 +96,7 @@ QCoro::Task<> AppModel::deleteRoot()
 {
     std::optional<QString> failure;
     try {
-        const auto removal = QtConcurrent::run(&FileTree::remove, Paths::root());
+        const auto removal = offThread([root = Paths::root()] { FileTree::remove(root); });
         co_await removal;
     } catch (const std::exception& error) {
         failure = QString::fromUtf8(error.what());

@@ -11,13 +11,13 @@
 #include "Install/Paths.h"
 #include "Install/RepoDownloader.h"
 #include "Platform/Cancelled.h"
+#include "Platform/OffThread.h"
 #include "ProgressRelay.h"
 #include "Project/ImportChecker.h"
 #include "Project/ProjectInspector.h"
 
 #include <QCoroFuture>
 #include <QFile>
-#include <QtConcurrent>
 
 namespace {
 
@@ -36,8 +36,7 @@ QString projectLine(const ProjectInfo& info)
 
 QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
 {
-    return QtConcurrent::run(
-        [project, stop] { return ImportChecker::missingCount(project, stop); });
+    return offThread([project, stop] { return ImportChecker::missingCount(project, stop); });
 }
 
 /// A marker that cannot be written only means that the next Play imports once more.
@@ -100,7 +99,8 @@ QCoro::Task<> AppModel::runSteps(std::stop_token stop)
 
 QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
 {
-    const auto search = QtConcurrent::run(&ProjectInspector::findProject, Paths::game());
+    const auto search =
+        offThread([game = Paths::game()] { return ProjectInspector::findProject(game); });
     const auto installed = co_await search;
     throwIfCancelled(stop);
     if (installed && !m_forceGameDownload) {
@@ -118,11 +118,12 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
 
 QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
 {
-    const auto reading = QtConcurrent::run(&ProjectInspector::inspect, project);
+    const auto reading = offThread([project] { return ProjectInspector::inspect(project); });
     const auto info = co_await reading;
     if (!info)
         throw AppError(QStringLiteral("The downloaded folder has no readable project.godot."));
-    const auto gathering = QtConcurrent::run(&ProjectInspector::facts, project, Paths::game());
+    const auto gathering = offThread(
+        [project, game = Paths::game()] { return ProjectInspector::facts(project, game); });
     m_facts = co_await gathering;
     m_info = info;
     Q_EMIT changed();
@@ -136,7 +137,7 @@ QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
 QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
 {
     const EngineManager manager{.mono = info.usesCSharp};
-    const auto search = QtConcurrent::run([manager] { return manager.executable(); });
+    const auto search = offThread([manager] { return manager.executable(); });
     auto engine = co_await search;
     if (engine) {
         m_log.append(QStringLiteral("Step 2 of 4 · Engine already installed, skipping."));

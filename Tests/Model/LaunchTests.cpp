@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "Support/ModelTest.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <signal.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Everything is installed; the engine is a script.
+class Launch : public ModelTest
+{
+protected:
+    AppModel& startReady(const QByteArray& engine)
+    {
+        installGame();
+        installEngine(engine);
+        writeMarker();
+        startModel();
+        EXPECT_EQ(model().phase(), Phase::ready());
+        return model();
+    }
+
+    [[nodiscard]] bool markerExists() const
+    {
+        return home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"));
+    }
+
+    /// Keeps the titles shown while the model changes.
+    void watchTitles()
+    {
+        QObject::connect(&model(), &AppModel::changed, &model(), [this] {
+            const auto title = model().statusTitle();
+            if (titles.isEmpty() || titles.last() != title)
+                titles.append(title);
+        });
+    }
+
+    QStringList titles;
+};
+
+TEST_F(Launch, skipsWhatIsDoneAndStartsTheGameAtOnce)
+{
+    startReady("sleep 0.5; exit 0");
+    watchTitles();
+    model().play();
+    waitForFlow();
+    const auto project = root(QStringLiteral("Game/tetherwalk-master"));
+    EXPECT_EQ(logged(),
+              (QStringList{
+                  QStringLiteral("Step 1 of 4 · Game already downloaded, skipping."),
+                  QStringLiteral("project.godot: config_version=4 → Godot 3.x, C#: no, main scene: "
+                                 "res://main.tscn"),
+                  QStringLiteral("Step 2 of 4 · Engine already installed, skipping."),
+                  QStringLiteral("Step 3 of 4 · Already set up, skipping."),
+                  QStringLiteral("Step 4 of 4 · Starting: Godot --path %1 --windowed").arg(project),
+                  QStringLiteral("Game closed normally.")}));
+    EXPECT_EQ(titles, (QStringList{QStringLiteral("Ready"), QStringLiteral("Starting…"),
+                                   QStringLiteral("Playing"), QStringLiteral("Ready")}));
+    EXPECT_TRUE(markerExists());
+    EXPECT_TRUE(model().stepText().isEmpty());
+}
+
+TEST_F(Launch, startsTheGameWithTheChosenSettings)
+{
+    startReady("echo \"$@\"; sleep 0.4");
+    model().setFullscreen(true);
+    model().setResolution(ResolutionChoice::r1440);
+    model().play();
+    waitForFlow();
+    const auto line = QStringLiteral("--path %1 --fullscreen --resolution 2560x1440")
+                          .arg(root(QStringLiteral("Game/tetherwalk-master")));
+    EXPECT_TRUE(logged().contains(line)) << logged().join(u'\n').toStdString();
+    EXPECT_TRUE(logged().contains(QStringLiteral("Step 4 of 4 · Starting: Godot ") + line));
+}
+
+TEST_F(Launch, reportsAGameThatClosesAtOnceAndImportsAgainNextTime)
+{
+    startReady("echo failing; exit 7");
+    model().play();
+    waitForFlow();
+    const auto sentence = QStringLiteral(
+        "The game closed after 0 seconds (exit code 7), so it did not start properly.");
+    EXPECT_EQ(model().phase(), Phase::needs(sentence));
+    EXPECT_TRUE(model().failureText()->startsWith(QStringLiteral("What happened: ") + sentence));
+    EXPECT_TRUE(model().failureText()->endsWith(QStringLiteral("failing\nError: ") + sentence));
+    EXPECT_EQ(model().stepText(), u"Step 4 of 4 · Play");
+    EXPECT_FALSE(model().stillStarting());
+    EXPECT_FALSE(markerExists());
+}
+
+TEST_F(Launch, keepsTheMarkerOfACSharpGameThatClosesAtOnce)
+{
+    installGame("config/features=PoolStringArray(\"C#\")\n");
+    installEngine("exit 0", QStringLiteral("3.5.3-stable-mono"));
+    home.write(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"));
+    startModel().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::Kind::needs);
+    EXPECT_TRUE(
+        home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono")));
+}
+
+TEST_F(Launch, reportsACrashOfARunningGameAndKeepsTheMarker)
+{
+    startReady("sleep 0.5; exit 1");
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase(),
+              Phase::needs(QStringLiteral("The game stopped unexpectedly (exit code 1).")));
+    EXPECT_TRUE(markerExists());
+}
+
+TEST_F(Launch, tellsAStopByThePlayerFromACrash)
+{
+    startReady("echo up; exec sleep 60");
+    model().play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    model().stopGame();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::ready());
+    EXPECT_EQ(logged().last(), u"Game stopped by you.");
+    EXPECT_TRUE(markerExists());
+    EXPECT_FALSE(model().failureText());
+}
+
+TEST_F(Launch, carriesOutAStopThatIsAskedForBeforeTheGameHasStarted)
+{
+    startReady("exec sleep 60");
+    bool stopped = false;
+    QObject::connect(&model(), &AppModel::changed, &model(), [&] {
+        if (model().phase() == Phase::Kind::playing && !stopped) {
+            stopped = true;
+            QMetaObject::invokeMethod(&model(), &AppModel::stopGame, Qt::QueuedConnection);
+        }
+    });
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(logged().last(), u"Game stopped by you.");
+}
+
+TEST_F(Launch, killsAGameThatIgnoresTheRequestToStop)
+{
+    startReady("trap '' TERM; echo up; while :; do sleep 0.05; done");
+    model().play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    model().stopGame();
+    waitForFlow();
+    EXPECT_EQ(logged().last(), u"Game stopped by you.");
+}
+
+TEST_F(Launch, reportsAnEngineThatCannotBeStarted)
+{
+    startReady("exit 0");
+    home.write(QStringLiteral("data/Cavernyx Platformer/Engine/3.5.3-stable/Godot_v3.5.3"),
+               "\x7f"
+               "ELF is not what this is");
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::Kind::needs);
+    EXPECT_TRUE(model().phase().message().startsWith(u"Could not start "))
+        << model().phase().message().toStdString();
+    EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + model().phase().message());
+    EXPECT_FALSE(model().stillStarting());
+}
+
+TEST_F(Launch, ignoresAPressOfPlayWhileTheGameRuns)
+{
+    startReady("sleep 0.5");
+    model().play();
+    model().play(); // The silent checks are still going on.
+    waitForPhase(Phase::Kind::playing);
+    const auto before = logged();
+    model().play();
+    EXPECT_EQ(logged(), before);
+    waitForFlow();
+    EXPECT_EQ(logged().filter(QStringLiteral("Step 4 of 4")).size(), 1);
+}
+
+TEST_F(Launch, judgesACancelDuringPlayByTheOutcomeAndSaysCancelled)
+{
+    startReady("echo up; exec sleep 60");
+    model().play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    model().cancelSetup();
+    waitForFlow();
+    EXPECT_EQ(logged().last(), u"Cancelled.");
+    EXPECT_NE(model().phase(), Phase::Kind::needs);
+}
+
+TEST_F(Launch, asksBeforeQuittingAndStaysWhenDeclined)
+{
+    startReady("echo up; exec sleep 60");
+    model().play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    desktop.answer = false;
+    EXPECT_FALSE(model().confirmQuit());
+    ASSERT_EQ(desktop.questions.size(), 1);
+    EXPECT_EQ(desktop.questions[0].title, u"Quit and close the game?");
+    EXPECT_EQ(desktop.questions[0].message, u"The game is still running. Quitting will close it.");
+    EXPECT_EQ(desktop.questions[0].button, u"Quit");
+    EXPECT_EQ(model().phase(), Phase::playing());
+
+    desktop.answer = true;
+    EXPECT_TRUE(model().confirmQuit());
+    waitForFlow();
+    EXPECT_EQ(logged().last(), u"Game stopped by you.");
+}
+
+TEST_F(Launch, quitsWithoutAQuestionWhenNothingRuns)
+{
+    startReady("exit 0");
+    EXPECT_TRUE(model().confirmQuit());
+    EXPECT_TRUE(desktop.questions.isEmpty());
+}
+
+TEST_F(Launch, announcesTheEndOfTheFlowOnce)
+{
+    startReady("sleep 0.4");
+    const QSignalSpy ended(&model(), &AppModel::flowEnded);
+    model().play();
+    EXPECT_TRUE(model().isBusy());
+    waitForFlow();
+    EXPECT_EQ(ended.size(), 1);
+    EXPECT_FALSE(model().isBusy());
+}
+
+} // namespace

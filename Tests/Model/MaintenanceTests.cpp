@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "Support/AppModelAccess.h"
+#include "Support/ModelTest.h"
+
+#include <QTest>
+
+namespace {
+
+class Maintenance : public ModelTest
+{
+};
+
+TEST_F(Maintenance, copiesTheFailureReportWhenThereIsOne)
+{
+    startModel().copyFailure();
+    EXPECT_TRUE(desktop.copied.isEmpty());
+    AppModelAccess::fail(model(), QStringLiteral("No."));
+    model().copyFailure();
+    EXPECT_EQ(desktop.copied, QStringList{*model().failureText()});
+}
+
+TEST_F(Maintenance, copiesTheNewestTwoThousandLogLinesAlsoBeforeTheyAreShown)
+{
+    startModel();
+    for (int line = 1; line <= 2500; ++line)
+        model().log().append(QString::number(line));
+    model().copyLog();
+    ASSERT_EQ(desktop.copied.size(), 1);
+    EXPECT_TRUE(desktop.copied[0].startsWith(u"501\n502\n"));
+    EXPECT_TRUE(desktop.copied[0].endsWith(u"\n2499\n2500"));
+    EXPECT_EQ(desktop.copied[0].count(u'\n'), 1999);
+}
+
+TEST_F(Maintenance, copiesAnEmptyLogAsEmptyText)
+{
+    startModel().copyLog();
+    EXPECT_EQ(desktop.copied, QStringList{QString()});
+}
+
+TEST_F(Maintenance, refusesEveryDestructiveActionWhileBusy)
+{
+    startModel();
+    for (const auto& phase : {Phase::downloading(), Phase::settingUp(), Phase::playing()}) {
+        AppModelAccess::setPhase(model(), phase);
+        model().updateGame();
+        model().reinstall();
+        model().removeEverything();
+        EXPECT_TRUE(desktop.questions.isEmpty());
+        EXPECT_EQ(model().phase(), phase);
+    }
+    AppModelAccess::setPhase(model(), Phase::notDownloaded());
+}
+
+TEST_F(Maintenance, doesNothingWhenDeclined)
+{
+    installGame();
+    startModel();
+    desktop.answer = false;
+    model().updateGame();
+    model().reinstall();
+    model().removeEverything();
+    EXPECT_EQ(desktop.questions.size(), 3);
+    EXPECT_FALSE(model().isBusy());
+    EXPECT_TRUE(home.exists(QStringLiteral("data/Cavernyx Platformer/Game")));
+}
+
+TEST_F(Maintenance, removesEverythingAndEmptiesTheLog)
+{
+    installGame();
+    startModel();
+    model().log().append(QStringLiteral("a line"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !model().installedSize().isEmpty(); }));
+    const auto size = model().installedSize();
+    model().removeEverything();
+    ASSERT_EQ(desktop.questions.size(), 1);
+    EXPECT_EQ(
+        desktop.questions[0].message,
+        QStringLiteral("This deletes the downloaded game and engine and frees %1. Your save files "
+                       "in Godot's folder are not touched.")
+            .arg(size));
+    waitForFlow();
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+    EXPECT_TRUE(logged().isEmpty());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return model().installedSize().isEmpty(); }));
+}
+
+TEST_F(Maintenance, namesAllFilesWhenTheirSizeIsNotKnown)
+{
+    startModel();
+    model().log().append(QStringLiteral("a line"));
+    model().removeEverything();
+    EXPECT_EQ(desktop.questions[0].title, u"Remove everything?");
+    EXPECT_EQ(
+        desktop.questions[0].message,
+        u"This deletes the downloaded game and engine and frees all downloaded files. Your save "
+        u"files in Godot's folder are not touched.");
+    waitForFlow();
+    EXPECT_TRUE(logged().isEmpty());
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+}
+
+TEST_F(Maintenance, showsTheSavesOnlyOnceThereAreSome)
+{
+    installGame();
+    startModel();
+    EXPECT_FALSE(model().savesFolder());
+    model().showSaves();
+    EXPECT_TRUE(desktop.opened.isEmpty());
+    const auto saves = home.makeFolder(QStringLiteral("data/godot/app_userdata/Tether"));
+    EXPECT_EQ(model().savesFolder(), saves);
+    model().showSaves();
+    EXPECT_EQ(desktop.opened, QStringList{saves});
+}
+
+TEST_F(Maintenance, revealsTheRootOrElseItsParent)
+{
+    startModel().revealInFinder();
+    EXPECT_EQ(desktop.revealed, QStringList{home.path(QStringLiteral("data"))});
+    installGame();
+    model().revealInFinder();
+    EXPECT_EQ(desktop.revealed.last(), root());
+}
+
+} // namespace

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "Support/ModelTest.h"
+
+#include <QSettings>
+
+namespace {
+
+class Settings : public ModelTest
+{
+};
+
+TEST_F(Settings, startWindowedAndWithTheGamesOwnSize)
+{
+    startModel();
+    EXPECT_FALSE(model().fullscreen());
+    EXPECT_EQ(model().resolution(), ResolutionChoice::gameDefault);
+}
+
+TEST_F(Settings, surviveARestart)
+{
+    startModel().setFullscreen(true);
+    model().setResolution(ResolutionChoice::r1080);
+    startModel();
+    EXPECT_TRUE(model().fullscreen());
+    EXPECT_EQ(model().resolution(), ResolutionChoice::r1080);
+    EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), u"1920x1080");
+}
+
+TEST_F(Settings, takeAnUnknownStoredResolutionForTheGamesOwn)
+{
+    for (const auto& stored : {QStringLiteral("800x600"), QStringLiteral("1280X720"),
+                               QStringLiteral("1280x720 "), QStringLiteral("@ByteArray(\\x1)")}) {
+        QSettings().setValue(QStringLiteral("resolution"), stored);
+        EXPECT_EQ(startModel().resolution(), ResolutionChoice::gameDefault) << stored.toStdString();
+    }
+}
+
+TEST_F(Settings, storeTheGamesOwnSizeAsTheEmptyText)
+{
+    startModel().setResolution(ResolutionChoice::r720);
+    model().setResolution(ResolutionChoice::gameDefault);
+    EXPECT_TRUE(QSettings().contains(QStringLiteral("resolution")));
+    EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), QString());
+}
+
+} // namespace
