@@ -120,6 +120,26 @@ TEST_F(ManagedProcessTest, deliversWhatIsStillInThePipeAtTheEnd)
     EXPECT_EQ(lines().last(), QStringLiteral("end"));
 }
 
+TEST_F(ManagedProcessTest, deliversAllOfAFullPipeAfterTheEnd)
+{
+    // The pipe is made larger than what is read at a time, and it is filled and the child gone
+    // while the first line is being delivered.
+    constexpr auto* program = "fcntl(STDOUT, 1031, 1 << 20) or exit 9; $| = 1; print qq(first\n); "
+                              "print join(qq(\n), 1..100000);";
+    const auto deliver = m_output.callback();
+    const auto deliverSlowly = [deliver](const QString& line) {
+        if (line == QLatin1String("first"))
+            QThread::msleep(400);
+        deliver(line);
+    };
+    EXPECT_EQ(
+        await(m_process.run(QStringLiteral("/usr/bin/perl"),
+                            {QStringLiteral("-e"), QString::fromUtf8(program)}, deliverSlowly)),
+        0);
+    ASSERT_EQ(lines().size(), 100'001);
+    EXPECT_EQ(lines().last(), QStringLiteral("100000"));
+}
+
 TEST_F(ManagedProcessTest, deliversALargeOutputWhole)
 {
     EXPECT_EQ(runShell("seq 1 200000"), 0);
@@ -215,7 +235,10 @@ TEST_F(ManagedProcessTest, letsEverySignalThroughToTheChild)
         future.waitForFinished();
     };
     setMask(SIG_BLOCK);
-    runShell("grep SigBlk /proc/self/status");
+    // Not by way of the shell, which lets every signal through itself.
+    await(m_process.run(QStringLiteral("/bin/grep"),
+                        {QStringLiteral("SigBlk"), QStringLiteral("/proc/self/status")},
+                        m_output.callback()));
     setMask(SIG_UNBLOCK);
     EXPECT_EQ(lines(), QStringList{QStringLiteral("SigBlk:\t0000000000000000")});
 }
