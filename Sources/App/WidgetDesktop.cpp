@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "WidgetDesktop.h"
 
+#include "Views/TypeScale.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDBusConnection>
@@ -9,6 +11,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -16,6 +19,7 @@
 namespace {
 
 constexpr auto alertIconSize = 64;
+constexpr auto alertTextWidth = 300;
 
 /// The window that the player is looking at, a sheet before the main window.
 QWidget* frontWindow()
@@ -40,6 +44,16 @@ QDBusMessage showItems(const QString& path)
     return message;
 }
 
+/// The labels of a message box are its own affair; by these names it lets them be found.
+void setUpLabels(QMessageBox& alert)
+{
+    if (auto* const title = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        title->setFont(textFont(TextStyle::headline));
+    auto* const message = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (message)
+        message->setMinimumWidth(alertTextWidth);
+}
+
 } // namespace
 
 bool WidgetDesktop::confirm(const QString& title, const QString& message, const QString& button)
@@ -51,6 +65,7 @@ bool WidgetDesktop::confirm(const QString& title, const QString& message, const 
     alert.setTextFormat(Qt::PlainText);
     alert.setText(title);
     alert.setInformativeText(message);
+    setUpLabels(alert);
     auto* const action = alert.addButton(button, QMessageBox::AcceptRole);
     auto* const cancel = alert.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole);
     alert.setDefaultButton(action);

@@ -47,6 +47,8 @@ protected:
     Durations durations;
 
 private:
+    void endModel();
+
     EnvironmentScope m_data;
     EnvironmentScope m_temporary;
     std::unique_ptr<AppModel> m_model;

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "AppDelegate.h"
+#include "Support/AppModelAccess.h"
+#include "Support/ModelTest.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class AppDelegateTest : public ModelTest
+{
+protected:
+    AppDelegateTest()
+        : delegate(startModel(), window)
+    {
+        delegate.applicationDidFinishLaunching();
+    }
+
+    /// Closes the window as the player would and gives whether the program ends thereupon.
+    bool endsAfterClosing()
+    {
+        auto ended = true;
+        QTimer::singleShot(0, &window, [this] { window.close(); });
+        QTimer::singleShot(500, &window, [&ended] {
+            ended = false;
+            QCoreApplication::exit();
+        });
+        QCoreApplication::exec();
+        return ended;
+    }
+
+    QWidget window;
+    AppDelegate delegate;
+};
+
+TEST_F(AppDelegateTest, showsTheWindow)
+{
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(AppDelegateTest, quitsWithTheWindowAndWithoutAQuestion)
+{
+    EXPECT_TRUE(endsAfterClosing());
+    EXPECT_TRUE(desktop.questions.isEmpty());
+}
+
+TEST_F(AppDelegateTest, asksWhileTheGameRunsAndStaysVisibleWhenDeclined)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    desktop.answer = false;
+    EXPECT_FALSE(endsAfterClosing());
+    ASSERT_EQ(desktop.questions.size(), 1);
+    EXPECT_EQ(desktop.questions.constFirst().title, QStringLiteral("Quit and close the game?"));
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(model().phase() == Phase::Kind::playing);
+}
+
+TEST_F(AppDelegateTest, quitsWhileTheGameRunsWhenAccepted)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    EXPECT_TRUE(endsAfterClosing());
+    EXPECT_EQ(desktop.questions.size(), 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AppDelegateTest, asksOnceHoweverOftenTheProgramIsToldToEndMeanwhile)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    desktop.answer = false;
+    desktop.whileAsking = [this] {
+        if (desktop.questions.size() < 5)
+            EXPECT_FALSE(delegate.applicationShouldTerminate());
+    };
+    EXPECT_FALSE(endsAfterClosing());
+    EXPECT_EQ(desktop.questions.size(), 1);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(AppDelegateTest, waitsHiddenForWhatTheGameLeavesToDo)
+{
+    durations.startUpWatch = std::chrono::milliseconds{20};
+    startModel();
+    installGame();
+    installEngine("sleep 60");
+    writeMarker();
+    model().refreshState();
+    QWidget front;
+    AppDelegate own(model(), front);
+    own.applicationDidFinishLaunching();
+    model().play();
+    waitForPhase(Phase::Kind::playing);
+
+    QTimer::singleShot(0, &front, [this, &front] {
+        front.close();
+        EXPECT_FALSE(front.isVisible());
+        EXPECT_TRUE(model().isFlowRunning()) << "the game is told to end, and has not yet";
+    });
+    const QSignalSpy ended(&model(), &AppModel::flowEnded);
+    QTimer::singleShot(5000, &front, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_FALSE(model().isFlowRunning());
+    EXPECT_THAT(logged(), testing::Contains(QStringLiteral("Game stopped by you.")));
+}
+
+} // namespace
