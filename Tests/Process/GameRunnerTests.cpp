@@ -102,9 +102,10 @@ TEST_F(ImportRunTest, startsTheEditorOnTheProjectWithoutAWindow)
 TEST_F(ImportRunTest, holdsItsChildUntilItEnds)
 {
     EXPECT_EQ(m_runner.process, nullptr);
-    start("exit 0");
+    start("exec sleep 600");
     ASSERT_NE(m_runner.process, nullptr);
     EXPECT_TRUE(m_runner.process->isRunning());
+    m_runner.terminateCurrent();
     finish();
     EXPECT_EQ(m_runner.process, nullptr);
 }
