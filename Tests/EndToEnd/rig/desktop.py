@@ -1,0 +1,77 @@
+# SPDX-License-Identifier: MIT
+"""A desktop of the scenario's own: a display in memory, a session bus, an accessibility bus."""
+
+import os
+import re
+import subprocess
+from pathlib import Path
+
+SCREEN = "1920x1080x24"
+
+
+class Desktop:
+    """Starts with the given environment and adds to it what programs need to find this desktop.
+    What the servers print and the pictures taken are kept in `output`.
+    The environment becomes this process's own too, since it listens on the same buses."""
+
+    def __init__(self, environment: dict[str, str], output: Path):
+        self.environment = environment
+        self._output = output
+        self._taken = 0
+        # A display that starts anew when its last client leaves turns away who comes just then.
+        environment["DISPLAY"] = ":" + self._start_telling(
+            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"])
+        environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
+            ["dbus-daemon", "--session", "--nofork", "--print-address={}"])
+        environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        os.environ.clear()
+        os.environ.update(environment)
+        self._start_accessibility_bus()
+
+    def windows(self) -> dict[str, tuple[int, int]]:
+        """The sizes of the windows that can be seen on the display, by their titles."""
+        found = {}
+        for window in self._visible_windows():
+            title = self._ask("getwindowname", window).strip()
+            size = re.search(r"Geometry: (\d+)x(\d+)", self._ask("getwindowgeometry", window))
+            if title and size:
+                found[title] = (int(size.group(1)), int(size.group(2)))
+        return found
+
+    def move_aside(self, title: str) -> None:
+        """Moves a window to the right edge, from under the windows that open at the left."""
+        width, _ = self.windows()[title]
+        x = int(SCREEN.split("x")[0]) - width
+        window, = self._visible_windows(f"^{title}$")
+        subprocess.run(["xdotool", "windowmove", window, str(x), "0"], check=True)
+
+    def take_picture(self, name: str) -> None:
+        """Keeps a picture of the whole display, numbered in the order taken."""
+        self._taken += 1
+        subprocess.run(
+            ["import", "-window", "root", str(self._output / f"{self._taken:02}-{name}.png")],
+            check=True)
+
+    def _visible_windows(self, title: str = ".") -> list[str]:
+        return self._ask("search", "--onlyvisible", "--name", title).split()
+
+    def _ask(self, *question: str) -> str:
+        """What xdotool answers: nothing about a window that has gone meanwhile."""
+        return subprocess.run(["xdotool", *question], capture_output=True, text=True).stdout
+
+    def _start_telling(self, command: list[str]) -> str:
+        """Starts a server that writes where it can be reached to a descriptor whose number
+        replaces the "{}" of its command, and returns that."""
+        reader, writer = os.pipe()
+        log = (self._output / f"{command[0]}.txt").open("w")
+        subprocess.Popen([part.format(writer) for part in command], pass_fds=[writer],
+                         env=self.environment, stdout=log, stderr=log)
+        os.close(writer)
+        with os.fdopen(reader) as told:
+            return told.readline().strip()
+
+    def _start_accessibility_bus(self) -> None:
+        """The session bus starts it when somebody asks for its address."""
+        subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
+             "org.a11y.Bus.GetAddress"], check=True, capture_output=True)

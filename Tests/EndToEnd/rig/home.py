@@ -1,0 +1,55 @@
+# SPDX-License-Identifier: MIT
+"""A player's home folder of the scenario's own, and what the launcher keeps in it."""
+
+import os
+from pathlib import Path
+
+from rig import engine, sample_game
+
+NAME = "Cavernyx Platformer"
+
+
+class Home:
+    def __init__(self, folder: Path):
+        self._folder = folder
+        self.temporary = folder / "tmp"
+        self._runtime = folder / "run"
+        for made in (folder, self.temporary, self._runtime):
+            made.mkdir(mode=0o700)
+        self.root = folder / ".local" / "share" / NAME
+        self.game = self.root / "Game"
+        self.project = self.game / sample_game.ARCHIVE_FOLDER / sample_game.PROJECT_FOLDER
+        self.engines = self.root / "Engine"
+
+    def environment(self) -> dict[str, str]:
+        """An environment of a session, with nothing in it of whoever runs the tests."""
+        return {
+            "HOME": str(self._folder),
+            "TMPDIR": str(self.temporary),
+            "XDG_RUNTIME_DIR": str(self._runtime),
+            "PATH": "/usr/local/bin:/usr/bin:/bin",
+            "LANG": "C.UTF-8",
+            "USER": os.environ.get("USER", "player"),
+        }
+
+    def write_settings(self, **settings: str) -> None:
+        file = self._folder / ".config" / NAME / f"{NAME}.conf"
+        file.parent.mkdir(parents=True)
+        file.write_text("[General]\n" + "".join(f"{key}={settings[key]}\n" for key in settings))
+
+    def marker(self, mono: bool = False) -> Path:
+        return self.game / (f".setup-v2-{engine.VERSION}" + ("-mono" if mono else ""))
+
+    def engine_folder(self, mono: bool = False) -> Path:
+        return self.engines / (engine.VERSION + ("-mono" if mono else ""))
+
+    def expect_nothing_left_over(self) -> None:
+        """Only what is installed stands below the root, and nothing in the temporary folder."""
+        _expect_only(self.temporary, set())
+        _expect_only(self.root, {"Game", "Engine"})
+        _expect_only(self.engines, {engine.VERSION, f"{engine.VERSION}-mono"})
+
+
+def _expect_only(folder: Path, allowed: set[str]) -> None:
+    names = {entry.name for entry in folder.iterdir()} if folder.exists() else set()
+    assert names <= allowed, f"{folder} holds {sorted(names - allowed)}"

@@ -1,0 +1,135 @@
+# SPDX-License-Identifier: MIT
+"""Puts a process into network and mount namespaces of its own, so that a scenario can decide what
+the host names of the real downloads mean and whom the system trusts, and nobody else sees any of
+it. An ordinary user gets there through a user namespace."""
+
+import ctypes
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+SCRATCH = "CAVERNYX_SCENARIO_SCRATCH"
+OUTSIDE = "CAVERNYX_SCENARIO_OUTSIDE"
+HOSTS_FILE = "hosts"
+PR_SET_CHILD_SUBREAPER = 36
+
+
+def enter() -> Path:
+    """Runs this program again inside the namespaces and exits as it does. Inside, returns an empty
+    folder to work in. It is deleted from outside, where nothing is mounted below it, so that no
+    mistake in a scenario can lead the deletion anywhere else."""
+    scratch = os.environ.pop(SCRATCH, None)
+    outside = os.environ.pop(OUTSIDE, None)
+    if not scratch:
+        sys.exit(_run_inside())
+    if outside in (None, _mount_namespace()):
+        raise RuntimeError("This process is not in namespaces of its own.")
+    subprocess.run(["ip", "link", "set", "lo", "up"], check=True)
+    _become_subreaper()
+    return Path(scratch)
+
+
+def redirect_hosts(scratch: Path, authority: Path, hosts: list[str]) -> None:
+    """Makes `hosts` this machine, takes the name servers away, and makes the certificate
+    `authority` the only one in the trust store: its hashed folder, and the list of all of them
+    that other programs read."""
+    names = scratch / HOSTS_FILE
+    names.write_text("".join(f"127.0.0.1 {name}\n" for name in ["localhost", *hosts]))
+    servers = scratch / "resolv.conf"
+    servers.write_text("options timeout:1 attempts:1\n")
+    trusted = scratch / "trusted"
+    trusted.mkdir()
+    shutil.copy(authority, trusted / "ca-certificates.crt")
+    subprocess.run(["openssl", "rehash", str(trusted)], check=True)
+
+    _mount_over("/etc/hosts", names)
+    _mount_over("/etc/ssl/certs", trusted)
+    if Path("/etc/resolv.conf").exists():
+        _mount_over("/etc/resolv.conf", servers)
+
+
+def separate_displays(scratch: Path) -> None:
+    """Gives the display servers of this namespace a folder of sockets of their own: their numbers
+    are told apart by the network namespace, but the sockets are files that all would share."""
+    shared = Path("/tmp/.X11-unix")
+    shared.mkdir(mode=0o1777, exist_ok=True)
+    sockets = scratch / "displays"
+    sockets.mkdir()
+    sockets.chmod(0o1777)
+    _mount_over(str(shared), sockets)
+
+
+def disconnect(scratch: Path) -> None:
+    """From now on no name leads anywhere, and no address can be reached."""
+    (scratch / HOSTS_FILE).write_text("127.0.0.1 localhost\n")
+    subprocess.run(["ip", "link", "set", "lo", "down"], check=True)
+
+
+def end_descendants() -> None:
+    """Ends every process that this one started, directly or not, and waits until they are gone."""
+    while True:
+        for pid in _descendants(os.getpid()):
+            try:
+                os.kill(pid, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        # Whoever was about to start another one when it was listed leaves that one to the next
+        # round.
+        try:
+            ended, _ = os.waitpid(-1, os.WNOHANG)
+        except ChildProcessError:
+            return
+        if not ended:
+            time.sleep(0.01)
+
+
+def network_activity() -> dict[str, int]:
+    """How often anything in this namespace opened a connection or sent a datagram so far."""
+    counters = {}
+    lines = Path("/proc/net/snmp").read_text().splitlines()
+    for names, values in zip(lines[::2], lines[1::2]):
+        protocol = names.split(":")[0]
+        for name, value in zip(names.split()[1:], values.split()[1:]):
+            counters[f"{protocol} {name}"] = int(value)
+    return {name: counters[name] for name in ("Tcp ActiveOpens", "Udp OutDatagrams")}
+
+
+def _run_inside() -> int:
+    unshare = ["unshare", "--mount", "--propagation", "private", "--net"]
+    if os.geteuid() != 0:
+        unshare.append("--map-root-user")
+    scratch = tempfile.mkdtemp(prefix="cavernyx-scenario-")
+    environment = {**os.environ, SCRATCH: scratch, OUTSIDE: _mount_namespace()}
+    status = subprocess.run([*unshare, sys.executable, *sys.argv], env=environment).returncode
+    if f" {scratch}" in Path("/proc/self/mountinfo").read_text():
+        raise RuntimeError(f"Something is mounted below {scratch}, so it is left alone.")
+    shutil.rmtree(scratch)
+    return status
+
+
+def _mount_namespace() -> str:
+    return os.readlink("/proc/self/ns/mnt")
+
+
+def _mount_over(place: str, replacement: Path) -> None:
+    """The one way in which anything is mounted: a file or folder made for this scenario covers a
+    place of the system's. Never the other way round."""
+    subprocess.run(["mount", "--bind", str(replacement), place], check=True)
+
+
+def _become_subreaper() -> None:
+    """What outlives its parent becomes a child of this process, and so can be found and ended."""
+    libc = ctypes.CDLL(None, use_errno=True)
+    if libc.prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
+        raise OSError(ctypes.get_errno(), "prctl")
+
+
+def _descendants(pid: int) -> list[int]:
+    children = Path(f"/proc/{pid}/task/{pid}/children")
+    found = [int(child) for child in children.read_text().split()] if children.exists() else []
+    return found + [grandchild for child in found for grandchild in _descendants(child)]

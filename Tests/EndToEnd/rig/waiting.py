@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: MIT
+"""Waiting for what happens elsewhere, with a deadline."""
+
+import time
+
+INTERVAL = 0.05
+
+
+def wait_for(what: str, condition, seconds: float = 20):
+    """Returns the first value of `condition()` that is true. When none has come after `seconds`,
+    fails with `what` and the last value."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f"{what} did not happen within {seconds} s (last seen: {value!r})")
+        time.sleep(INTERVAL)
+

@@ -1,0 +1,60 @@
+# SPDX-License-Identifier: MIT
+"""All that one scenario needs, put together."""
+
+from pathlib import Path
+
+from rig import engine, private_world, sample_game, web_host
+from rig.authority import Authority
+from rig.desktop import Desktop
+from rig.home import Home
+from rig.launcher import TITLE, Launcher
+from rig.web_host import WebHost
+
+
+class World:
+    """A fresh player's desktop, made in the folder `scratch`. The program is the installed one
+    below `prefix`; pictures, the last of them of a failure, and what it prints are kept in
+    `output`."""
+
+    def __init__(self, prefix: Path, scratch: Path, output: Path):
+        self._program = prefix / "bin" / "cavernyx-platformer"
+        self.output = output
+        self._scratch = scratch
+        self.home = Home(scratch / "home")
+        authority = Authority(scratch / "authority", web_host.NAMES)
+        private_world.redirect_hosts(scratch, authority.certificate, web_host.NAMES)
+        private_world.separate_displays(scratch)
+        self.web = WebHost(scratch / "web", authority)
+        self.desktop = Desktop(self.home.environment(), output)
+        self.launcher = None
+
+    def __enter__(self) -> "World":
+        return self
+
+    def __exit__(self, *error) -> None:
+        if error[0] and self.launcher:
+            self.picture("failure")
+
+    def offer_game(self, csharp: bool = False) -> None:
+        sample_game.make_archive(self.web.branch_archive, self._scratch, csharp)
+
+    def offer_real_engine(self) -> None:
+        engine.make_release(self.web.releases, engine.REAL_ENGINE)
+
+    def offer_scripted_engine(self, mono: bool = False, **behaviour: str) -> Path:
+        """Returns the archive, which a scenario may damage."""
+        program = engine.script(self._scratch / "engine", **behaviour)
+        return engine.make_release(self.web.releases, program, mono)
+
+    def disconnect(self) -> None:
+        private_world.disconnect(self._scratch)
+
+    def open_launcher(self) -> Launcher:
+        """Starts the launcher and opens its log, to the right of where games open."""
+        self.launcher = Launcher(self._program, self.output)
+        self.desktop.move_aside(TITLE)
+        self.launcher.press("Show log")
+        return self.launcher
+
+    def picture(self, name: str) -> None:
+        self.desktop.take_picture(name)
