@@ -33,7 +33,7 @@ struct EngineManager
     /// The address of a file of the engine's release. Throws AppError "Invalid engine URL.".
     static QUrl releaseURL(const QString& fileName);
 
-    /// The SHA-512 of the file as 128 lower-case hexadecimal digits. Reads it in 4 MiB pieces;
+    /// The SHA-512 of the file as 128 lower-case hexadecimal digits. Reads it in small pieces;
     /// belongs off the main thread. Throws PlatformError, or Cancelled when `stop` is requested.
     static QString sha512(const QString& file, const std::stop_token& stop = {});
 

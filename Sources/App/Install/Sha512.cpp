@@ -18,7 +18,9 @@
 
 namespace {
 
-constexpr std::size_t pieceSize = 4'194'304;
+/// Small enough to be hashed from the processor's own cache: pieces of megabytes, which have left
+/// it by then, take a fifth more time.
+constexpr std::size_t pieceSize = 65'536;
 
 class InputFile final
 {
