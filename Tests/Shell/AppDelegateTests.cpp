@@ -73,8 +73,9 @@ TEST_F(AppDelegateTest, asksOnceHoweverOftenTheProgramIsToldToEndMeanwhile)
     AppModelAccess::setPhase(model(), Phase::playing());
     desktop.answer = false;
     desktop.whileAsking = [this] {
-        if (desktop.questions.size() < 5)
+        if (desktop.questions.size() < 5) {
             EXPECT_FALSE(delegate.applicationShouldTerminate());
+        }
     };
     EXPECT_FALSE(endsAfterClosing());
     EXPECT_EQ(desktop.questions.size(), 1);
