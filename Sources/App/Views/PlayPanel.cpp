@@ -127,15 +127,18 @@ QWidget* PlayPanel::buttonRow()
 
 QWidget* PlayPanel::failureBlock()
 {
+    m_failureBlock = verticalStack(failureSpacing, {});
+    return m_failureBlock;
+}
+
+void PlayPanel::fillFailureBlock()
+{
     m_failure = new TextBox(tr("Failure report"), failureHeight, failureTint);
     auto* const copy = borderedButton(tr("Copy"));
     connect(copy, &QPushButton::clicked, &m_model, &AppModel::copyFailure);
-    m_failureBlock = verticalStack(failureSpacing,
-                                   {
-                                       m_failure,
-                                       horizontalStack(defaultSpacing, {copy, StackItem::spacer()}),
-                                   });
-    return m_failureBlock;
+    m_failureBlock->layout()->addWidget(m_failure);
+    m_failureBlock->layout()->addWidget(
+        horizontalStack(defaultSpacing, {copy, StackItem::spacer()}));
 }
 
 QWidget* PlayPanel::logDisclosure()
@@ -202,6 +205,8 @@ void PlayPanel::refreshFailure()
 {
     const auto& failure = m_model.failureText();
     const auto shown = m_model.phase() == Phase::Kind::needs && failure;
+    if (shown && !m_failure)
+        fillFailureBlock();
     if (shown && m_failure->text() != *failure)
         m_failure->setText(*failure);
     const auto appears = shown && m_failureBlock->isHidden();

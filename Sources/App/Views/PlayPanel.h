@@ -37,6 +37,8 @@ private:
     [[nodiscard]] QWidget* buttonRow();
     [[nodiscard]] QWidget* failureBlock();
     [[nodiscard]] QWidget* logDisclosure();
+    /// A block of text costs memory; most players never see this one.
+    void fillFailureBlock();
 
     void refresh();
     void refreshStatus();
@@ -56,6 +58,7 @@ private:
     QPushButton* m_stop = nullptr;
     QPushButton* m_cancel = nullptr;
     QWidget* m_failureBlock = nullptr;
+    /// There once a report has been shown.
     TextBox* m_failure = nullptr;
     DisclosureButton* m_showLog = nullptr;
     QWidget* m_disclosed = nullptr;
