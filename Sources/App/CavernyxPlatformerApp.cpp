@@ -9,7 +9,9 @@
 #include "WidgetDesktop.h"
 
 #include <QIcon>
+#include <QImageReader>
 #include <QLocale>
+#include <QPixmap>
 #include <QTranslator>
 
 #include <cstdio>
@@ -59,8 +61,12 @@ void prepare()
 QIcon programIcon()
 {
     QIcon icon;
-    icon.addFile(QStringLiteral(":/icon/icon-64.png"));
-    icon.addFile(QStringLiteral(":/icon/icon-128.png"));
+    for (const auto* const file : {":/icon/icon-64.png", ":/icon/icon-128.png"}) {
+        QImageReader reader(QString::fromLatin1(file), "png");
+        // Otherwise Qt loads every image plug-in to ask whether the file is one of its own.
+        reader.setAutoDetectImageFormat(false);
+        icon.addPixmap(QPixmap::fromImageReader(&reader));
+    }
     return icon;
 }
 
