@@ -18,6 +18,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <locale.h>
+
 namespace {
 
 class ZipExtractorTest : public testing::Test
@@ -163,6 +165,21 @@ TEST_F(ZipExtractorTest, keepsNamesThatAreNotAscii)
     EXPECT_TRUE(folder.exists(unpacked(QStringLiteral("Schön 日本.png"))));
     EXPECT_TRUE(folder.exists(unpacked(QStringLiteral("naïve.png"))));
     EXPECT_TRUE(folder.exists(unpacked(QString::fromUtf8("cafe\xcc\x81"))));
+}
+
+TEST_F(ZipExtractorTest, keepsNamesThatAreNotAsciiWithoutALocaleOfTheUser)
+{
+    constexpr quint16 nameIsUtf8 = 1 << 11;
+    ZipWriter zip;
+    zip.add({.name = "Schön 日本.png", .flags = nameIsUtf8});
+    const auto plain = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    const auto before = ::uselocale(plain);
+
+    EXPECT_EQ(extract(zip), 0);
+
+    ::uselocale(before);
+    ::freelocale(plain);
+    EXPECT_TRUE(folder.exists(unpacked(QStringLiteral("Schön 日本.png"))));
 }
 
 TEST_F(ZipExtractorTest, keepsANameWhoseBytesAreNotUtf8)

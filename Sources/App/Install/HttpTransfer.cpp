@@ -90,6 +90,7 @@ void HttpTransfer::open()
     m_reply->setReadBufferSize(readAhead);
     m_stallTimer = new QTimer(m_connection);
     m_stallTimer->setSingleShot(true);
+    m_stallTimer->setTimerType(Qt::PreciseTimer); // A coarse one may come too early.
     m_stallTimer->setInterval(m_stallLimit);
     m_buffer.resize(pieceSize);
     connectReply();

@@ -8,6 +8,7 @@
 #include "Platform/ByteCount.h"
 #include "Platform/Cancelled.h"
 #include "Platform/PlatformError.h"
+#include "Platform/Utf8Names.h"
 
 namespace {
 
@@ -80,6 +81,7 @@ int ZipExtractor::extract(const QString& archive, const QString& destination,
                           const LogCallback& log, const std::stop_token& stop)
 {
     try {
+        const Utf8Names utf8Names;
         ZipTree tree(destination);
         checkSpace(vet(archive, stop), tree.freeSpace());
         unpack(archive, tree, stop);
