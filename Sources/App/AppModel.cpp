@@ -31,6 +31,8 @@ AppModel::AppModel(Desktop& desktop, const Durations& durations)
     , m_log(logBound, durations.logPublication)
     , m_runner(durations)
 {
+    m_sizePool.setMaxThreadCount(1);
+    m_sizePool.setThreadPriority(QThread::LowPriority);
     const QSettings settings;
     m_fullscreen = settings.value(fullscreenKey, false).toBool();
     m_resolution = resolutionChoice(settings.value(resolutionKey).toString())
@@ -108,9 +110,8 @@ void AppModel::setResolution(ResolutionChoice resolution)
 
 void AppModel::refreshState()
 {
-    m_progress.reset();
+    clearProgress();
     m_stepText.clear();
-    m_progressText.clear();
     m_stillStarting = false;
     m_info.reset();
     m_facts = RepoFacts();
@@ -147,9 +148,10 @@ void AppModel::updateSize()
         return; // Nothing can be installed where there is no home; the phase says so.
     }
     const auto measurement = ++m_sizesStarted;
-    offThread([root, stop = m_sizeStop.get_token()] {
-        return Paths::size(root, stop);
-    }).then(this, [this, measurement](qint64 bytes) { applySize(measurement, bytes); });
+    auto measure = [root, stop = m_sizeStop.get_token()] { return Paths::size(root, stop); };
+    offThread(std::move(measure), m_sizePool).then(this, [this, measurement](qint64 bytes) {
+        applySize(measurement, bytes);
+    });
 }
 
 void AppModel::applySize(int measurement, qint64 bytes)
@@ -167,7 +169,9 @@ void AppModel::applySize(int measurement, qint64 bytes)
 
 std::shared_ptr<FileDownloader> AppModel::makeDownloader()
 {
-    // The former relay goes, and with it every report of the former download still on its way.
+    // The former relay goes, and with it every report of the former download still on its way. The
+    // new one may serve by its address: a download reports nothing once its future has finished,
+    // and no flow goes on before that.
     m_progressRelay = std::make_unique<ProgressRelay>();
     connect(m_progressRelay.get(), &ProgressRelay::progressed, this, &AppModel::applyProgress);
     return std::make_shared<FileDownloader>(
@@ -195,11 +199,6 @@ void AppModel::clearProgress()
     m_progressRelay.reset();
     m_progress.reset();
     m_progressText.clear();
-}
-
-LogCallback AppModel::logCallback()
-{
-    return m_log.callback();
 }
 
 void AppModel::enterDownloading(const QString& stepText)

@@ -13,6 +13,7 @@
 #include <QCoroTask>
 #include <QObject>
 #include <QString>
+#include <QThreadPool>
 
 #include <memory>
 #include <optional>
@@ -128,15 +129,18 @@ private:
     std::shared_ptr<FileDownloader> makeDownloader();
     void applyProgress(const DownloadProgress& progress);
     void clearProgress();
-    LogCallback logCallback();
     void enterDownloading(const QString& stepText);
     void enterSettingUp(const QString& stepText);
     void enterPlaying(const QString& stepText);
     void markStarted();
 
+    // Flows: what a press of Play or a housekeeping action starts, one at a time.
+    using Flow = QCoro::Task<> (AppModel::*)(std::stop_token);
+    void startFlow(Flow flow);
+    QCoro::Task<> runFlow(Flow flow, std::stop_token stop);
+
     // Setup.
-    QCoro::Task<> runFlow(std::stop_token stop);
-    QCoro::Task<> runSteps(std::stop_token stop);
+    QCoro::Task<> setUpAndPlay(std::stop_token stop);
     QCoro::Task<QString> getGame(std::stop_token stop);
     QCoro::Task<ProjectInfo> readProject(QString project);
     QCoro::Task<QString> getEngine(ProjectInfo info, std::stop_token stop);
@@ -151,8 +155,8 @@ private:
     void concludePlay(const PlayOutcome& outcome);
 
     // Maintenance.
-    QCoro::Task<> deleteAndReinstall();
-    QCoro::Task<> deleteRoot();
+    QCoro::Task<> deleteAndSetUp(std::stop_token stop);
+    QCoro::Task<> deleteEverything(std::stop_token stop);
 
     Desktop& m_desktop;
     const Durations m_durations;
@@ -181,6 +185,8 @@ private:
     bool m_cancelled = false;
     bool m_forceGameDownload = false;
 
+    /// Measuring is never in the way of the flow: it has a thread of its own, of low priority.
+    QThreadPool m_sizePool;
     std::stop_source m_sizeStop;
     int m_sizesStarted = 0;
     int m_sizeShown = 0;

@@ -42,7 +42,7 @@ QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
     m_runner.process = std::make_shared<ManagedProcess>(
         ManagedProcess::Lifetime::MayOutliveLauncher, m_durations.killGrace);
     const auto forget = qScopeGuard([this] { m_runner.process.reset(); });
-    const auto run = m_runner.process->run(engine, arguments, logCallback());
+    const auto run = m_runner.process->run(engine, arguments, m_log.callback());
     co_return co_await run;
 }
 

@@ -7,9 +7,11 @@
 #include "Install/EngineManager.h"
 #include "Install/FileDownloader.h"
 #include "Install/Paths.h"
+#include "Platform/Cancelled.h"
 #include "Platform/FileTree.h"
 #include "Platform/HostPlatform.h"
 #include "Platform/OffThread.h"
+#include "Platform/PlatformError.h"
 #include "ProgressRelay.h"
 
 #include <QCoroFuture>
@@ -20,7 +22,32 @@ namespace {
 
 constexpr int copiedLogLines = 2000;
 
+/// Half of a game or an engine must never be taken for a whole one, whenever the deletion ends.
+void removeAtOnce(const QString& folder)
+{
+    FileTree::removeAtOnce(folder, Paths::newStagingFolder(folder));
 }
+
+void removeAtOnceQuietly(const QString& folder)
+{
+    try {
+        removeAtOnce(folder);
+    } catch (const PlatformError&) {
+        // The setup that follows says what is wrong, if it is in its way.
+    }
+}
+
+/// Of a root that is a symbolic link only the link goes, as when a file browser removes it.
+void removeInstallation(const QString& root)
+{
+    if (!QFileInfo(root).isSymLink()) {
+        removeAtOnce(Paths::game());
+        removeAtOnce(Paths::engines());
+    }
+    FileTree::remove(root);
+}
+
+} // namespace
 
 void AppModel::updateGame()
 {
@@ -51,26 +78,21 @@ void AppModel::reinstall()
         return;
     if (isBusy())
         return;
-    m_flowRunning = true;
-    m_cancelled = false;
-    Q_EMIT changed();
-    m_flowTask = deleteAndReinstall();
+    startFlow(&AppModel::deleteAndSetUp);
 }
 
-QCoro::Task<> AppModel::deleteAndReinstall()
+QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 {
     const QStringList folders{Paths::game(), Paths::engines()};
     const auto removal = offThread([folders] {
         for (const auto& folder : folders)
-            FileTree::removeQuietly(folder);
+            removeAtOnceQuietly(folder);
     });
     co_await removal;
-    m_flowRunning = false;
+    throwIfCancelled(stop);
     refreshState();
-    if (m_cancelled)
-        Q_EMIT flowEnded(); // The player quit meanwhile.
-    else
-        play();
+    m_failureText.reset();
+    co_await setUpAndPlay(stop);
 }
 
 void AppModel::removeEverything()
@@ -87,28 +109,20 @@ void AppModel::removeEverything()
         return;
     if (isBusy())
         return;
-    m_flowRunning = true;
-    Q_EMIT changed();
-    m_flowTask = deleteRoot();
+    startFlow(&AppModel::deleteEverything);
 }
 
-QCoro::Task<> AppModel::deleteRoot()
+QCoro::Task<> AppModel::deleteEverything(std::stop_token)
 {
-    std::optional<QString> failure;
     try {
-        const auto removal = offThread([root = Paths::root()] { FileTree::remove(root); });
+        const auto removal = offThread([root = Paths::root()] { removeInstallation(root); });
         co_await removal;
     } catch (const std::exception& error) {
-        failure = QString::fromUtf8(error.what());
+        fail(QStringLiteral("Could not remove the files: ") + QString::fromUtf8(error.what()));
+        co_return;
     }
-    m_flowRunning = false;
-    if (failure) {
-        fail(QStringLiteral("Could not remove the files: ") + *failure);
-    } else {
-        m_log.clear();
-        refreshState();
-    }
-    Q_EMIT flowEnded();
+    m_log.clear();
+    refreshState();
 }
 
 std::optional<QString> AppModel::savesFolder() const
@@ -127,8 +141,12 @@ void AppModel::showSaves()
 
 void AppModel::revealInFinder()
 {
-    const auto root = Paths::root();
-    m_desktop.revealFolder(QFileInfo::exists(root) ? root : QFileInfo(root).path());
+    try {
+        const auto root = Paths::root();
+        m_desktop.revealFolder(QFileInfo::exists(root) ? root : QFileInfo(root).path());
+    } catch (const PlatformError& error) {
+        fail(error.message()); // There is no home, and so nothing to show.
+    }
 }
 
 void AppModel::copyFailure()
@@ -153,5 +171,6 @@ bool AppModel::confirmQuit()
     } else if (isBusy()) {
         cancelSetup();
     }
+    m_sizeStop.request_stop(); // Nobody waits for that number any more.
     return true;
 }

@@ -53,12 +53,17 @@ void AppModel::play()
     if (isBusy())
         return;
     m_failureText.reset();
+    startFlow(&AppModel::setUpAndPlay);
+}
+
+void AppModel::startFlow(Flow flow)
+{
     m_userStopped = false;
     m_cancelled = false;
     m_flowStop = std::stop_source();
     m_flowRunning = true;
     Q_EMIT changed();
-    m_flowTask = runFlow(m_flowStop.get_token());
+    m_flowTask = runFlow(flow, m_flowStop.get_token());
 }
 
 void AppModel::cancelSetup()
@@ -71,10 +76,10 @@ void AppModel::cancelSetup()
     m_runner.terminateCurrent();
 }
 
-QCoro::Task<> AppModel::runFlow(std::stop_token stop)
+QCoro::Task<> AppModel::runFlow(Flow flow, std::stop_token stop)
 {
     try {
-        co_await runSteps(stop);
+        co_await (this->*flow)(stop);
     } catch (const Cancelled&) {
         concludeCancelled();
     } catch (const std::exception& error) {
@@ -88,7 +93,7 @@ QCoro::Task<> AppModel::runFlow(std::stop_token stop)
     Q_EMIT flowEnded();
 }
 
-QCoro::Task<> AppModel::runSteps(std::stop_token stop)
+QCoro::Task<> AppModel::setUpAndPlay(std::stop_token stop)
 {
     const auto project = co_await getGame(stop);
     const auto info = co_await readProject(project);
@@ -110,7 +115,7 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
     m_forceGameDownload = false;
     enterDownloading(QStringLiteral("Step 1 of 4 · Downloading the game"));
     m_downloader = makeDownloader();
-    const auto log = logCallback();
+    const auto log = m_log.callback();
     const auto project = co_await RepoDownloader::fetch(m_downloader, log, stop);
     throwIfCancelled(stop);
     co_return project;
@@ -142,11 +147,12 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
     if (engine) {
         m_log.append(QStringLiteral("Step 2 of 4 · Engine already installed, skipping."));
     } else {
+        throwIfCancelled(stop);
         const auto edition = manager.mono ? QStringLiteral("-mono") : QString();
         enterDownloading(QStringLiteral("Step 2 of 4 · Downloading the Godot engine (%1%2)")
                              .arg(EngineManager::version(), edition));
         m_downloader = makeDownloader();
-        const auto log = logCallback();
+        const auto log = m_log.callback();
         engine = co_await manager.install(m_downloader, log, stop, m_durations.transferStall);
     }
     throwIfCancelled(stop);
@@ -170,7 +176,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
         QStringLiteral("Step 3 of 4 · First-time setup, this can take a minute or more"));
     m_log.append(QStringLiteral("Importing the game's assets (Godot 3 has no --headless flag; "
                                 "using --editor --no-window --quit)."));
-    const auto log = logCallback();
+    const auto log = m_log.callback();
     const auto status =
         co_await m_runner.runImport(engine, info.folder, m_durations.importLimit, log);
     throwIfCancelled(stop);

@@ -4,6 +4,9 @@
 
 #include <QTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 class Maintenance : public ModelTest
@@ -83,6 +86,63 @@ TEST_F(Maintenance, removesEverythingAndEmptiesTheLog)
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_TRUE(logged().isEmpty());
     EXPECT_TRUE(QTest::qWaitFor([this] { return model().installedSize().isEmpty(); }));
+}
+
+TEST_F(Maintenance, saysWhatCouldNotBeRemovedAndKeepsTheLog)
+{
+    installGame();
+    startModel();
+    model().log().append(QStringLiteral("a line"));
+    const auto locked = root(QStringLiteral("Game/tetherwalk-master")).toUtf8();
+    ASSERT_EQ(::chmod(home.path().toUtf8().constData(), 0755), 0);
+    ASSERT_EQ(::chmod(locked.constData(), 0555), 0);
+    // Permissions bind only an ordinary user.
+    const auto privileged = ::geteuid() == 0;
+    if (privileged) {
+        ASSERT_EQ(::seteuid(65534), 0);
+    }
+    model().removeEverything();
+    waitForFlow();
+    if (privileged) {
+        ASSERT_EQ(::seteuid(0), 0);
+    }
+
+    EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
+        << model().statusDetail().toStdString();
+    EXPECT_TRUE(model().failureText());
+    EXPECT_EQ(logged(), QStringList{QStringLiteral("a line")});
+    for (const auto& name :
+         {QStringLiteral("Game"), home.names(QStringLiteral("data/Cavernyx Platformer")).value(0)})
+        ::chmod((root(name) + QStringLiteral("/tetherwalk-master")).toUtf8().constData(), 0755);
+    model().removeEverything();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+}
+
+TEST_F(Maintenance, removesOnlyTheLinkOfARootThatIsALink)
+{
+    const auto elsewhere = home.write(QStringLiteral("elsewhere/Game/project.godot"), "x");
+    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), root()));
+    startModel().removeEverything();
+    waitForFlow();
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_TRUE(QFile::exists(elsewhere));
+}
+
+TEST_F(Maintenance, refusesEverythingWhileADeletionIsUnderWay)
+{
+    installGame();
+    startModel();
+    model().removeEverything();
+    ASSERT_TRUE(model().isBusy());
+    model().play();
+    model().reinstall();
+    model().removeEverything();
+    EXPECT_EQ(desktop.questions.size(), 1);
+    EXPECT_TRUE(model().confirmQuit());
+    waitForFlow();
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
 }
 
 TEST_F(Maintenance, namesAllFilesWhenTheirSizeIsNotKnown)

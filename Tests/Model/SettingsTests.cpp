@@ -26,6 +26,14 @@ TEST_F(Settings, surviveARestart)
     EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), u"1920x1080");
 }
 
+TEST_F(Settings, areStoredUnderTheirOwnKeys)
+{
+    startModel().setFullscreen(true);
+    EXPECT_TRUE(QSettings().value(QStringLiteral("fullscreen")).toBool());
+    QSettings().remove(QStringLiteral("fullscreen"));
+    EXPECT_FALSE(startModel().fullscreen());
+}
+
 TEST_F(Settings, takeAnUnknownStoredResolutionForTheGamesOwn)
 {
     for (const auto& stored : {QStringLiteral("800x600"), QStringLiteral("1280X720"),

@@ -182,14 +182,14 @@ TEST_F(Setup, importsAgainWhenAnAssetIsMissingThoughTheMarkerIsThere)
 
 TEST_F(Setup, refusesAGameForGodot4BeforeAnyEngineDownload)
 {
-    serveGame("config_version=5\nconfig/name=\"Next\"\n");
+    serveGame("config_version=6\nconfig/name=\"Next\"\n");
     playToTheEnd();
     const auto sentence = QStringLiteral(
         "This game is made for Godot 4, but this app only knows how to install Godot 3.");
     EXPECT_EQ(model().phase(), Phase::needs(sentence));
     EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
     EXPECT_TRUE(logged().contains(
-        QStringLiteral("project.godot: config_version=5 → Godot 4.x, C#: no, main scene: ")));
+        QStringLiteral("project.godot: config_version=6 → Godot 4.x, C#: no, main scene: ")));
     EXPECT_EQ(requestsOf(releasePath), 0);
     ASSERT_TRUE(model().info());
     EXPECT_EQ(model().info()->name, u"Next");
@@ -305,6 +305,49 @@ TEST_F(Setup, cancelsDuringTheGamesDownload)
     EXPECT_FALSE(exists(QStringLiteral("Game")));
 }
 
+TEST_F(Setup, showsNoProgressOnceTheDownloadHasEnded)
+{
+    server.on(gamePath, [](const HttpServer::Connection& connection) {
+        connection.send(HttpServer::head(200, "Content-Length: 1000\n") + QByteArray(10, 'x'));
+        connection.waitForHangUp();
+    });
+    model().play();
+    // The report that comes with the first bytes is still on its way to the window here.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return requestsOf(gamePath) > 0; }));
+    QTest::qWait(20);
+    model().cancelSetup();
+    waitForFlow();
+    QTest::qWait(120);
+    EXPECT_TRUE(model().progressText().isEmpty()) << model().progressText().toStdString();
+    EXPECT_FALSE(model().progress());
+}
+
+TEST_F(Setup, removesTheMarkerBeforeAnImport)
+{
+    playToTheEnd();
+    ASSERT_TRUE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
+    installEngine("echo up; exec sleep 60");
+    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Engine/3.5.3-stable/") + engineName)));
+    model().play();
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }, 20'000));
+    model().cancelSetup();
+    waitForFlow();
+    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+}
+
+TEST_F(Setup, downloadsAnewAfterAnUpdateWasCancelledInItsSilentChecks)
+{
+    playToTheEnd();
+    model().updateGame();
+    model().cancelSetup();
+    waitForFlow();
+    serveGame("config_version=4\nconfig/name=\"Newer\"\n");
+    playToTheEnd();
+    EXPECT_EQ(model().info()->name, u"Newer");
+}
+
 TEST_F(Setup, cancelsDuringTheChecksumList)
 {
     server.on(releasePath + QStringLiteral("SHA512-SUMS.txt"), HttpServer::silence());
@@ -405,6 +448,7 @@ TEST_F(Setup, keepsTheInstalledGameWhenItsUpdateFails)
     EXPECT_EQ(model().phase(),
               Phase::needs(QStringLiteral("Unzipping failed (ditto exit code 1).")));
     EXPECT_TRUE(exists(QStringLiteral("Game/tetherwalk-master/project.godot")));
+    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
     EXPECT_EQ(leftovers(), QStringList());
 }
 

@@ -23,8 +23,7 @@ void move(const QString& from, const QString& to)
 {
     // Not QFile::rename: it copies, slowly and in part, where the file systems differ.
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
-        throw PlatformError::fromErrno(
-            QStringLiteral("move “%1” to “%2”").arg(from, to), errno);
+        throw PlatformError::fromErrno(QStringLiteral("move “%1” to “%2”").arg(from, to), errno);
 }
 
 } // namespace
@@ -41,7 +40,14 @@ void FileTree::remove(const QString& path)
     std::filesystem::remove_all(native(path), error);
     if (error)
         throw PlatformError::fromReason(QStringLiteral("remove “%1”").arg(path),
-            QString::fromStdString(error.message()));
+                                        QString::fromStdString(error.message()));
+}
+
+void FileTree::removeAtOnce(const QString& path, const QString& aside)
+{
+    const auto moved =
+        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0;
+    remove(moved ? aside : path);
 }
 
 void FileTree::removeQuietly(const QString& path) noexcept

@@ -14,7 +14,12 @@ bool exists(const QString& path);
 /// Throws PlatformError; what could be removed is then gone and the rest stays.
 void remove(const QString& path);
 
-/// The same, ignoring errors.
+/// Removes what is at `path` so that nobody ever finds half of it there: moves it to `aside`, a
+/// free name in the same folder, in one step first. Nothing there is success. Throws PlatformError;
+/// what could not be removed is then at `aside`, or still at `path`.
+void removeAtOnce(const QString& path, const QString& aside);
+
+/// Removes `path` as remove() does, ignoring errors.
 void removeQuietly(const QString& path) noexcept;
 
 /// Puts the folder `staging` at `target`, replacing what is there.

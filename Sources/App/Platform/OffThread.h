@@ -10,15 +10,17 @@
 #include <type_traits>
 #include <utility>
 
-/// Runs `work` on the thread pool. The future carries its result, or what it throws, unchanged;
-/// QtConcurrent::run would wrap any exception that is not one of the library's own.
+/// Runs `work` on the thread pool, the program's own unless another one is given. The future
+/// carries its result, or what it throws, unchanged; QtConcurrent::run would wrap any exception
+/// that is not one of the library's own.
 template<typename Work>
-auto offThread(Work work) -> QFuture<std::invoke_result_t<Work&>>
+auto offThread(Work work, QThreadPool& pool = *QThreadPool::globalInstance())
+    -> QFuture<std::invoke_result_t<Work&>>
 {
     using Result = std::invoke_result_t<Work&>;
     const auto promise = std::make_shared<QPromise<Result>>();
     promise->start();
-    QThreadPool::globalInstance()->start([promise, work = std::move(work)]() mutable {
+    pool.start([promise, work = std::move(work)]() mutable {
         try {
             if constexpr (std::is_void_v<Result>)
                 work();
