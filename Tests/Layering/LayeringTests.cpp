@@ -57,6 +57,8 @@ Layer layerOf(const QString& file, const Includes& includes)
         return folders.value(file.section(u'/', 0, 0), Layer::Shell);
     if (leaves.contains(file))
         return Layer::Leaf;
+    if (file == QLatin1String("main.cpp"))
+        return Layer::Shell;
     // A header and its source are one: the source says what the header leaves out.
     const auto name = QFileInfo(file).baseName();
     const auto own =
