@@ -6,7 +6,9 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QScopeGuard>
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 
 #include <array>
@@ -90,6 +92,9 @@ private:
 
 QString sha512OfFile(const QString& path, const std::stop_token& stop)
 {
+    // The library keeps a record for each thread, which it would free when the thread has ended;
+    // a pool thread may end so late that the program has already left.
+    const auto releaseThread = qScopeGuard(&OPENSSL_thread_stop);
     InputFile file(path);
     Hash hash;
     const auto buffer = std::make_unique_for_overwrite<char[]>(pieceSize);
