@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QUuid>
 
 #include <filesystem>
@@ -17,9 +18,27 @@
 
 namespace {
 
+const auto stagingInfix = QStringLiteral(".new-");
+const auto temporaryPrefix = QStringLiteral("CavernyxPlatformer-");
+
 QString newUuid()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+}
+
+/// The folders in `parent`, links among them, that are named `prefix` and then one of our UUIDs.
+QStringList foldersNamed(const QString& parent, const QString& prefix)
+{
+    const QRegularExpression name(
+        QRegularExpression::anchoredPattern(
+            prefix + QStringLiteral("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
+    const QDir folder(parent);
+    QStringList found;
+    const auto names =
+        folder.entryList(QDir::Dirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const auto& candidate : names.filter(name))
+        found.append(folder.filePath(candidate));
+    return found;
 }
 
 /// The bytes that a regular file takes on disk; 0 for anything else.
@@ -51,15 +70,30 @@ QString Paths::engines()
     return root() + QStringLiteral("/Engine");
 }
 
+QString Paths::sessionLock()
+{
+    return HostPlatform::applicationSupport() + QStringLiteral("/.Cavernyx Platformer.lock");
+}
+
 QString Paths::newStagingFolder(const QString& target)
 {
-    return target + QStringLiteral(".new-") + newUuid();
+    return target + stagingInfix + newUuid();
+}
+
+QStringList Paths::stagingFolders()
+{
+    const auto prefix = QStringLiteral("[^/]+") + QRegularExpression::escape(stagingInfix);
+    return foldersNamed(root(), prefix) + foldersNamed(engines(), prefix);
 }
 
 TemporaryFolder Paths::newTempDir()
 {
-    return TemporaryFolder(
-        QDir::tempPath() + QStringLiteral("/CavernyxPlatformer-") + newUuid());
+    return TemporaryFolder(QDir::tempPath() + u'/' + temporaryPrefix + newUuid());
+}
+
+QStringList Paths::tempDirs()
+{
+    return foldersNamed(QDir::tempPath(), temporaryPrefix);
 }
 
 void Paths::ensure(const QString& path)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <stop_token>
 
@@ -22,13 +23,24 @@ QString game();
 /// The parent of the installed engine builds, `root()`/"Engine".
 QString engines();
 
+/// The file of the SessionLock of this installation. It lies beside the root, so that removing
+/// everything does not end the lock.
+QString sessionLock();
+
 /// A fresh name for a folder in which the new content of `target` is put together: `target` +
 /// ".new-" + a random UUID. It lies beside the target, so that moving it there is one step.
 QString newStagingFolder(const QString& target);
 
+/// The staging folders of the game and of the engines that stand on the disk now, whoever made
+/// them.
+QStringList stagingFolders();
+
 /// Creates and gives a new folder "CavernyxPlatformer-" + a random UUID in the system's temporary
 /// folder, readable by the user alone. Throws PlatformError.
 TemporaryFolder newTempDir();
+
+/// The folders of newTempDir() that stand on the disk now, whoever made them.
+QStringList tempDirs();
 
 /// Creates the folder at `path` with missing parents. A folder that exists already is success.
 /// Throws PlatformError.

@@ -16,23 +16,48 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+FileDescriptor openFolder(const QByteArray& name)
+{
+    return FileDescriptor(
+        ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+bool isOwnFolder(const FileDescriptor& folder)
+{
+    struct stat status = {};
+    return ::fstat(folder.get(), &status) == 0 && status.st_uid == ::geteuid();
+}
+
+bool isRemoved(const FileDescriptor& folder)
+{
+    struct stat status = {};
+    return ::fstat(folder.get(), &status) == 0 && status.st_nlink == 0;
+}
+
+} // namespace
+
 TemporaryFolder::TemporaryFolder(const QString& path)
     : m_path(path)
 {
     QDir().mkpath(QFileInfo(path).path());
     const auto name = QFile::encodeName(path);
-    if (::mkdir(name.constData(), S_IRWXU) != 0)
-        throw PlatformError::fromErrno(
-            QStringLiteral("create the temporary folder “%1”").arg(path), errno);
-    // A file system without locks still gives a usable folder; it is then never cleared by others.
-    m_lock = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (m_lock >= 0)
-        ::flock(m_lock, LOCK_EX | LOCK_NB);
+    do {
+        if (::mkdir(name.constData(), S_IRWXU) != 0)
+            throw PlatformError::fromErrno(
+                QStringLiteral("create the temporary folder “%1”").arg(path), errno);
+        m_lock = openFolder(name);
+        // A file system without locks still gives a usable folder; it is then never cleared by
+        // others. A launcher that clears up may have found the folder before it was locked, and has
+        // removed it when the lock comes.
+        ::flock(m_lock.get(), LOCK_EX);
+    } while (isRemoved(m_lock) || !FileTree::exists(path));
 }
 
 TemporaryFolder::TemporaryFolder(TemporaryFolder&& other) noexcept
     : m_path(std::exchange(other.m_path, QString()))
-    , m_lock(std::exchange(other.m_lock, -1))
+    , m_lock(std::move(other.m_lock))
 {
 }
 
@@ -45,6 +70,12 @@ void TemporaryFolder::remove() noexcept
 {
     if (!m_path.isEmpty())
         FileTree::removeQuietly(std::exchange(m_path, QString()));
-    if (m_lock >= 0)
-        ::close(std::exchange(m_lock, -1));
+    m_lock.close();
+}
+
+void TemporaryFolder::removeIfAbandoned(const QString& path) noexcept
+{
+    const auto folder = openFolder(QFile::encodeName(path));
+    if (folder.isOpen() && isOwnFolder(folder) && ::flock(folder.get(), LOCK_EX | LOCK_NB) == 0)
+        FileTree::removeQuietly(path);
 }

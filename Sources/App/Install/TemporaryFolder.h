@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/FileDescriptor.h"
+
 #include <QString>
 
 /// A temporary folder that is removed, with everything in it, when its owner goes away.
@@ -17,6 +19,10 @@ public:
     TemporaryFolder(TemporaryFolder&& other) noexcept;
     TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
+    /// Removes the folder at `path` if it is this user's and nobody owns it any more. Does nothing
+    /// to a link, nor where folders cannot be locked. May block.
+    static void removeIfAbandoned(const QString& path) noexcept;
+
     [[nodiscard]] const QString& path() const { return m_path; }
 
     /// Removes the folder now, ignoring errors. May block; the destructor then has nothing to do.
@@ -24,5 +30,5 @@ public:
 
 private:
     QString m_path;
-    int m_lock = -1;
+    FileDescriptor m_lock;
 };

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class SessionLock;
+
+/// What launchers that were killed have left behind: the folders they were putting together or
+/// deleting, and their temporary folders.
+namespace Leftovers {
+
+/// Clears it away, on the thread pool; what cannot be removed stays. For the start of the program,
+/// before it makes such folders of its own.
+///
+/// Staging folders are nobody's, and go, when `session` is claimed and no game runs. Of the
+/// temporary folders those of this user go whose owner is gone.
+void clear(const SessionLock& session);
+
+} // namespace Leftovers
