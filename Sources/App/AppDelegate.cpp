@@ -4,7 +4,7 @@
 #include "AppModel.h"
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
@@ -13,7 +13,7 @@ AppDelegate::AppDelegate(AppModel& model, QWidget& window)
     : m_model(model)
     , m_window(window)
 {
-    m_window.installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(&m_model, &AppModel::flowEnded, this, &AppDelegate::quitWhenIdle);
 
     auto* const quit = new QAction(&m_window);
@@ -36,18 +36,49 @@ bool AppDelegate::applicationShouldTerminate()
         return m_quitting;
     {
         const QScopedValueRollback asking(m_asking, true);
-        m_quitting = m_model.confirmQuit();
+        // The system may have ended the question together with the program.
+        if (!m_model.confirmQuit() || m_quitting)
+            return m_quitting;
     }
-    if (m_quitting) {
-        m_window.hide();
-        quitWhenIdle();
-    }
-    return m_quitting;
+    beginToQuit();
+    return true;
+}
+
+void AppDelegate::terminate()
+{
+    if (m_quitting)
+        return;
+    m_model.endForQuit();
+    beginToQuit();
+}
+
+void AppDelegate::beginToQuit()
+{
+    m_quitting = true;
+    Q_EMIT terminating();
+    // Hiding a question that stands is to decline it.
+    const auto windows = QApplication::topLevelWidgets();
+    for (auto* const window : windows)
+        window->hide();
+    quitWhenIdle();
+}
+
+void AppDelegate::activate(const QByteArray& activationToken)
+{
+    if (m_quitting)
+        return;
+    // This is where Qt looks for it, and only there.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+    applicationDidFinishLaunching();
 }
 
 bool AppDelegate::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() != QEvent::Close)
+    const auto closes = object == &m_window && event->type() == QEvent::Close;
+    const auto quits = object == qApp && event->type() == QEvent::Quit;
+    if (!closes && !quits)
         return QObject::eventFilter(object, event);
     event->setAccepted(applicationShouldTerminate());
     return true;

@@ -7,8 +7,8 @@ class AppModel;
 class QWidget;
 
 /// Brings the window to the front when the program has started, and decides when the program ends:
-/// with its window, after the question while the game runs, and only once everything that the model
-/// had started has ended.
+/// with its window, after the question while the game runs, or when the system says so, and only
+/// once everything that the model had started has ended.
 class AppDelegate final : public QObject
 {
     Q_OBJECT
@@ -22,11 +22,21 @@ public:
     /// Asks the model whether the program may quit, and if so begins to. False when the player
     /// declined; the window then stays.
     bool applicationShouldTerminate();
+    /// Begins to quit without a question: the session or the system wants the program gone.
+    void terminate();
+    /// Brings the window to the front, as another start of the program asks. By `activationToken`,
+    /// if it gave one, the desktop knows that the player wanted this.
+    void activate(const QByteArray& activationToken);
+
+Q_SIGNALS:
+    /// The program has begun to quit and will do so.
+    void terminating();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void beginToQuit();
     void quitWhenIdle();
 
     AppModel& m_model;

@@ -25,8 +25,9 @@ constexpr int logBound = 2000;
 
 } // namespace
 
-AppModel::AppModel(Desktop& desktop, const Durations& durations)
+AppModel::AppModel(Desktop& desktop, const SessionLock& session, const Durations& durations)
     : m_desktop(desktop)
+    , m_session(session)
     , m_durations(durations)
     , m_log(logBound, durations.logPublication)
     , m_runner(durations)

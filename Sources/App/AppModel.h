@@ -23,6 +23,7 @@ class Desktop;
 class FileDownloader;
 class PlayOutcome;
 class ProgressRelay;
+class SessionLock;
 
 /// The launcher's state, and everything a player can do.
 ///
@@ -43,9 +44,9 @@ public:
     /// the shell, which owns the desktop. Tests construct their own.
     static AppModel& shared();
 
-    /// Reads the stored settings and derives the state from the disk. `desktop` must outlive the
-    /// model.
-    explicit AppModel(Desktop& desktop, const Durations& durations = {});
+    /// Reads the stored settings and derives the state from the disk. `desktop` and `session` must
+    /// outlive the model.
+    AppModel(Desktop& desktop, const SessionLock& session, const Durations& durations = {});
     /// No flow may be running: see isFlowRunning().
     ~AppModel() override;
 
@@ -105,9 +106,12 @@ public:
     void copyFailure();
     void copyLog();
 
-    /// Whether the program may quit: asks while the game runs, and then closes it; cancels a setup
-    /// without asking. The caller waits for flowEnded() while isFlowRunning().
+    /// Whether the program may quit: asks while the game runs, and unless the player declines ends
+    /// what runs, as endForQuit() does.
     bool confirmQuit();
+    /// Closes the running game as the player's own wish, or cancels a setup, without asking. The
+    /// caller waits for flowEnded() while isFlowRunning().
+    void endForQuit();
 
     /// Derives info, facts and phase from the disk anew and clears the progress.
     void refreshState();
@@ -136,6 +140,7 @@ private:
 
     // Flows: what a press of Play or a housekeeping action starts, one at a time.
     using Flow = QCoro::Task<> (AppModel::*)(std::stop_token);
+    bool refuseWhileGameStillRuns();
     void startFlow(Flow flow);
     QCoro::Task<> runFlow(Flow flow, std::stop_token stop);
 
@@ -159,6 +164,7 @@ private:
     QCoro::Task<> deleteEverything(std::stop_token stop);
 
     Desktop& m_desktop;
+    const SessionLock& m_session;
     const Durations m_durations;
 
     Phase m_phase = Phase::notDownloaded();

@@ -7,6 +7,7 @@
 #include "AppError.h"
 #include "Install/EngineManager.h"
 #include "Install/Paths.h"
+#include "Platform/SessionLock.h"
 #include "PlayOutcome.h"
 #include "ProgressRelay.h"
 
@@ -40,7 +41,7 @@ QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
     startUpWatch.start(m_durations.startUpWatch);
 
     m_runner.process = std::make_shared<ManagedProcess>(
-        ManagedProcess::Lifetime::MayOutliveLauncher, m_durations.killGrace);
+        ManagedProcess::Lifetime::MayOutliveLauncher, m_durations.killGrace, m_session.descriptor());
     const auto forget = qScopeGuard([this] { m_runner.process.reset(); });
     const auto run = m_runner.process->run(engine, arguments, m_log.callback());
     co_return co_await run;

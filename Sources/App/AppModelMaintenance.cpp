@@ -51,7 +51,7 @@ void removeInstallation(const QString& root)
 
 void AppModel::updateGame()
 {
-    if (isBusy())
+    if (isBusy() || refuseWhileGameStillRuns())
         return;
     if (!m_desktop.confirm(
             tr("Update the game?"),
@@ -68,7 +68,7 @@ void AppModel::updateGame()
 
 void AppModel::reinstall()
 {
-    if (isBusy())
+    if (isBusy() || refuseWhileGameStillRuns())
         return;
     if (!m_desktop.confirm(
             tr("Reinstall everything?"),
@@ -97,7 +97,7 @@ QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 
 void AppModel::removeEverything()
 {
-    if (isBusy())
+    if (isBusy() || refuseWhileGameStillRuns())
         return;
     const auto size = m_installedSize.isEmpty() ? tr("all downloaded files") : m_installedSize;
     if (!m_desktop.confirm(
@@ -167,10 +167,16 @@ bool AppModel::confirmQuit()
                                tr("The game is still running. Quitting will close it."),
                                tr("Quit")))
             return false;
-        stopGame(); // Harmless when the game has ended while the question stood.
-    } else if (isBusy()) {
-        cancelSetup();
     }
-    m_sizeStop.request_stop(); // Nobody waits for that number any more.
+    endForQuit(); // Harmless when the game has ended while the question stood.
     return true;
+}
+
+void AppModel::endForQuit()
+{
+    if (m_phase == Phase::Kind::playing)
+        stopGame();
+    else if (isBusy())
+        cancelSetup();
+    m_sizeStop.request_stop(); // Nobody waits for that number any more.
 }

@@ -12,6 +12,7 @@
 #include "Install/RepoDownloader.h"
 #include "Platform/Cancelled.h"
 #include "Platform/OffThread.h"
+#include "Platform/SessionLock.h"
 #include "ProgressRelay.h"
 #include "Project/ImportChecker.h"
 #include "Project/ProjectInspector.h"
@@ -53,7 +54,20 @@ void AppModel::play()
     if (isBusy())
         return;
     m_failureText.reset();
+    if (refuseWhileGameStillRuns())
+        return;
     startFlow(&AppModel::setUpAndPlay);
+}
+
+bool AppModel::refuseWhileGameStillRuns()
+{
+    // It was left running by a launcher that was killed. Its files must not change under it, and a
+    // second one would write to the same saves.
+    if (!m_session.isGameRunning())
+        return false;
+    concludeFailed(
+        QStringLiteral("The game is still running from an earlier start. Close it first."));
+    return true;
 }
 
 void AppModel::startFlow(Flow flow)

@@ -4,6 +4,12 @@
 #include "AppDelegate.h"
 #include "AppModel.h"
 #include "ColorScheme.h"
+#include "Install/Leftovers.h"
+#include "Install/Paths.h"
+#include "Platform/PlatformError.h"
+#include "Platform/SessionLock.h"
+#include "Platform/TerminationSignals.h"
+#include "SingleInstance.h"
 #include "Views/ContentView.h"
 #include "Views/LauncherStyle.h"
 #include "WidgetDesktop.h"
@@ -11,29 +17,39 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
+QStringList messagesAtStart;
+
 /// While the application starts, Qt's own words for a display that cannot be opened, and its abort,
 /// are replaced by one sentence. Whatever the cause is - no display, no permission, no plug-in for
-/// it - Qt alone knows, and only so late.
+/// it - Qt alone knows, and only so late. What it says without giving up is passed on afterwards.
 class DisplayCheck final
 {
 public:
     DisplayCheck() { qInstallMessageHandler(handle); }
-    ~DisplayCheck() { qInstallMessageHandler(nullptr); }
+    ~DisplayCheck()
+    {
+        qInstallMessageHandler(nullptr);
+        for (const auto& message : std::exchange(messagesAtStart, {}))
+            std::fprintf(stderr, "%s\n", qPrintable(message));
+    }
 
     DisplayCheck(const DisplayCheck&) = delete;
     DisplayCheck& operator=(const DisplayCheck&) = delete;
 
 private:
-    static void handle(QtMsgType type, const QMessageLogContext&, const QString&)
+    static void handle(QtMsgType type, const QMessageLogContext&, const QString& message)
     {
+        messagesAtStart.append(message);
         if (type != QtFatalMsg)
             return;
         std::fputs(
@@ -70,6 +86,38 @@ QIcon programIcon()
     return icon;
 }
 
+/// What the desktop hands to a program that the player has started. Read before the application is
+/// made, which takes it away.
+QByteArray activationToken()
+{
+    const auto token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+QString sessionLockFile()
+{
+    try {
+        return Paths::sessionLock();
+    } catch (const PlatformError&) {
+        return {}; // Without a home nothing can be installed, and so nothing is shared.
+    }
+}
+
+SessionLock& session()
+{
+    static SessionLock lock(sessionLockFile());
+    return lock;
+}
+
+void sayThatAnotherDoesNotAnswer()
+{
+    const auto sentence = QCoreApplication::translate(
+        "CavernyxPlatformerApp",
+        "Cavernyx Platformer is already running, but does not answer. Close it first.");
+    std::fputs(qPrintable(sentence + u'\n'), stderr);
+    QMessageBox::warning(nullptr, QCoreApplication::applicationName(), sentence);
+}
+
 QApplication makeApplication(int& argumentCount, char** arguments)
 {
     const DisplayCheck check;
@@ -83,12 +131,13 @@ AppModel& AppModel::shared()
 {
     static WidgetDesktop desktop;
     // Never released: it serves until the process is gone.
-    static auto& model = *new AppModel(desktop);
+    static auto& model = *new AppModel(desktop, session());
     return model;
 }
 
 CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
     : m_arguments{programName, nullptr}
+    , m_activationToken(activationToken())
     , m_application(makeApplication(m_argumentCount, m_arguments))
 {
     // Nothing is edited here; a caret in the selectable texts need not wake the processor.
@@ -101,9 +150,35 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
 
 int CavernyxPlatformerApp::run()
 {
+    SingleInstance instance(session(), SingleInstance::addressOf(sessionLockFile()));
+    switch (instance.start(m_activationToken)) {
+    case SingleInstance::Start::First:
+        return runFirst(instance);
+    case SingleInstance::Start::HandedOver:
+        return EXIT_SUCCESS;
+    case SingleInstance::Start::NoAnswer:
+        sayThatAnotherDoesNotAnswer();
+        return EXIT_FAILURE;
+    }
+    Q_UNREACHABLE();
+}
+
+int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
+{
+    Leftovers::clear(session());
     ColorScheme colorScheme;
     ContentView window(AppModel::shared());
     AppDelegate delegate(AppModel::shared(), window);
+    const TerminationSignals terminationSignals;
+
+    QObject::connect(&instance, &SingleInstance::activated, &delegate, &AppDelegate::activate);
+    QObject::connect(&delegate, &AppDelegate::terminating, &instance,
+                     &SingleInstance::stopListening);
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &delegate,
+                     &AppDelegate::terminate);
+    QObject::connect(&m_application, &QGuiApplication::commitDataRequest, &delegate,
+                     &AppDelegate::terminate, Qt::DirectConnection);
+
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+class SingleInstance;
+
 /// The application: one model, one window, one delegate, and the event loop that runs them.
 ///
 /// It takes nothing from the command line; what would be an option of Qt's is not one here.
@@ -13,13 +15,17 @@ public:
     /// one sentence and ends the program with status 1.
     explicit CavernyxPlatformerApp(char* programName);
 
-    /// Shows the window and returns the program's exit status once the player has quit.
+    /// Shows the window and returns the program's exit status once the player has quit. Where
+    /// another launcher serves the same installation, brings that to the front instead.
     int run();
 
 private:
+    int runFirst(SingleInstance& instance);
     void loadTranslation();
 
     int m_argumentCount = 1;
     char* m_arguments[2];
+    /// By which the desktop lets a window of this start come to the front.
+    QByteArray m_activationToken;
     QApplication m_application;
 };

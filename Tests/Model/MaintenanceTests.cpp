@@ -4,7 +4,11 @@
 
 #include <QTest>
 
+#include <csignal>
+#include <utility>
+
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -52,6 +56,79 @@ TEST_F(Maintenance, refusesEveryDestructiveActionWhileBusy)
         EXPECT_EQ(model().phase(), phase);
     }
     AppModelAccess::setPhase(model(), Phase::notDownloaded());
+}
+
+/// A game that a launcher started which was killed since.
+class GameLeftRunning : public ModelTest
+{
+protected:
+    GameLeftRunning()
+    {
+        m_game = ::fork();
+        if (m_game == 0) {
+            SessionLock::holdAsGame(session.descriptor());
+            ::pause();
+        }
+        EXPECT_TRUE(QTest::qWaitFor([this] { return session.isGameRunning(); }));
+        installGame();
+        installEngine("exit 0");
+        writeMarker();
+        startModel();
+    }
+    ~GameLeftRunning() override { endGame(); }
+
+    void endGame()
+    {
+        if (m_game <= 0)
+            return;
+        ::kill(m_game, SIGKILL);
+        ::waitpid(std::exchange(m_game, 0), nullptr, 0);
+    }
+
+    void expectRefusal(void (AppModel::*action)())
+    {
+        model().refreshState();
+        (model().*action)();
+        EXPECT_FALSE(model().isFlowRunning());
+        EXPECT_EQ(model().phase(),
+                  Phase::needs(QStringLiteral(
+                      "The game is still running from an earlier start. Close it first.")));
+        EXPECT_EQ(logged().constLast(),
+                  QStringLiteral(
+                      "Error: The game is still running from an earlier start. Close it first."));
+    }
+
+private:
+    pid_t m_game = 0;
+};
+
+TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
+{
+    expectRefusal(&AppModel::play);
+    expectRefusal(&AppModel::updateGame);
+    expectRefusal(&AppModel::reinstall);
+    expectRefusal(&AppModel::removeEverything);
+    EXPECT_TRUE(desktop.questions.isEmpty());
+    EXPECT_TRUE(home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable")));
+
+    endGame();
+    model().removeEverything();
+    waitForFlow();
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+}
+
+TEST_F(Maintenance, knowsItsOwnGameWhileItRunsAndNotAfterwards)
+{
+    installGame();
+    installEngine("sleep 60");
+    writeMarker();
+    startModel().play();
+    waitForPhase(Phase::Kind::playing);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return session.isGameRunning(); }))
+        << "for another launcher to see, should this one be killed";
+    model().stopGame();
+    waitForFlow();
+    EXPECT_FALSE(session.isGameRunning());
 }
 
 TEST_F(Maintenance, doesNothingWhenDeclined)

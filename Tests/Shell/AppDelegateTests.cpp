@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 namespace {
 
 class AppDelegateTest : public ModelTest
@@ -24,8 +26,14 @@ protected:
     /// Closes the window as the player would and gives whether the program ends thereupon.
     bool endsAfterClosing()
     {
+        return ends([this] { window.close(); });
+    }
+
+    /// Whether the program ends after `action`.
+    bool ends(const std::function<void()>& action)
+    {
         auto ended = true;
-        QTimer::singleShot(0, &window, [this] { window.close(); });
+        QTimer::singleShot(0, &window, action);
         QTimer::singleShot(500, &window, [&ended] {
             ended = false;
             QCoreApplication::exit();
@@ -80,6 +88,66 @@ TEST_F(AppDelegateTest, asksOnceHoweverOftenTheProgramIsToldToEndMeanwhile)
     EXPECT_FALSE(endsAfterClosing());
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(AppDelegateTest, quitsWithoutAQuestionWhenTheSystemSaysSo)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    desktop.answer = false;
+    const QSignalSpy terminating(&delegate, &AppDelegate::terminating);
+    EXPECT_TRUE(ends([this] {
+        delegate.terminate();
+        delegate.terminate(); // It is under way.
+    }));
+    EXPECT_TRUE(desktop.questions.isEmpty());
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(terminating.count(), 1);
+}
+
+TEST_F(AppDelegateTest, quitsWhenTheSystemSaysSoWhileTheQuestionStands)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    desktop.answer = false; // As a question does that is hidden.
+    desktop.whileAsking = [this] { delegate.terminate(); };
+    EXPECT_TRUE(ends([this] { window.close(); }));
+    EXPECT_EQ(desktop.questions.size(), 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AppDelegateTest, hidesEveryWindowWhenItQuits)
+{
+    QWidget sheet(&window, Qt::Dialog);
+    sheet.show();
+    EXPECT_TRUE(ends([this] { delegate.terminate(); }));
+    EXPECT_FALSE(sheet.isVisible());
+}
+
+TEST_F(AppDelegateTest, asksWhenTheApplicationIsToldToQuit)
+{
+    AppModelAccess::setPhase(model(), Phase::playing());
+    desktop.answer = false;
+    EXPECT_FALSE(ends([] { QCoreApplication::quit(); }));
+    EXPECT_EQ(desktop.questions.size(), 1);
+    EXPECT_TRUE(window.isVisible());
+    desktop.answer = true;
+    EXPECT_TRUE(ends([] { QCoreApplication::quit(); }));
+}
+
+TEST_F(AppDelegateTest, bringsTheWindowBackWhenTheProgramIsStartedAgain)
+{
+    window.showMinimized();
+    delegate.activate("a token");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "a token");
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+TEST_F(AppDelegateTest, staysHiddenWhenItIsStartedAgainWhileItQuits)
+{
+    EXPECT_TRUE(ends([this] { delegate.terminate(); }));
+    delegate.activate({});
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(AppDelegateTest, waitsHiddenForWhatTheGameLeavesToDo)

@@ -39,7 +39,7 @@ ModelTest::~ModelTest()
 AppModel& ModelTest::startModel()
 {
     endModel();
-    m_model = std::make_unique<AppModel>(desktop, durations);
+    m_model = std::make_unique<AppModel>(desktop, session, durations);
     return *m_model;
 }
 

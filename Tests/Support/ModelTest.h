@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppModel.h"
+#include "Platform/SessionLock.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/FakeDesktop.h"
 #include "Support/TestFolder.h"
@@ -45,6 +46,7 @@ protected:
     TestFolder home;
     FakeDesktop desktop;
     Durations durations;
+    SessionLock session{home.path(QStringLiteral("session.lock"))};
 
 private:
     void endModel();

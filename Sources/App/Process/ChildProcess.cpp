@@ -4,6 +4,7 @@
 #include "Platform/ChildSetup.h"
 #include "Platform/PlatformError.h"
 #include "Platform/ServiceThread.h"
+#include "Platform/SessionLock.h"
 #include "Process/ChildOutput.h"
 
 #include <csignal>
@@ -22,17 +23,20 @@ QString systemReason(const QString& error)
 } // namespace
 
 std::shared_ptr<ChildProcess> ChildProcess::create(ManagedProcess::Lifetime lifetime,
-                                                   std::chrono::milliseconds killGrace)
+                                                   std::chrono::milliseconds killGrace,
+                                                   int sessionLock)
 {
     // Whoever lets go of it last may be on another thread than the one it lives on.
-    const std::shared_ptr<ChildProcess> child(new ChildProcess(lifetime, killGrace),
+    const std::shared_ptr<ChildProcess> child(new ChildProcess(lifetime, killGrace, sessionLock),
                                               [](ChildProcess* last) { last->deleteLater(); });
     child->moveToThread(&ServiceThread::children());
     return child;
 }
 
-ChildProcess::ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace)
+ChildProcess::ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace,
+                           int sessionLock)
     : m_lifetime(lifetime)
+    , m_sessionLock(sessionLock)
     , m_killTimer(this)
 {
     m_killTimer.setSingleShot(true);
@@ -95,7 +99,8 @@ void ChildProcess::setUpProcess()
     m_process->setProcessChannelMode(QProcess::ForwardedChannels);
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setChildProcessModifier(
-        [lifetime = m_lifetime, output = m_output->writeEnd(), parent = ::getpid()] {
+        [lifetime = m_lifetime, sessionLock = m_sessionLock, output = m_output->writeEnd(),
+         parent = ::getpid()] {
             ChildSetup::leadOwnGroup();
             ChildSetup::sendOutputTo(output);
             ChildSetup::withholdOtherDescriptors();
@@ -104,6 +109,8 @@ void ChildProcess::setUpProcess()
                 ChildSetup::endWithParent(parent);
             else
                 ChildSetup::ignoreBrokenPipes();
+            if (sessionLock >= 0)
+                SessionLock::holdAsGame(sessionLock);
         });
 }
 

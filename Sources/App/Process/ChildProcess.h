@@ -22,7 +22,8 @@ class ChildProcess final : public QObject, public std::enable_shared_from_this<C
 {
 public:
     static std::shared_ptr<ChildProcess> create(ManagedProcess::Lifetime lifetime,
-                                                std::chrono::milliseconds killGrace);
+                                                std::chrono::milliseconds killGrace,
+                                                int sessionLock);
     ~ChildProcess() override;
 
     QFuture<int> run(const QString& executable, const QStringList& arguments, LogCallback onLine);
@@ -30,7 +31,8 @@ public:
     void terminate();
 
 private:
-    ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace);
+    ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace,
+                 int sessionLock);
 
     void start(const QString& executable, const QStringList& arguments, LogCallback onLine);
     void setUpProcess();
@@ -42,6 +44,7 @@ private:
     void letGo();
 
     const ManagedProcess::Lifetime m_lifetime;
+    const int m_sessionLock;
     std::atomic<bool> m_isRunning = false;
     QPromise<int> m_promise;
     std::shared_ptr<ChildProcess> m_self;

@@ -3,8 +3,9 @@
 
 #include "Process/ChildProcess.h"
 
-ManagedProcess::ManagedProcess(Lifetime lifetime, std::chrono::milliseconds killGrace)
-    : m_child(ChildProcess::create(lifetime, killGrace))
+ManagedProcess::ManagedProcess(Lifetime lifetime, std::chrono::milliseconds killGrace,
+                               int sessionLock)
+    : m_child(ChildProcess::create(lifetime, killGrace, sessionLock))
 {
 }
 

@@ -23,9 +23,11 @@ public:
     /// Whether the child ends with the launcher, however the launcher ends, or may outlive it.
     enum class Lifetime { EndsWithLauncher, MayOutliveLauncher };
 
-    /// `killGrace` is the time from the polite request to stop to the kill.
+    /// `killGrace` is the time from the polite request to stop to the kill. With the descriptor of
+    /// a SessionLock, which must stay open until the child has started, the child counts as the
+    /// running game.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::EndsWithLauncher,
-        std::chrono::milliseconds killGrace = std::chrono::seconds{5});
+        std::chrono::milliseconds killGrace = std::chrono::seconds{5}, int sessionLock = -1);
     /// Leaves a child that still runs to its end, and its future with it.
     ~ManagedProcess();
 

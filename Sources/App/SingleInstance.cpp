@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "SingleInstance.h"
+
+#include "Platform/SessionLock.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QLocalSocket>
+
+#include <thread>
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto answerTime = 2s;
+constexpr auto retryInterval = 50ms;
+constexpr qint64 longestToken = 4096;
+
+/// The addresses are open to every user of the machine, so each side looks whom it talks to.
+bool isOwnUser(const QLocalSocket& socket)
+{
+#if defined(Q_OS_LINUX)
+    ucred peer = {};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer,
+                        &size) == 0 &&
+           peer.uid == ::geteuid();
+#else
+    uid_t user = 0;
+    gid_t group = 0;
+    return ::getpeereid(static_cast<int>(socket.socketDescriptor()), &user, &group) == 0 &&
+           user == ::geteuid();
+#endif
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(SessionLock& lock, const QString& name)
+    : m_lock(lock)
+    , m_name(name)
+{
+    // An address that is not a file cannot be left behind.
+    m_server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+    connect(&m_server, &QLocalServer::newConnection, this, [this] {
+        while (auto* const caller = m_server.nextPendingConnection())
+            serve(caller);
+    });
+}
+
+QString SingleInstance::addressOf(const QString& lockFile)
+{
+    const auto key = QCryptographicHash::hash(lockFile.toUtf8(), QCryptographicHash::Sha256);
+    return QStringLiteral("cavernyx-platformer-%1-%2")
+        .arg(::geteuid())
+        .arg(QString::fromLatin1(key.toHex().first(32)));
+}
+
+SingleInstance::Start SingleInstance::start(const QByteArray& activationToken,
+                                            std::chrono::milliseconds patience)
+{
+    const QDeadlineTimer deadline(patience);
+    while (!m_lock.claim()) {
+        if (handOver(activationToken))
+            return Start::HandedOver;
+        if (deadline.hasExpired())
+            return Start::NoAnswer;
+        std::this_thread::sleep_for(retryInterval);
+    }
+    listen();
+    return Start::First;
+}
+
+bool SingleInstance::handOver(const QByteArray& activationToken)
+{
+    QLocalSocket socket;
+    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+    socket.connectToServer(m_name);
+    constexpr auto wait = static_cast<int>(std::chrono::milliseconds(answerTime).count());
+    if (!socket.waitForConnected(wait) || !isOwnUser(socket))
+        return false;
+    socket.write(activationToken + '\n');
+    return socket.waitForReadyRead(wait);
+}
+
+void SingleInstance::listen()
+{
+    // Where that fails, a later launcher is not answered, and says so.
+    m_server.listen(m_name);
+}
+
+void SingleInstance::stopListening()
+{
+    m_server.close();
+}
+
+void SingleInstance::serve(QLocalSocket* caller)
+{
+    connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+    if (!isOwnUser(*caller)) {
+        caller->abort();
+        return;
+    }
+    caller->setReadBufferSize(longestToken);
+    const auto read = [this, caller] {
+        if (!caller->canReadLine())
+            return;
+        const auto token = caller->readLine().trimmed();
+        caller->write("\n");
+        caller->flush();
+        Q_EMIT activated(token);
+    };
+    connect(caller, &QLocalSocket::readyRead, this, read);
+    read();
+}

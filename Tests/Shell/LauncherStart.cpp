@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// A start of the launcher without its window: takes a lock file, an activation token and how many
+// milliseconds to be patient, and writes what the start comes to, and every later start that it is
+// told of, a line each. The first launcher goes on until its standard input ends; a line there
+// makes it stop listening.
+#include "Platform/SessionLock.h"
+#include "SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include <array>
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+void say(const QByteArray& line)
+{
+    std::puts(line.constData());
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    QCoreApplication application(argumentCount, arguments);
+    const auto lockFile = QString::fromUtf8(arguments[1]);
+    SessionLock lock(lockFile);
+    SingleInstance instance(lock, SingleInstance::addressOf(lockFile));
+    QObject::connect(&instance, &SingleInstance::activated,
+                     [](const QByteArray& token) { say("activated " + token); });
+
+    const std::chrono::milliseconds patience(QByteArray(arguments[3]).toInt());
+    switch (instance.start(arguments[2], patience)) {
+    case SingleInstance::Start::HandedOver:
+        say("handed over");
+        return 0;
+    case SingleInstance::Start::NoAnswer:
+        say("no answer");
+        return 0;
+    case SingleInstance::Start::First:
+        say("first");
+    }
+    QSocketNotifier orders(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&orders, &QSocketNotifier::activated, [&instance] {
+        std::array<char, 1> order{};
+        if (::read(STDIN_FILENO, order.data(), order.size()) <= 0) {
+            QCoreApplication::exit();
+            return;
+        }
+        instance.stopListening();
+        say("deaf");
+    });
+    return QCoreApplication::exec();
+}
