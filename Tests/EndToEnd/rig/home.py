@@ -43,11 +43,26 @@ class Home:
     def engine_folder(self, mono: bool = False) -> Path:
         return self.engines / (engine.VERSION + ("-mono" if mono else ""))
 
+    def processes(self) -> list[int]:
+        """Whoever works with what is installed: runs from there, stands there or was given it.
+        Finds also what the launcher has left behind when it ended."""
+        return [int(process.name) for process in Path("/proc").glob("[0-9]*")
+                if str(self.root) in _engagement(process)]
+
     def expect_nothing_left_over(self) -> None:
         """Only what is installed stands below the root, and nothing in the temporary folder."""
         _expect_only(self.temporary, set())
         _expect_only(self.root, {"Game", "Engine"})
         _expect_only(self.engines, {engine.VERSION, f"{engine.VERSION}-mono"})
+
+
+def _engagement(process: Path) -> str:
+    """The program, the working folder and the command line of a process that is still there."""
+    try:
+        return "\n".join([os.readlink(process / "exe"), os.readlink(process / "cwd"),
+                          (process / "cmdline").read_bytes().decode(errors="replace")])
+    except OSError:
+        return ""  # It has ended meanwhile, or is somebody else's.
 
 
 def _expect_only(folder: Path, allowed: set[str]) -> None:

@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""The launcher as a player meets it: its window, through the accessibility bus."""
+"""The launcher as a player meets it: its window, through the accessibility bus. And as the system
+does: a process that ends, or is ended."""
 
+import os
+import signal
 import subprocess
 from pathlib import Path
 
@@ -10,19 +13,47 @@ TITLE = "Cavernyx Platformer"
 
 
 class Launcher:
-    """Starts the installed program and waits for its window."""
+    """Starts the installed program; `wait_for_window` before asking for anything in its window.
+    What it prints is added to the file `output`. Its environment is the session's with the changes
+    given, where None takes a variable away."""
 
-    def __init__(self, program: Path, output: Path):
+    def __init__(self, program: Path, output: Path, **environment: str | None):
         # The library connects to the bus when it is loaded, which has to be there by then.
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
         self._atspi = Atspi
-        self._output = (output / "launcher-output.txt").open("w")
-        self._process = subprocess.Popen([str(program)], stdout=self._output, stderr=self._output)
+        self._application = None
+        changed = {**os.environ, **environment}
+        with output.open("a") as printed:
+            self._process = subprocess.Popen(
+                [str(program)], stdout=printed, stderr=printed,
+                env={name: value for name, value in changed.items() if value is not None})
+
+    @property
+    def pid(self) -> int:
+        return self._process.pid
+
+    def wait_for_window(self) -> None:
         self._application = wait_for("The launcher on the accessibility bus", self._find)
-        self._application.set_cache_mask(Atspi.Cache.NONE)
+        self._application.set_cache_mask(self._atspi.Cache.NONE)
         wait_for("The launcher's window", lambda: self._controls(name=TITLE))
+
+    def wait_for_end(self, seconds: float = 20) -> int:
+        """Returns the status it ended with; below zero, the signal that ended it."""
+        wait_for("The end of the launcher", lambda: self._process.poll() is not None, seconds)
+        return self._process.returncode
+
+    def is_running(self) -> bool:
+        return self._process.poll() is None
+
+    def signal(self, number: int) -> None:
+        self._process.send_signal(number)
+
+    def kill(self) -> None:
+        """Ends it as a crash would, without a chance to tidy up."""
+        self.signal(signal.SIGKILL)
+        self.wait_for_end()
 
     def press(self, name: str) -> None:
         """Presses the button of that name, once it is there and enabled."""
@@ -64,19 +95,19 @@ class Launcher:
                 line = (status.parent / "cmdline").read_bytes()
             except (FileNotFoundError, ProcessLookupError):
                 continue
-            if parent == self._process.pid and line:
+            if parent == self.pid and line:
                 found.append(line.decode().rstrip("\0").split("\0"))
         return found
 
     def _find(self):
-        if self._process.poll() is not None:
+        if not self.is_running():
             raise AssertionError(f"The launcher ended with status {self._process.returncode}")
         desktop = self._atspi.get_desktop(0)
         desktop.clear_cache()
         applications = [desktop.get_child_at_index(index)
                         for index in range(desktop.get_child_count())]
         return next((application for application in applications
-                     if application and application.get_process_id() == self._process.pid), None)
+                     if application and application.get_process_id() == self.pid), None)
 
     def _button(self, name: str):
         buttons = [control for role in (self._atspi.Role.PUSH_BUTTON,

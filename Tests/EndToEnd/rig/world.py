@@ -49,12 +49,18 @@ class World:
     def disconnect(self) -> None:
         private_world.disconnect(self._scratch)
 
-    def open_launcher(self) -> Launcher:
-        """Starts the launcher and opens its log, to the right of where games open."""
-        self.launcher = Launcher(self._program, self.output)
+    def open_launcher(self, **environment: str | None) -> Launcher:
+        """Starts the launcher and opens its log, to the right of where games open. One that was
+        open before has to have ended."""
+        self.launcher = self.start_launcher(**environment)
+        self.launcher.wait_for_window()
         self.desktop.move_aside(TITLE)
         self.launcher.press("Show log")
         return self.launcher
+
+    def start_launcher(self, **environment: str | None) -> Launcher:
+        """Only starts it, for a start that brings no window of its own."""
+        return Launcher(self._program, self.output / "launcher-output.txt", **environment)
 
     def picture(self, name: str) -> None:
         self.desktop.take_picture(name)
