@@ -6,6 +6,7 @@
 #include "Views/SegmentedPicker.h"
 #include "Views/SettingsView.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QDir>
 #include <QLayout>
@@ -68,6 +69,16 @@ TEST_F(SettingsViewTest, writesTheWindowModeAtOnce)
     EXPECT_TRUE(model().fullscreen());
     control(QStringLiteral("Windowed")).click();
     EXPECT_FALSE(model().fullscreen());
+}
+
+TEST_F(SettingsViewTest, writesWhatAnAssistiveTechnologyChooses)
+{
+    auto* const segment =
+        QAccessible::queryAccessibleInterface(&control(QStringLiteral("Fullscreen")));
+    segment->actionInterface()->doAction(segment->actionInterface()->actionNames().constFirst());
+    EXPECT_TRUE(model().fullscreen());
+    resolution().setCurrentIndex(2);
+    EXPECT_EQ(model().resolution(), ResolutionChoice::r900);
 }
 
 TEST_F(SettingsViewTest, offersTheResolutionsInOrderAndWritesTheChoiceAtOnce)

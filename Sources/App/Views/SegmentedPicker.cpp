@@ -74,7 +74,11 @@ SegmentedPicker::SegmentedPicker(const QString& name, const QStringList& titles)
     for (const auto& title : titles) {
         auto* const segment = new Segment(title);
         const auto index = static_cast<int>(m_segments.size());
-        connect(segment, &QRadioButton::clicked, this, [this, index] { Q_EMIT chosen(index); });
+        // Not clicked(): an assistive technology switches a segment over without a click.
+        connect(segment, &QRadioButton::toggled, this, [this, index](bool checked) {
+            if (checked)
+                Q_EMIT currentChanged(index);
+        });
         m_segments.push_back(segment);
         row->addWidget(segment);
     }

@@ -23,8 +23,8 @@ public:
     void setCurrent(int index);
 
 Q_SIGNALS:
-    /// The player has chosen a segment.
-    void chosen(int index);
+    /// Another segment is chosen now, by whatever means.
+    void currentChanged(int index);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -87,8 +87,11 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
 QWidget* SettingsView::windowPicker()
 {
     m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
-    connect(m_window, &SegmentedPicker::chosen, this,
-            [this](int index) { m_model.setFullscreen(index == 1); });
+    connect(m_window, &SegmentedPicker::currentChanged, this, [this](int index) {
+        const auto fullscreen = index == 1;
+        if (fullscreen != m_model.fullscreen())
+            m_model.setFullscreen(fullscreen);
+    });
     return labelled(tr("Window"), m_window);
 }
 
@@ -98,8 +101,10 @@ QWidget* SettingsView::resolutionPicker()
     m_resolution->setAccessibleName(tr("Resolution"));
     for (const auto choice : allResolutionChoices)
         m_resolution->addItem(label(choice));
-    connect(m_resolution, &QComboBox::activated, this, [this](int index) {
-        m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
+    connect(m_resolution, &QComboBox::currentIndexChanged, this, [this](int index) {
+        const auto choice = allResolutionChoices.at(static_cast<size_t>(index));
+        if (choice != m_model.resolution())
+            m_model.setResolution(choice);
     });
     return labelled(tr("Resolution"), m_resolution);
 }
