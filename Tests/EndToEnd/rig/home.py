@@ -37,6 +37,13 @@ class Home:
         file.parent.mkdir(parents=True)
         file.write_text("[General]\n" + "".join(f"{key}={settings[key]}\n" for key in settings))
 
+    def block_settings(self) -> Path:
+        """Puts a file where the folder of the settings would be, and returns it."""
+        file = self._folder / ".config" / NAME
+        file.parent.mkdir(parents=True)
+        file.write_text("")
+        return file
+
     def marker(self, mono: bool = False) -> Path:
         return self.game / (f".setup-v2-{engine.VERSION}" + ("-mono" if mono else ""))
 

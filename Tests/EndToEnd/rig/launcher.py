@@ -60,6 +60,17 @@ class Launcher:
         button = wait_for(f"A button \"{name}\" that can be pressed", lambda: self._button(name))
         button.get_action_iface().do_action(0)
 
+    def press_in_alert(self, name: str) -> None:
+        """Presses the button of that name in the alert that asks about it."""
+        alert = wait_for("An alert", lambda: self._controls(role=self._atspi.Role.ALERT))[0]
+        button, = [control for control in self._below(alert)
+                   if control.get_role() == self._atspi.Role.PUSH_BUTTON
+                   and control.get_name() == name]
+        button.get_action_iface().do_action(0)
+
+    def is_checked(self, name: str) -> bool:
+        return self._has(self._button(name), "CHECKED")
+
     def is_enabled(self, name: str) -> bool:
         return bool(self._button(name))
 
@@ -112,6 +123,7 @@ class Launcher:
     def _button(self, name: str):
         buttons = [control for role in (self._atspi.Role.PUSH_BUTTON,
                                         self._atspi.Role.TOGGLE_BUTTON,
+                                        self._atspi.Role.RADIO_BUTTON,
                                         self._atspi.Role.CHECK_BOX)
                    for control in self._controls(name=name, role=role)]
         return next((button for button in buttons if self._has(button, "ENABLED")), None)

@@ -1,0 +1,32 @@
+# SPDX-License-Identifier: MIT
+"""A session that lacks what a desktop usually has: without a display the launcher says one
+sentence, without a session bus or a writable place for its settings it still opens."""
+
+from rig.launcher import TITLE
+from rig.waiting import wait_for
+
+NO_DISPLAY = "Cavernyx Platformer needs a graphical desktop, and no display could be opened.\n"
+
+
+def run(world):
+    for variables in ({"DISPLAY": None}, {"DISPLAY": ":4711"}):
+        printed = world.output / "launcher-output.txt"
+        before = printed.read_text() if printed.exists() else ""
+        assert world.start_launcher(**variables).wait_for_end() == 1
+        assert printed.read_text().removeprefix(before) == NO_DISPLAY
+
+    settings = world.home.block_settings()
+    launcher = world.start_launcher(
+        DBUS_SESSION_BUS_ADDRESS="unix:path=/nowhere", XDG_RUNTIME_DIR=None)
+    wait_for("The window", lambda: TITLE in world.desktop.windows())
+    world.picture("no-session-bus")
+    launcher.signal(15)
+    assert launcher.wait_for_end() == 0
+
+    launcher = world.open_launcher()
+    launcher.press("Settings…")
+    launcher.press("Fullscreen")
+    launcher.press("Done")
+    launcher.press("Settings…")
+    assert launcher.is_checked("Fullscreen"), "the setting holds for as long as the window is open"
+    assert settings.is_file()

@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: MIT
+"""A second start brings the first window to the front and ends; it touches no file. Of two starts
+in the same instant one stays."""
+
+import time
+
+from rig.waiting import wait_for
+
+
+def run(world):
+    world.offer_game()
+    world.offer_scripted_engine()
+    world.web.start(branch_rate="20k")
+    launcher = world.open_launcher()
+    launcher.press("Play")
+    launcher.wait_for_label("Step 1 of 4 · Downloading the game")
+    under_way = wait_for("The temporary folder", lambda: list(world.home.temporary.iterdir()))
+
+    second = world.start_launcher()
+    assert second.wait_for_end() == 0
+    assert launcher.is_running()
+    assert launcher.shows("Downloading")
+    assert list(world.home.temporary.iterdir()) == under_way
+    launcher.press("Cancel")
+    launcher.wait_for_label("Not downloaded")
+    launcher.signal(15)
+    assert launcher.wait_for_end() == 0
+
+    starts = [world.start_launcher() for _ in range(3)]
+    wait_for("The end of all starts but one",
+             lambda: sum(start.is_running() for start in starts) == 1)
+    time.sleep(1)
+    assert sum(start.is_running() for start in starts) == 1
+    ended = [start.wait_for_end() for start in starts if not start.is_running()]
+    assert ended == [0, 0], ended
