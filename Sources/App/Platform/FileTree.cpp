@@ -3,21 +3,16 @@
 
 #include "Platform/ExchangePaths.h"
 #include "Platform/PlatformError.h"
+#include "Platform/TreeRemoval.h"
 
 #include <QFile>
 
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
 
 #include <sys/stat.h>
 
 namespace {
-
-std::filesystem::path native(const QString& path)
-{
-    return QFile::encodeName(path).toStdString();
-}
 
 void move(const QString& from, const QString& to)
 {
@@ -36,11 +31,9 @@ bool FileTree::exists(const QString& path)
 
 void FileTree::remove(const QString& path)
 {
-    std::error_code error;
-    std::filesystem::remove_all(native(path), error);
-    if (error)
-        throw PlatformError::fromReason(QStringLiteral("remove “%1”").arg(path),
-                                        QString::fromStdString(error.message()));
+    if (const auto obstacle = TreeRemoval::remove(path))
+        throw PlatformError::fromReason(QStringLiteral("remove “%1”").arg(obstacle->path),
+                                        obstacle->reason);
 }
 
 void FileTree::removeAtOnce(const QString& path, const QString& aside)
@@ -52,8 +45,7 @@ void FileTree::removeAtOnce(const QString& path, const QString& aside)
 
 void FileTree::removeQuietly(const QString& path) noexcept
 {
-    std::error_code ignored;
-    std::filesystem::remove_all(native(path), ignored);
+    TreeRemoval::remove(path);
 }
 
 void FileTree::replace(const QString& target, const QString& staging)

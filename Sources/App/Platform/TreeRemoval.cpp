@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/TreeRemoval.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <memory>
+#include <string_view>
+#include <system_error>
+#include <tuple>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct CloseListing
+{
+    void operator()(DIR* listing) const { ::closedir(listing); }
+};
+
+/// What tells the mount of `name` in `folder`, or with an empty name of `folder` itself, from
+/// others; where the system can, also from another mount of the same file system.
+quint64 mountOf(int folder, const char* name)
+{
+#if defined(STATX_MNT_ID)
+    struct statx extended = {};
+    constexpr auto flags = AT_EMPTY_PATH | AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+    if (::statx(folder, name, flags, STATX_MNT_ID, &extended) == 0 &&
+        (extended.stx_mask & STATX_MNT_ID) != 0)
+        return extended.stx_mnt_id;
+#endif
+    struct stat status = {};
+    const auto result = *name == '\0' ? ::fstat(folder, &status)
+                                      : ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW);
+    return result == 0 ? status.st_dev : 0;
+}
+
+/// Opens a folder, and unlocks it for that if need be.
+FileDescriptor openFolder(int parent, const char* name)
+{
+    constexpr auto flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    auto folder = FileDescriptor(::openat(parent, name, flags));
+    if (folder.isOpen() || errno != EACCES)
+        return folder;
+    if (::fchmodat(parent, name, S_IRWXU, AT_SYMLINK_NOFOLLOW) == 0)
+        return FileDescriptor(::openat(parent, name, flags));
+    errno = EACCES;
+    return {};
+}
+
+std::vector<std::string> namesIn(int folder)
+{
+    FileDescriptor copy(openFolder(folder, "."));
+    const std::unique_ptr<DIR, CloseListing> listing(::fdopendir(copy.get()));
+    if (!listing)
+        return {}; // The folder cannot be removed then, and that is reported.
+    std::ignore = copy.release();
+    // All before the first is removed: not every file system lists a folder well that changes.
+    std::vector<std::string> names;
+    while (const auto* entry = ::readdir(listing.get())) {
+        const std::string_view name(entry->d_name);
+        if (name != "." && name != "..")
+            names.emplace_back(name);
+    }
+    return names;
+}
+
+bool isFolder(int parent, const std::string& name)
+{
+    struct stat status = {};
+    return ::fstatat(parent, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(status.st_mode);
+}
+
+} // namespace
+
+std::optional<TreeRemoval::Obstacle> TreeRemoval::remove(const QString& path)
+{
+    TreeRemoval removal(QFileInfo(path).path());
+    removal.run(QFile::encodeName(QFileInfo(path).fileName()).toStdString());
+    return removal.m_obstacle;
+}
+
+TreeRemoval::TreeRemoval(const QString& path)
+    : m_parentPath(path)
+    , m_parent(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+}
+
+void TreeRemoval::run(const std::string& name)
+{
+    if (!m_parent.isOpen()) {
+        if (errno != ENOTDIR)
+            report(name, errno);
+        return;
+    }
+    if (!isFolder(m_parent.get(), name)) {
+        if (::unlinkat(m_parent.get(), name.c_str(), 0) != 0)
+            report(name, errno);
+        return;
+    }
+    enter(m_parent.get(), name);
+    while (!m_folders.empty()) {
+        auto& pending = m_folders.back().subfolders;
+        if (pending.empty()) {
+            leave();
+            continue;
+        }
+        const auto next = std::move(pending.back());
+        pending.pop_back();
+        enter(m_current.get(), next);
+    }
+}
+
+/// Makes the folder `name` in `parent` the current one and removes all in it but its folders.
+void TreeRemoval::enter(int parent, const std::string& name)
+{
+    if (m_folders.empty())
+        m_mount = mountOf(parent, name.c_str());
+    // Looked at before it is opened, which may unlock it, and after, in case it was exchanged.
+    if (mountOf(parent, name.c_str()) != m_mount) {
+        report(name, QStringLiteral("another file system is mounted there"));
+        return;
+    }
+    auto opened = openFolder(parent, name.c_str());
+    struct stat status = {};
+    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0) {
+        report(name, errno);
+        return;
+    }
+    if (mountOf(opened.get(), "") != m_mount) {
+        report(name, QStringLiteral("another file system was mounted there meanwhile"));
+        return;
+    }
+    m_current = std::move(opened);
+    m_folders.push_back({name, status.st_dev, status.st_ino, {}});
+    unlock();
+    removeEntries(m_folders.back());
+}
+
+/// Makes the folder that holds the current one the current one, and removes the former there.
+void TreeRemoval::leave()
+{
+    const auto folder = std::move(m_folders.back());
+    m_folders.pop_back();
+    if (m_folders.empty()) {
+        m_current = std::move(m_parent);
+    } else if (!leaveFor(m_folders.back())) {
+        report(folder.name, QStringLiteral("it was moved meanwhile"));
+        m_folders.clear();
+        return;
+    }
+    if (folder.isEmptied && ::unlinkat(m_current.get(), folder.name.c_str(), AT_REMOVEDIR) != 0)
+        report(folder.name, errno);
+    else if (!folder.isEmptied && !m_folders.empty())
+        m_folders.back().isEmptied = false;
+}
+
+/// Makes the parent of the current folder the current one, if it is `expected`.
+bool TreeRemoval::leaveFor(const Folder& expected)
+{
+    FileDescriptor parent(::openat(m_current.get(), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct stat status = {};
+    if (!parent.isOpen() || ::fstat(parent.get(), &status) != 0 ||
+        status.st_dev != expected.device || status.st_ino != expected.inode)
+        return false;
+    m_current = std::move(parent);
+    return true;
+}
+
+void TreeRemoval::removeEntries(Folder& folder)
+{
+    for (auto& name : namesIn(m_current.get())) {
+        if (::unlinkat(m_current.get(), name.c_str(), 0) == 0)
+            continue;
+        const auto error = errno;
+        if (isFolder(m_current.get(), name))
+            folder.subfolders.push_back(std::move(name));
+        else
+            report(name, error);
+    }
+}
+
+/// A folder has to be writable for what is in it to be removed.
+void TreeRemoval::unlock()
+{
+    struct stat status = {};
+    if (::fstat(m_current.get(), &status) == 0 && (status.st_mode & S_IRWXU) != S_IRWXU)
+        ::fchmod(m_current.get(), status.st_mode | S_IRWXU);
+}
+
+void TreeRemoval::report(const std::string& name, int errorNumber)
+{
+    if (errorNumber == ENOENT)
+        return; // Somebody else has removed it.
+    report(name, QString::fromStdString(std::generic_category().message(errorNumber)));
+}
+
+void TreeRemoval::report(const std::string& name, const QString& reason)
+{
+    if (!m_folders.empty())
+        m_folders.back().isEmptied = false;
+    if (m_obstacle)
+        return;
+    auto path = m_parentPath;
+    for (const auto& folder : m_folders)
+        path += u'/' + QFile::decodeName(folder.name.c_str());
+    m_obstacle = {.path = path + u'/' + QFile::decodeName(name.c_str()), .reason = reason};
+}
