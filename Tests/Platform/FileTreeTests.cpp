@@ -77,11 +77,11 @@ TEST_F(FileTreeTest, saysInASentenceWhatCannotBeRemoved)
         try {
             FileTree::remove(m_target);
         } catch (const PlatformError& error) {
-            const auto file = m_folder.path(QStringLiteral("Game/file"));
-            ::_exit(error.message() ==
-                            QStringLiteral("Could not remove “%1”: Permission denied.").arg(file)
-                        ? 0
-                        : 3);
+            ::_exit(
+                error.message() ==
+                        QStringLiteral("Could not remove “%1”: Permission denied.").arg(m_target)
+                    ? 0
+                    : 3);
         }
         ::_exit(4);
     }

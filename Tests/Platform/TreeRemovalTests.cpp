@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/TreeRemoval.h"
 
+#include "Platform/ExchangePaths.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +10,16 @@
 #include <QFileInfo>
 
 #include <functional>
+#include <thread>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #if defined(Q_OS_LINUX)
+#include <linux/fs.h>
 #include <sched.h>
+#include <sys/ioctl.h>
 #include <sys/mount.h>
 #endif
 
@@ -38,6 +43,18 @@ bool becomeOrdinaryUser()
 {
     return ::getuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0);
 }
+
+#if defined(Q_OS_LINUX)
+bool setUnchangeable(const QString& path, bool isUnchangeable)
+{
+    const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
+    int flags = 0;
+    if (::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
+        return false;
+    flags = isUnchangeable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
+    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
+}
+#endif
 
 class TreeRemovalTest : public testing::Test
 {
@@ -86,8 +103,8 @@ TEST_F(TreeRemovalTest, removesLinksAndNotWhatTheyLeadTo)
 
 TEST_F(TreeRemovalTest, removesATreeDeeperThanAnyPathMayBeLong)
 {
-    constexpr auto depth = 3000;
-    const std::string name(20, 'x');
+    constexpr auto depth = 1100; // Folders also more than may be open at a time.
+    const std::string name(4, 'x');
     ASSERT_EQ(inAnotherProcess([&] {
                   const auto top = QFile::encodeName(m_target);
                   if (::mkdir(top.constData(), 0755) != 0 || ::chdir(top.constData()) != 0)
@@ -135,7 +152,7 @@ TEST_F(TreeRemovalTest, namesTheFirstThingInItsWayAndRemovesTheRest)
                       return skipped;
                   const auto obstacle = TreeRemoval::remove(m_target);
                   return obstacle &&
-                                 obstacle->path == m_folder.path(QStringLiteral("Game/locked/file")) &&
+                                 obstacle->path == m_folder.path(QStringLiteral("Game/locked")) &&
                                  obstacle->reason == QStringLiteral("Permission denied")
                              ? 0
                              : 1;
@@ -147,7 +164,76 @@ TEST_F(TreeRemovalTest, namesTheFirstThingInItsWayAndRemovesTheRest)
     EXPECT_TRUE(m_folder.names().isEmpty());
 }
 
+TEST_F(TreeRemovalTest, passesOverAFolderThatOnlySomebodyElseMayEnter)
+{
+    if (::getuid() != 0)
+        GTEST_SKIP() << "Only the administrator can make folders that are somebody else's.";
+    m_folder.write(QStringLiteral("Game/locked/file"));
+    m_folder.write(QStringLiteral("Game/a"));
+    m_folder.write(QStringLiteral("Game/z/file"));
+    m_folder.makeFolder(QStringLiteral("Game/empty"));
+    for (const auto* open : {"", "Game", "Game/z"})
+        setMode(QString::fromLatin1(open), 0777);
+    // Listed, but not entered; and not even listed.
+    setMode(QStringLiteral("Game/locked"), 0744);
+    setMode(QStringLiteral("Game/empty"), 0700);
+    EXPECT_EQ(inAnotherProcess([this] {
+                  if (!becomeOrdinaryUser())
+                      return skipped;
+                  const auto obstacle = TreeRemoval::remove(m_target);
+                  const auto locked = m_folder.path(QStringLiteral("Game/locked"));
+                  return obstacle && obstacle->path == locked &&
+                                 obstacle->reason == QStringLiteral("Permission denied")
+                             ? 0
+                             : 1;
+              }),
+              0);
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game")), QStringList{QStringLiteral("locked")});
+}
+
 #if defined(Q_OS_LINUX)
+TEST_F(TreeRemovalTest, reportsAnUnchangeableFileAndRemovesItWhenThatHasEnded)
+{
+    const auto file = m_folder.write(QStringLiteral("Game/a/file"));
+    m_folder.write(QStringLiteral("Game/b/file"));
+    if (!setUnchangeable(file, true))
+        GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+
+    const auto obstacle = TreeRemoval::remove(m_target);
+
+    EXPECT_TRUE(setUnchangeable(file, false));
+    ASSERT_TRUE(obstacle);
+    EXPECT_EQ(obstacle->path, file);
+    EXPECT_EQ(obstacle->reason, QStringLiteral("Operation not permitted"));
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game")), QStringList{QStringLiteral("a")});
+    EXPECT_FALSE(TreeRemoval::remove(m_target));
+    EXPECT_TRUE(m_folder.names().isEmpty());
+}
+
+TEST_F(TreeRemovalTest, staysInsideThoughAFolderTurnsIntoALinkMeanwhile)
+{
+    m_folder.write(QStringLiteral("Other/folder/kept"));
+    const auto link = m_folder.path(QStringLiteral("link"));
+    ASSERT_TRUE(QFile::link(m_folder.path(QStringLiteral("Other")), link));
+    for (int round = 0; round < 25; ++round) {
+        for (int i = 0; i < 8; ++i)
+            m_folder.write(QStringLiteral("Game/%1/folder/file").arg(i));
+        std::jthread exchanging([&](const std::stop_token& stop) {
+            while (!stop.stop_requested())
+                exchangePaths(m_target + QStringLiteral("/7"), link);
+        });
+        TreeRemoval::remove(m_target);
+        exchanging.request_stop();
+        exchanging.join();
+        TreeRemoval::remove(m_target);
+        if (!QFileInfo(link).isSymLink()) {
+            TreeRemoval::remove(link);
+            ASSERT_TRUE(QFile::link(m_folder.path(QStringLiteral("Other")), link));
+        }
+        ASSERT_TRUE(m_folder.exists(QStringLiteral("Other/folder/kept"))) << round;
+    }
+}
+
 /// Gives this process mounts of its own, which nobody else sees.
 bool separateMounts()
 {
@@ -162,32 +248,89 @@ bool mountOver(const QString& place, const QString& what)
                    nullptr, MS_BIND, nullptr) == 0;
 }
 
-TEST_F(TreeRemovalTest, leavesWhatIsMountedBelowAlone)
+/// Mounts over `place` with `mount`, tries the removal of `target`, and once more when nothing is
+/// mounted any more. Gives 0 when the first attempt named the place and the second succeeded.
+template<typename Mount, typename Check>
+int removeAroundMount(const QString& target, const QString& place, Mount mount, Check isUntouched)
+{
+    if (!separateMounts() || !mount())
+        return skipped;
+    const auto obstacle = TreeRemoval::remove(target);
+    if (!obstacle || obstacle->path != place ||
+        obstacle->reason != QStringLiteral("another file system is mounted there"))
+        return 1;
+    if (!isUntouched())
+        return 2;
+    if (::umount(QFile::encodeName(place).constData()) != 0)
+        return 3;
+    return TreeRemoval::remove(target) ? 4 : 0;
+}
+
+class TreeRemovalOfMountsTest : public TreeRemovalTest
+{
+protected:
+    void expectObstacle(const QString& place, const std::function<bool()>& mount,
+                        const QString& kept)
+    {
+        m_folder.write(QStringLiteral("Game/b/file"));
+        const auto status = inAnotherProcess([&] {
+            return removeAroundMount(m_target, place, mount, [&] {
+                return m_folder.exists(kept) &&
+                       (place == m_target || !m_folder.exists(QStringLiteral("Game/b")));
+            });
+        });
+        if (status == skipped)
+            GTEST_SKIP() << "This system lets nobody here mount anything.";
+        EXPECT_EQ(status, 0);
+        EXPECT_FALSE(m_folder.exists(QStringLiteral("Game")));
+    }
+
+    /// A folder of the same file system, mounted a second time.
+    void expectObstacleOfFolder(const QString& place, const QString& kept)
+    {
+        m_folder.write(QStringLiteral("Other/folder/kept"));
+        const auto other = m_folder.path(QStringLiteral("Other"));
+        expectObstacle(
+            place, [&] { return mountOver(place, other); }, kept);
+        EXPECT_TRUE(m_folder.exists(QStringLiteral("Other/folder/kept")));
+    }
+};
+
+TEST_F(TreeRemovalOfMountsTest, leavesAFolderThatIsMountedBelowAlone)
 {
     m_folder.write(QStringLiteral("Game/a/mounted/hidden by the mount"));
-    m_folder.write(QStringLiteral("Game/file"));
-    m_folder.write(QStringLiteral("Other/folder/kept"));
-    const auto status = inAnotherProcess([this] {
-        const auto place = m_folder.path(QStringLiteral("Game/a/mounted"));
-        if (!separateMounts() || !mountOver(place, m_folder.path(QStringLiteral("Other"))))
-            return skipped;
-        const auto obstacle = TreeRemoval::remove(m_target);
-        if (!obstacle || obstacle->path != place ||
-            obstacle->reason != QStringLiteral("another file system is mounted there"))
-            return 1;
-        if (!m_folder.exists(QStringLiteral("Game/a/mounted/folder/kept")))
-            return 2;
-        if (m_folder.exists(QStringLiteral("Game/file")))
-            return 3;
-        if (::umount(QFile::encodeName(place).constData()) != 0)
-            return 4;
-        return TreeRemoval::remove(m_target) ? 5 : 0;
-    });
-    if (status == skipped)
-        GTEST_SKIP() << "This system lets nobody here mount anything.";
-    EXPECT_EQ(status, 0);
-    EXPECT_TRUE(m_folder.exists(QStringLiteral("Other/folder/kept")));
-    EXPECT_EQ(m_folder.names(), QStringList{QStringLiteral("Other")});
+    expectObstacleOfFolder(m_folder.path(QStringLiteral("Game/a/mounted")),
+                           QStringLiteral("Game/a/mounted/folder/kept"));
+}
+
+TEST_F(TreeRemovalOfMountsTest, leavesAFolderAloneThatIsItselfAMount)
+{
+    m_folder.write(QStringLiteral("Game/hidden by the mount"));
+    expectObstacleOfFolder(m_target, QStringLiteral("Game/folder/kept"));
+}
+
+TEST_F(TreeRemovalOfMountsTest, leavesAnotherFileSystemAlone)
+{
+    const auto place = m_folder.makeFolder(QStringLiteral("Game/a"));
+    expectObstacle(
+        place,
+        [&] {
+            if (::mount("none", QFile::encodeName(place).constData(), "tmpfs", 0, nullptr) != 0)
+                return false;
+            m_folder.write(QStringLiteral("Game/a/kept"));
+            setMode(QStringLiteral("Game/a"), 0555);
+            return true;
+        },
+        QStringLiteral("Game/a/kept"));
+}
+
+TEST_F(TreeRemovalOfMountsTest, leavesAFileThatIsMountedAlone)
+{
+    const auto place = m_folder.write(QStringLiteral("Game/a/file"));
+    const auto other = m_folder.write(QStringLiteral("kept"));
+    expectObstacle(
+        place, [&] { return mountOver(place, other); }, QStringLiteral("Game/a/file"));
+    EXPECT_TRUE(m_folder.exists(QStringLiteral("kept")));
 }
 #endif
 

@@ -17,14 +17,17 @@
 
 namespace {
 
+const auto mountedThere = QStringLiteral("another file system is mounted there");
+
 struct CloseListing
 {
     void operator()(DIR* listing) const { ::closedir(listing); }
 };
 
 /// What tells the mount of `name` in `folder`, or with an empty name of `folder` itself, from
-/// others; where the system can, also from another mount of the same file system.
-quint64 mountOf(int folder, const char* name)
+/// others; where the system can, also from another mount of the same file system. Nothing when it
+/// is gone.
+std::optional<quint64> mountOf(int folder, const char* name)
 {
 #if defined(STATX_MNT_ID)
     struct statx extended = {};
@@ -36,7 +39,7 @@ quint64 mountOf(int folder, const char* name)
     struct stat status = {};
     const auto result = *name == '\0' ? ::fstat(folder, &status)
                                       : ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW);
-    return result == 0 ? status.st_dev : 0;
+    return result == 0 ? std::optional(quint64{status.st_dev}) : std::nullopt;
 }
 
 /// Opens a folder, and unlocks it for that if need be.
@@ -69,6 +72,18 @@ std::vector<std::string> namesIn(int folder)
     return names;
 }
 
+/// A folder has to be writable, and open to its user, for what is in it to be removed.
+bool unlock(int folder, const struct stat& status)
+{
+    if (::faccessat(folder, ".", W_OK | X_OK, 0) == 0)
+        return true;
+    const auto error = errno;
+    if (error == EACCES && ::fchmod(folder, status.st_mode | S_IRWXU) == 0)
+        return true;
+    errno = error;
+    return false;
+}
+
 bool isFolder(int parent, const std::string& name)
 {
     struct stat status = {};
@@ -87,23 +102,21 @@ std::optional<TreeRemoval::Obstacle> TreeRemoval::remove(const QString& path)
 
 TreeRemoval::TreeRemoval(const QString& path)
     : m_parentPath(path)
-    , m_parent(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
 }
 
 void TreeRemoval::run(const std::string& name)
 {
+    m_parent = FileDescriptor(
+        ::open(QFile::encodeName(m_parentPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_parent.isOpen()) {
         if (errno != ENOTDIR)
             report(name, errno);
         return;
     }
-    if (!isFolder(m_parent.get(), name)) {
-        if (::unlinkat(m_parent.get(), name.c_str(), 0) != 0)
-            report(name, errno);
-        return;
-    }
-    enter(m_parent.get(), name);
+    m_mount = mountOf(m_parent.get(), "");
+    if (!removeFile(m_parent.get(), name))
+        enter(m_parent.get(), name);
     while (!m_folders.empty()) {
         auto& pending = m_folders.back().subfolders;
         if (pending.empty()) {
@@ -116,29 +129,51 @@ void TreeRemoval::run(const std::string& name)
     }
 }
 
+/// Whether another mount than that of the folder to be removed begins or goes on there.
+bool TreeRemoval::isMount(int folder, const char* name) const
+{
+    const auto mount = mountOf(folder, name);
+    return mount && mount != m_mount;
+}
+
+/// Removes what is not a folder; gives false for a folder.
+bool TreeRemoval::removeFile(int parent, const std::string& name)
+{
+    if (::unlinkat(parent, name.c_str(), 0) == 0)
+        return true;
+    const auto error = errno;
+    if (isFolder(parent, name))
+        return false;
+    if (error == EBUSY && isMount(parent, name.c_str()))
+        report(name, mountedThere);
+    else
+        report(name, error);
+    return true;
+}
+
 /// Makes the folder `name` in `parent` the current one and removes all in it but its folders.
 void TreeRemoval::enter(int parent, const std::string& name)
 {
-    if (m_folders.empty())
-        m_mount = mountOf(parent, name.c_str());
     // Looked at before it is opened, which may unlock it, and after, in case it was exchanged.
-    if (mountOf(parent, name.c_str()) != m_mount) {
-        report(name, QStringLiteral("another file system is mounted there"));
+    if (isMount(parent, name.c_str())) {
+        report(name, mountedThere);
         return;
     }
     auto opened = openFolder(parent, name.c_str());
-    struct stat status = {};
-    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0) {
-        report(name, errno);
+    if (opened.isOpen() && isMount(opened.get(), "")) {
+        report(name, mountedThere);
         return;
     }
-    if (mountOf(opened.get(), "") != m_mount) {
-        report(name, QStringLiteral("another file system was mounted there meanwhile"));
+    struct stat status = {};
+    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0 || !unlock(opened.get(), status)) {
+        const auto error = errno;
+        // When it is empty, it can be removed though it is somebody else's.
+        if (::unlinkat(parent, name.c_str(), AT_REMOVEDIR) != 0)
+            report(name, error);
         return;
     }
     m_current = std::move(opened);
     m_folders.push_back({name, status.st_dev, status.st_ino, {}});
-    unlock();
     removeEntries(m_folders.back());
 }
 
@@ -175,22 +210,9 @@ bool TreeRemoval::leaveFor(const Folder& expected)
 void TreeRemoval::removeEntries(Folder& folder)
 {
     for (auto& name : namesIn(m_current.get())) {
-        if (::unlinkat(m_current.get(), name.c_str(), 0) == 0)
-            continue;
-        const auto error = errno;
-        if (isFolder(m_current.get(), name))
+        if (!removeFile(m_current.get(), name))
             folder.subfolders.push_back(std::move(name));
-        else
-            report(name, error);
     }
-}
-
-/// A folder has to be writable for what is in it to be removed.
-void TreeRemoval::unlock()
-{
-    struct stat status = {};
-    if (::fstat(m_current.get(), &status) == 0 && (status.st_mode & S_IRWXU) != S_IRWXU)
-        ::fchmod(m_current.get(), status.st_mode | S_IRWXU);
 }
 
 void TreeRemoval::report(const std::string& name, int errorNumber)

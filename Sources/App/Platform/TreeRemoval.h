@@ -15,7 +15,7 @@
 ///
 /// It works on open folders rather than on paths, so that nothing leads it outside: a link is
 /// removed and never followed, also one that takes a folder's place meanwhile, and what is mounted
-/// below the folder is left alone. Few folders are open at a time, however deep the tree is. A
+/// at the folder or below is left alone. Few folders are open at a time, however deep the tree is. A
 /// folder of the user's that is locked against changes is unlocked.
 class TreeRemoval final
 {
@@ -45,11 +45,12 @@ private:
     explicit TreeRemoval(const QString& path);
 
     void run(const std::string& name);
+    [[nodiscard]] bool isMount(int folder, const char* name) const;
+    bool removeFile(int parent, const std::string& name);
     void enter(int parent, const std::string& name);
     void leave();
     bool leaveFor(const Folder& expected);
     void removeEntries(Folder& folder);
-    void unlock();
     void report(const std::string& name, int errorNumber);
     void report(const std::string& name, const QString& reason);
 
@@ -59,7 +60,7 @@ private:
     FileDescriptor m_parent;
     /// The last of them; the parent, once the first one has been left.
     FileDescriptor m_current;
-    /// The mount that the folder to be removed is on.
-    quint64 m_mount = 0;
+    /// The mount that what is to be removed lies on.
+    std::optional<quint64> m_mount;
     std::optional<Obstacle> m_obstacle;
 };
