@@ -37,8 +37,7 @@ void LineWork::buffered(qsizetype mebibytes, qsizetype lineLength)
     const Measurement measurement;
     for (qsizetype round = 0; round < rounds; ++round) {
         for (qsizetype begin = 0; begin < output.size(); begin += chunkSize)
-            buffer.append(QByteArrayView(output).sliced(begin, chunkSize),
-                          [&lines](const QString&) { ++lines; });
+            lines += buffer.append(QByteArrayView(output).sliced(begin, chunkSize)).size();
     }
     measurement.report(lines);
 }

@@ -23,6 +23,8 @@ TEST(BlockBuffer, givesTheUnfinishedLineDecodedAndOnlyOnce)
     buffer.append("\xac\xff");
     EXPECT_EQ(buffer.flush(), QStringLiteral("€\uFFFD"));
     EXPECT_EQ(buffer.flush(), std::nullopt);
+    buffer.append("\xef\xbb\xbfx");
+    EXPECT_EQ(buffer.flush(), QStringLiteral("\uFEFFx"));
 }
 
 } // namespace

@@ -86,6 +86,22 @@ TEST(LineBuffer, takesAChunkOfNoBytesWithoutChange)
     EXPECT_EQ(buffer.append("\n"), strings({"a"}));
 }
 
+TEST(LineBuffer, keepsAByteOrderMarkWhereverItIsAndHoweverItIsCut)
+{
+    const QByteArray bytes("\xef\xbb\xbf"
+                           "a\n\xef\xbb\xbf\xef\xbb\xbf\nb\xef\xbb\xbf\n");
+    const QStringList expected{QStringLiteral("\uFEFFa"), QStringLiteral("\uFEFF\uFEFF"),
+                               QStringLiteral("b\uFEFF")};
+    for (qsizetype size = 1; size <= bytes.size(); ++size) {
+        LineBuffer buffer;
+        QStringList lines;
+        for (qsizetype begin = 0; begin < bytes.size(); begin += size)
+            lines += buffer.append(
+                QByteArrayView(bytes).sliced(begin, std::min(size, bytes.size() - begin)));
+        EXPECT_EQ(lines, expected) << "in chunks of " << size;
+    }
+}
+
 TEST(LineBuffer, givesTheSameLinesHoweverTheBytesAreCut)
 {
     const QByteArray bytes(
@@ -100,17 +116,6 @@ TEST(LineBuffer, givesTheSameLinesHoweverTheBytesAreCut)
         lines.append(buffer.flush().value_or(QString()));
         EXPECT_EQ(lines, expected) << "in chunks of " << size;
     }
-}
-
-TEST(LineBuffer, handsLinesOverOneByOneInOrder)
-{
-    LineBuffer buffer;
-    QStringList lines;
-    const auto take = [&lines](const QString& line) { lines.append(line); };
-    buffer.append("a\nb", take);
-    buffer.append("\n\nc", take);
-    EXPECT_EQ(lines, strings({"a", "b", ""}));
-    EXPECT_EQ(buffer.flush(), QStringLiteral("c"));
 }
 
 TEST(LineBuffer, replacesACharacterThatTheEndOfTheLineCutsOff)

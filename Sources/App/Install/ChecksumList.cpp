@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Install/ChecksumList.h"
 
+#include "Platform/Utf8.h"
+
 #include <QList>
-#include <QStringDecoder>
 #include <QStringView>
 
 #include <algorithm>
@@ -42,9 +43,7 @@ QStringView withoutAsterisks(QStringView name)
 
 std::optional<QString> ChecksumList::digestFor(const QByteArray& list, const QString& fileName)
 {
-    // A byte order mark is no part of the format and stays in the first field.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    const QString text = decoder(list);
+    const auto text = decodedUtf8(list);
     std::optional<QString> digest;
     for (const auto line : QStringView(text).split(u'\n')) {
         const auto fields = fieldsOf(line);

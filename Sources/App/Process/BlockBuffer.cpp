@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Process/BlockBuffer.h"
 
+#include "Platform/Utf8.h"
+
 #include <utility>
 
 QByteArray BlockBuffer::append(QByteArrayView chunk)
@@ -20,5 +22,5 @@ std::optional<QString> BlockBuffer::flush()
 {
     if (m_begun.isEmpty())
         return std::nullopt;
-    return QString::fromUtf8(std::exchange(m_begun, {}));
+    return decodedUtf8(std::exchange(m_begun, {}));
 }

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// Does what LineBuffer does for whoever will look at few of the lines: it gives the complete lines
-/// as they came, not decoded, one after the other. For one thread at a time.
+/// Gathers the byte chunks a child writes into blocks of whole lines, not decoded: for whoever will
+/// look at few of them. For one thread at a time.
 class BlockBuffer final
 {
 public:

@@ -75,6 +75,8 @@ void ChildOutput::deliver(QByteArrayView chunk)
         if (const auto lines = m_blocks.append(chunk); !lines.isEmpty())
             m_onLine.takeBlock(lines);
     } else {
-        m_lines.append(chunk, [this](const QString& line) { m_onLine(line); });
+        const auto lines = m_lines.append(chunk);
+        for (const auto& line : lines)
+            m_onLine(line);
     }
 }

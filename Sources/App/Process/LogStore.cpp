@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Process/LogStore.h"
 
+#include "Platform/Utf8.h"
+
 #include <QTimer>
 
 #include <algorithm>
@@ -93,7 +95,7 @@ void LogStore::decodeBlocks() const
             if (surplus > 0)
                 --surplus;
             else
-                m_decoded.push_back(QString::fromUtf8(rest.first(end)));
+                m_decoded.push_back(decodedUtf8(rest.first(end)));
             rest = rest.sliced(end + 1);
         }
     }
