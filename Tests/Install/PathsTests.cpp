@@ -2,6 +2,7 @@
 #include "Install/Paths.h"
 
 #include "Install/TemporaryFolder.h"
+#include "Platform/FileTree.h"
 #include "Platform/HostPlatform.h"
 #include "Platform/PlatformError.h"
 #include "Support/TestFolder.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -118,6 +120,17 @@ TEST(PathsSize, isTheSpaceAllocatedForRegularFilesAtAnyDepth)
     EXPECT_EQ(Paths::size(folder.path()), expected);
 }
 
+TEST(PathsSize, countsEveryFileOfAWideTreeOnce)
+{
+    const TestFolder folder;
+    qint64 expected = 0;
+    for (int i = 0; i < 200; ++i) {
+        const auto name = QStringLiteral("%1/%2/file").arg(i % 20).arg(i);
+        expected += allocated(folder.write(name, QByteArray(100 * i, 'x')));
+    }
+    EXPECT_EQ(Paths::size(folder.path()), expected);
+}
+
 TEST(PathsSize, countsBlocksAndNotTheLength)
 {
     const TestFolder folder;
@@ -177,14 +190,31 @@ TEST(PathsSize, endsEarlyWhenItIsToStop)
     EXPECT_EQ(Paths::size(folder.path(), stop.get_token()), 0);
 }
 
-TEST(PathsSize, measuresATreeDeeperThanTheNumberOfOpenFilesAllowed)
+TEST(PathsSize, measuresATreeDeeperThanFoldersMayBeOpenAndPathsBeLong)
 {
     const TestFolder folder;
-    QString deep;
-    for (int level = 0; level < 1'500; ++level)
-        deep += QStringLiteral("d/");
-    const auto file = folder.write(deep + QStringLiteral("file"), QByteArray(5'000, 'x'));
-    EXPECT_EQ(Paths::size(folder.path()), allocated(file));
+    const auto deep = QFile::encodeName(folder.makeFolder(QStringLiteral("deep")));
+    int here = ::open(deep.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    for (int level = 0; level < 1'500; ++level) {
+        ASSERT_EQ(::mkdirat(here, "folder", 0755), 0);
+        const int below = ::openat(here, "folder", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        ASSERT_GE(below, 0);
+        ::close(here);
+        here = below;
+    }
+    const int file = ::openat(here, "file", O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+    const QByteArray contents(5'000, 'x');
+    EXPECT_EQ(::write(file, contents.constData(), 5'000), 5'000);
+    struct stat status = {};
+    EXPECT_EQ(::fstat(file, &status), 0);
+    const auto expected = status.st_blocks * 512;
+    ::close(file);
+    ::close(here);
+
+    EXPECT_EQ(Paths::size(folder.path()), expected);
+
+    // The library that removes the test's folder cannot name what lies so deep.
+    FileTree::remove(folder.path(QStringLiteral("deep")));
 }
 
 } // namespace

@@ -4,14 +4,16 @@
 #include <QString>
 
 #include <functional>
+#include <span>
 #include <stop_token>
 #include <string_view>
 
 /// Walks a whole folder tree, fast enough for one of a hundred thousand files.
 ///
 /// Entries come in no particular order. Symbolic links are met but never followed, except at the
-/// path given. What cannot be read is passed over. One folder is open at a time, however deep the
-/// tree is. Blocks, and so belongs off the main thread.
+/// path given. What cannot be read is passed over. Few folders are open at a time, however deep the
+/// tree is, and it may be deeper than a path may be long. Blocks, and so belongs off the main
+/// thread.
 namespace DirectoryWalk {
 
 /// Whether entries whose name begins with a dot, and what is below them, are met.
@@ -29,9 +31,15 @@ struct Entry
     Kind kind = Kind::Other;
 };
 
+using Visit = std::function<void(const Entry&)>;
+
 /// Calls `visit` for every entry below `path` until `stop` is requested. Gives false when the
 /// folder at `path` cannot be read.
-bool walk(const QString& path, Hidden hidden, const std::stop_token& stop,
-          const std::function<void(const Entry&)>& visit);
+bool walk(const QString& path, Hidden hidden, const std::stop_token& stop, const Visit& visit);
+
+/// The same by several threads, one for each visitor: an entry is met by one of them. None of them
+/// may throw.
+bool walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
+                  std::span<const Visit> visitors);
 
 } // namespace DirectoryWalk
