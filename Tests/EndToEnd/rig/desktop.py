@@ -45,6 +45,32 @@ class Desktop:
         window, = self._visible_windows(f"^{title}$")
         subprocess.run(["xdotool", "windowmove", window, str(x), "0"], check=True)
 
+    def close(self, title: str) -> None:
+        """Asks a window to close, as a window manager does when its close button is pressed, which
+        brings the window the focus too."""
+        from Xlib import X
+        from Xlib.display import Display
+        from Xlib.protocol.event import ClientMessage
+        display = Display(self.environment["DISPLAY"])
+        number, = self._visible_windows(f"^{title}$")
+        self.give_focus(title)
+        window = display.create_resource_object("window", int(number))
+        window.send_event(ClientMessage(
+            window=window, client_type=display.get_atom("WM_PROTOCOLS"),
+            data=(32, [display.get_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0])))
+        display.sync()
+        display.close()
+
+    def give_focus(self, title: str) -> None:
+        """What a window manager does for the window below when the one above it closes."""
+        window, = self._visible_windows(f"^{title}$")
+        subprocess.run(["xdotool", "windowfocus", window], check=True)
+
+    def clipboard(self) -> str:
+        """The text that any other program would now paste: nothing before the first copy."""
+        return subprocess.run(["xclip", "-selection", "clipboard", "-out"],
+                              capture_output=True, timeout=20).stdout.decode()
+
     def take_picture(self, name: str) -> None:
         """Keeps a picture of the whole display, numbered in the order taken."""
         self._taken += 1

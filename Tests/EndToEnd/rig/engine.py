@@ -4,6 +4,7 @@ Inside is either a real engine or a small script that behaves as a scenario want
 
 import hashlib
 import random
+import subprocess
 import zipfile
 from pathlib import Path
 
@@ -26,8 +27,8 @@ exec sleep 600
 """
 HANGS = 'echo "Working on it."\nexec sleep 600\n'
 
-# What it does as the game: stays open, or ends at once.
-STAYS = 'echo "The game is on."\nexec sleep 600\n'
+# What it does as the game: stays open under its own command line, or ends at once.
+STAYS = 'echo "The game is on."\nwhile sleep 0.2; do :; done\n'
 ENDS = 'echo "A library is missing." >&2\nexit 3\n'
 
 
@@ -78,3 +79,11 @@ def script(path: Path, imports: str = IMPORTS, plays: str = STAYS) -> Path:
         program.write(random.Random(1).randbytes(300_000))
     path.chmod(0o755)
     return path
+
+
+def run_import(program: Path, project: Path) -> None:
+    """Lets the script import the project, and ends it then, as the launcher does."""
+    with subprocess.Popen([program, "--path", project, "--editor", "--no-window"],
+                          stdout=subprocess.PIPE, text=True) as run:
+        assert run.stdout.readline() == "Everything is imported.\n"
+        run.terminate()

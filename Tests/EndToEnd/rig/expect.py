@@ -4,6 +4,8 @@
 import re
 from pathlib import Path
 
+from rig.waiting import wait_for
+
 IMPORTABLE = {".png", ".jpg", ".svg", ".webp", ".bmp", ".tga", ".wav", ".obj", ".gltf", ".hdr"}
 
 
@@ -52,3 +54,49 @@ def expect_cancelled(world) -> None:
     assert launcher.is_enabled("Play")
     assert not launcher.is_enabled("Cancel")
     world.home.expect_nothing_left_over()
+
+
+def expect_question(launcher, title: str, message: str, button: str):
+    """The launcher asks exactly this, with the action first, and returns the open alert."""
+    alert = launcher.wait_for_alert()
+    assert alert.texts() == [title, message], alert.texts()
+    assert alert.buttons() == [button, "Cancel"], alert.buttons()
+    return alert
+
+
+def expect_game_starts(world) -> list[str]:
+    """The scripted game opens; returns what it was started with."""
+    launcher = world.launcher
+    launcher.wait_for_label("Starting…", seconds=60)
+    launcher.wait_for_log_line("The game is on.")
+    (shell, program, *arguments), = launcher.children()
+    assert program == str(world.home.engine_program()), (shell, program)
+    return arguments
+
+
+def expect_stop(world) -> None:
+    """The game ends when the player presses Stop, and that is all that happens."""
+    launcher = world.launcher
+    launcher.press("Stop")
+    launcher.wait_for_label("Ready")
+    launcher.wait_for_log_line("Game stopped by you.")
+    wait_for("The end of the game", lambda: not world.home.processes())
+    world.home.expect_nothing_left_over()
+
+
+def expect_quit(world) -> None:
+    """The launcher that was told to quit does so, and leaves nothing behind that is at work or
+    half done."""
+    status = world.launcher.wait_for_end()
+    assert status == 0, status
+    wait_for("The end of all that it started", lambda: not world.home.processes())
+    world.home.expect_nothing_left_over()
+
+
+def expect_maintenance(settings, offered: bool) -> None:
+    """What changes the installation can be pressed, or not; all else in the settings always can."""
+    for button in ("Update the game", "Reinstall", settings.remove_button()):
+        assert settings.is_enabled(button) == offered, button
+    for button in ("Reveal in Finder", "Done"):
+        assert settings.is_enabled(button), button
+    assert settings.pickers_are_enabled()

@@ -14,12 +14,16 @@ class Home:
         self._folder = folder
         self.temporary = folder / "tmp"
         self._runtime = folder / "run"
-        for made in (folder, self.temporary, self._runtime):
+        self.programs = folder / "bin"
+        for made in (folder, self.temporary, self._runtime, self.programs):
             made.mkdir(mode=0o700)
-        self.root = folder / ".local" / "share" / NAME
+        data = folder / ".local" / "share"
+        self.root = data / NAME
+        self.saves = data / "godot" / "app_userdata" / sample_game.NAME
         self.game = self.root / "Game"
         self.project = self.game / sample_game.ARCHIVE_FOLDER / sample_game.PROJECT_FOLDER
         self.engines = self.root / "Engine"
+        self._settings = folder / ".config" / NAME / f"{NAME}.conf"
 
     def environment(self) -> dict[str, str]:
         """An environment of a session, with nothing in it of whoever runs the tests."""
@@ -27,19 +31,36 @@ class Home:
             "HOME": str(self._folder),
             "TMPDIR": str(self.temporary),
             "XDG_RUNTIME_DIR": str(self._runtime),
-            "PATH": "/usr/local/bin:/usr/bin:/bin",
+            "PATH": f"{self.programs}:/usr/local/bin:/usr/bin:/bin",
             "LANG": "C.UTF-8",
             "USER": os.environ.get("USER", "player"),
         }
 
     def write_settings(self, **settings: str) -> None:
-        file = self._folder / ".config" / NAME / f"{NAME}.conf"
-        file.parent.mkdir(parents=True)
-        file.write_text("[General]\n" + "".join(f"{key}={settings[key]}\n" for key in settings))
+        self._settings.parent.mkdir(parents=True, exist_ok=True)
+        self._settings.write_text(
+            "[General]\n" + "".join(f"{key}={settings[key]}\n" for key in settings))
+
+    def settings(self) -> dict[str, str]:
+        lines = self._settings.read_text().splitlines() if self._settings.exists() else []
+        return dict(line.split("=", 1) for line in lines if "=" in line)
+
+    def save_a_game(self) -> Path:
+        """Returns a file such as a game leaves in its folder of saves."""
+        self.saves.mkdir(parents=True)
+        saved = self.saves / "save.dat"
+        saved.write_text("The third cave.\n")
+        return saved
+
+    def snapshot(self) -> dict[str, tuple]:
+        """Everything below the root, by its path: equal to another one only where nothing was
+        changed, and nothing replaced by its like."""
+        entries = [self.root, *self.root.rglob("*")] if self.root.exists() else []
+        return {str(entry): _identity(entry) for entry in entries}
 
     def block_settings(self) -> Path:
         """Puts a file where the folder of the settings would be, and returns it."""
-        file = self._folder / ".config" / NAME
+        file = self._settings.parent
         file.parent.mkdir(parents=True)
         file.write_text("")
         return file
@@ -49,6 +70,9 @@ class Home:
 
     def engine_folder(self, mono: bool = False) -> Path:
         return self.engines / (engine.VERSION + ("-mono" if mono else ""))
+
+    def engine_program(self) -> Path:
+        return self.engine_folder() / Path(engine.archive_name()).stem
 
     def processes(self) -> list[int]:
         """Whoever works with what is installed: runs from there, stands there or was given it.
@@ -61,6 +85,11 @@ class Home:
         _expect_only(self.temporary, set())
         _expect_only(self.root, {"Game", "Engine"})
         _expect_only(self.engines, {engine.VERSION, f"{engine.VERSION}-mono"})
+
+
+def _identity(entry: Path) -> tuple:
+    status = entry.lstat()
+    return status.st_ino, status.st_mode, status.st_size, status.st_mtime_ns
 
 
 def _engagement(process: Path) -> str:

@@ -20,15 +20,19 @@ ASSETS = 72
 TILE = 32
 
 
-def make_archive(path: Path, scratch: Path, csharp: bool = False) -> None:
+def make_archive(path: Path, scratch: Path, csharp: bool, more: dict[str, bytes]) -> None:
     """Writes the branch archive as the web host serves it: all below one folder, the project one
-    folder further down. With `csharp` the project also holds a C# project file."""
+    folder further down. With `csharp` the project also holds a C# project file. `more` are files
+    to add to the project."""
     repository = scratch / ARCHIVE_FOLDER
     shutil.copytree(SOURCE, repository)
     project = repository / PROJECT_FOLDER
     make_assets(project)
     if csharp:
         (project / f"{NAME}.csproj").write_text("<Project Sdk=\"Godot.NET.Sdk/3.3.0\" />\n")
+    for name, contents in more.items():
+        (project / name).parent.mkdir(parents=True, exist_ok=True)
+        (project / name).write_bytes(contents)
     with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as archive:
         for entry in [repository, *sorted(repository.rglob("*"))]:
             archive.write(entry, entry.relative_to(scratch))

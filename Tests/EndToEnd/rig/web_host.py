@@ -3,6 +3,7 @@
 do, branch archives redirect to a host that sends them without a length, and release files to one
 that sends them with it."""
 
+import itertools
 import signal
 import subprocess
 from pathlib import Path
@@ -106,9 +107,12 @@ class WebHost:
         self._server = None
 
     def requests(self) -> list[str]:
-        """The finished requests so far, each as "host path status"."""
+        """The finished requests so far, each as "host path status". Of the same request several
+        times in a row only one: the network library may ask for a redirected address twice over
+        the same connection."""
         log = self._folder / "access.log"
-        return log.read_text().splitlines() if log.exists() else []
+        lines = log.read_text().splitlines() if log.exists() else []
+        return [request for request, _ in itertools.groupby(lines)]
 
     def _has_started(self) -> bool:
         if self._server.poll() is not None:

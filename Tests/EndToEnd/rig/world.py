@@ -1,11 +1,13 @@
 # SPDX-License-Identifier: MIT
 """All that one scenario needs, put together."""
 
+import zipfile
 from pathlib import Path
 
 from rig import engine, private_world, sample_game, web_host
 from rig.authority import Authority
 from rig.desktop import Desktop
+from rig.file_manager import FileManager, Opener
 from rig.home import Home
 from rig.launcher import TITLE, Launcher
 from rig.web_host import WebHost
@@ -25,6 +27,7 @@ class World:
         private_world.redirect_hosts(scratch, authority.certificate, web_host.NAMES)
         private_world.separate_displays(scratch)
         self.web = WebHost(scratch / "web", authority)
+        self.opener = Opener(self.home.programs)
         self.desktop = Desktop(self.home.environment(), output)
         self.launcher = None
 
@@ -35,8 +38,8 @@ class World:
         if error[0] and self.launcher:
             self.picture("failure")
 
-    def offer_game(self, csharp: bool = False) -> None:
-        sample_game.make_archive(self.web.branch_archive, self._scratch, csharp)
+    def offer_game(self, csharp: bool = False, more: dict[str, bytes] | None = None) -> None:
+        sample_game.make_archive(self.web.branch_archive, self._scratch, csharp, more or {})
 
     def offer_real_engine(self) -> None:
         engine.make_release(self.web.releases, engine.REAL_ENGINE)
@@ -45,6 +48,21 @@ class World:
         """Returns the archive, which a scenario may damage."""
         program = engine.script(self._scratch / "engine", **behaviour)
         return engine.make_release(self.web.releases, program, mono)
+
+    def install(self) -> None:
+        """Puts the game and the scripted engine that are offered in place, imported and marked as
+        the launcher leaves them."""
+        with zipfile.ZipFile(self.web.branch_archive) as archive:
+            archive.extractall(self.home.game)
+        with zipfile.ZipFile(self.web.releases / engine.archive_name()) as archive:
+            archive.extractall(self.home.engine_folder())
+        program = self.home.engine_program()
+        program.chmod(0o755)
+        engine.run_import(program, self.home.project)
+        self.home.marker().touch()
+
+    def start_file_manager(self) -> FileManager:
+        return FileManager(self._scratch / "shown.txt")
 
     def disconnect(self) -> None:
         private_world.disconnect(self._scratch)

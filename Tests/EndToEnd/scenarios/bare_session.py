@@ -24,9 +24,9 @@ def run(world):
     assert launcher.wait_for_end() == 0
 
     launcher = world.open_launcher()
-    launcher.press("Settings…")
-    launcher.press("Fullscreen")
-    launcher.press("Done")
-    launcher.press("Settings…")
-    assert launcher.is_checked("Fullscreen"), "the setting holds for as long as the window is open"
+    sheet = launcher.open_settings()
+    sheet.choose_window_mode("Fullscreen")
+    sheet.close()
+    sheet = launcher.open_settings()
+    assert sheet.window_mode() == "Fullscreen", "the setting lasts as long as the window is open"
     assert settings.is_file()

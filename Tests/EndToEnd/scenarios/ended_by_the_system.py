@@ -35,9 +35,8 @@ def run(world):
 
 def play_from_a_new_engine(world):
     launcher = world.open_launcher()
-    launcher.press("Settings…")
-    launcher.press("Reinstall")
-    launcher.press_in_alert("Reinstall")
+    launcher.open_settings().press("Reinstall")
+    launcher.wait_for_alert().answer("Reinstall")
     launcher.wait_for_label("Starting…", seconds=60)
     launcher.wait_for_log_line("The game is on.")
 

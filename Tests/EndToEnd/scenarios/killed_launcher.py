@@ -52,9 +52,8 @@ def kill_during_the_import(world):
 def kill_during_the_game(world):
     world.offer_scripted_engine(plays='while sleep 0.1; do echo "On and on."; done\n')
     launcher = world.open_launcher()
-    launcher.press("Settings…")
-    launcher.press("Reinstall")
-    launcher.press_in_alert("Reinstall")
+    launcher.open_settings().press("Reinstall")
+    launcher.wait_for_alert().answer("Reinstall")
     launcher.wait_for_label("Starting…", seconds=60)
     launcher.wait_for_log_line("On and on.")
     launcher.kill()
