@@ -1,0 +1,85 @@
+# SPDX-License-Identifier: MIT
+"""Everything can be reached and used without a mouse. The log stays closed, as it is at first."""
+
+from rig import settings_sheet
+from rig.expect import expect_quit
+from rig.keyboard import press_keys
+from rig.launcher import TITLE
+from rig.waiting import wait_for
+
+
+def run(world):
+    world.offer_game()
+    world.offer_scripted_engine()
+    world.install()
+    launcher = world.launcher = world.start_launcher()
+    launcher.wait_for_window()
+    launcher.wait_for_label("Ready")
+
+    wait_for("The focus on \"Play\"", lambda: launcher.focused() == "Play")
+    for name in ("Show log", "Settings…", "About", "Play"):
+        press_keys("Tab")
+        wait_for(f"The focus on \"{name}\"", lambda: launcher.focused() == name)
+    press_keys("shift+Tab")
+    wait_for("The focus on \"About\"", lambda: launcher.focused() == "About")
+    go_to(world, "Play")
+
+    press_keys("Return")
+    launcher.wait_for_label("Starting…")
+    wait_for("The game", launcher.children)
+    press_keys("Escape")
+    go_to(world, "Stop")
+    assert launcher.children(), "Escape ended the game."
+    press_keys("space")
+    launcher.wait_for_label("Ready")
+    wait_for("The end of the game", lambda: not world.home.processes())
+
+    expect_sheet_closes(world, "Escape")
+    expect_question_declined(world)
+    expect_sheet_closes(world, "Return")
+    assert launcher.shows("Ready"), launcher.labels()
+    press_keys("ctrl+q")
+    expect_quit(world)
+
+
+def open_settings(world):
+    go_to(world, "Settings…")
+    press_keys("space")
+    return world.launcher.wait_for_settings()
+
+
+def expect_sheet_closes(world, key):
+    settings = open_settings(world)
+    press_keys(key)
+    settings.wait_until_closed()
+    world.desktop.give_focus(TITLE)
+
+
+def expect_question_declined(world):
+    before = world.home.snapshot()
+    settings = open_settings(world)
+    go_to(world, settings.remove_button())
+    world.picture("settings")
+    press_keys("space")
+    alert = world.launcher.wait_for_alert()
+    press_keys("Escape")
+    alert.wait_until_gone()
+    assert settings.is_open()
+    assert world.home.snapshot() == before
+    world.desktop.give_focus(settings_sheet.NAME)
+    go_to(world, "Done")
+    press_keys("space")
+    settings.wait_until_closed()
+    world.desktop.give_focus(TITLE)
+
+
+def go_to(world, name):
+    """Presses Tab until the focus is there."""
+    for _ in range(12):
+        focused = world.launcher.focused()
+        if focused == name:
+            return
+        press_keys("Tab")
+        wait_for(f"The focus elsewhere than on \"{focused}\"",
+                 lambda: world.launcher.focused() != focused)
+    raise AssertionError(f"\"{name}\" cannot be reached with Tab.")
