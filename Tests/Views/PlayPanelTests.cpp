@@ -109,9 +109,18 @@ TEST_P(EveryPhase, takesReturnForPlayOnlyWherePlayIsEnabled)
     auto presses = 0;
     QObject::disconnect(&play(), &QPushButton::clicked, &model(), nullptr);
     QObject::connect(&play(), &QPushButton::clicked, &play(), [&presses] { ++presses; });
-    window().setFocus();
-    QTest::keyClick(&window(), Qt::Key_Return);
-    EXPECT_EQ(presses, GetParam().play ? 1 : 0);
+    auto expected = 0;
+    const auto controls = window().findChildren<QWidget*>();
+    for (auto* const control : controls) {
+        if (!control->isVisible() || !(control->focusPolicy() & Qt::TabFocus))
+            continue;
+        control->setFocus();
+        expected += GetParam().play ? 1 : 0;
+        QTest::keyClick(control, Qt::Key_Return);
+        EXPECT_EQ(presses, expected) << qPrintable(control->accessibleName())
+                                     << control->metaObject()->className();
+    }
+    EXPECT_EQ(expected > 3, GetParam().play) << "Return is tried from several controls";
 }
 
 INSTANTIATE_TEST_SUITE_P(PlayPanel, EveryPhase, testing::ValuesIn(rows));
@@ -251,15 +260,30 @@ TEST_F(PlayPanelTest, doesNotHandTheFocusOfPlayToCancel)
 {
     play().setFocus();
     enter(Phase::downloading());
-    EXPECT_FALSE(cancel().hasFocus()) << "a second Return would cancel";
+    EXPECT_FALSE(cancel().hasFocus()) << "the space bar would cancel";
     enter(Phase::ready());
     EXPECT_TRUE(play().hasFocus());
 }
 
-TEST_F(PlayPanelTest, leavesReturnToTheControlThatHasTheFocus)
+TEST_F(PlayPanelTest, keepsTheFocusInPlaceWhileAnotherWindowIsActive)
+{
+    play().setFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    settle();
+    ASSERT_FALSE(play().hasFocus());
+    enter(Phase::playing());
+    EXPECT_NE(window().focusWidget(), &play());
+    EXPECT_NE(window().focusWidget()->metaObject()->className(), QByteArray("QPushButton"));
+    enter(Phase::ready());
+    EXPECT_EQ(window().focusWidget(), &play());
+}
+
+TEST_F(PlayPanelTest, leavesTheSpaceBarToTheControlThatHasTheFocus)
 {
     disclosure().setFocus();
-    QTest::keyClick(&disclosure(), Qt::Key_Return);
+    QTest::keyClick(&disclosure(), Qt::Key_Space);
     EXPECT_TRUE(model().showLog());
     EXPECT_FALSE(model().isFlowRunning());
 }

@@ -3,11 +3,13 @@
 #include "Views/ViewTest.h"
 
 #include "Views/AboutView.h"
+#include "Views/LinkLabel.h"
 #include "Views/SegmentedPicker.h"
 #include "Views/SettingsView.h"
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QDir>
 #include <QLayout>
 #include <QPointer>
@@ -181,6 +183,20 @@ TEST_F(SettingsViewTest, closesWithReturnFromAnywhereInIt)
     EXPECT_FALSE(open);
 }
 
+/// Takes the place of the player's web browser.
+class Browser final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
+    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
+
+    Q_INVOKABLE void open(const QUrl& address) { opened.append(address); }
+
+    QList<QUrl> opened;
+};
+
 class AboutViewTest : public ViewTest
 {
 protected:
@@ -225,12 +241,31 @@ TEST_F(AboutViewTest, showsTheAddressItselfAsALink)
     EXPECT_TRUE(link->textInteractionFlags() & Qt::LinksAccessibleByKeyboard);
 }
 
-TEST_F(AboutViewTest, closesWithReturn)
+TEST_F(AboutViewTest, closesWithReturnAlsoFromTheLink)
 {
     const QPointer<AboutView> open(&sheet());
-    QTest::keyClick(open, Qt::Key_Return);
+    auto& link = only<LinkLabel>(*open);
+    link.setFocus();
+    QTest::keyClick(&link, Qt::Key_Return);
     settle();
     EXPECT_FALSE(open);
 }
 
+TEST_F(AboutViewTest, opensTheLinkWithTheSpaceBar)
+{
+    auto& link = only<LinkLabel>(sheet());
+    Browser browser;
+    link.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&link, Qt::Key_Space);
+    EXPECT_EQ(browser.opened,
+              QList<QUrl>{QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk"))});
+}
+
+TEST_F(AboutViewTest, startsWithTheFocusOnDone)
+{
+    EXPECT_TRUE(button(sheet(), QStringLiteral("Done"))->hasFocus());
+}
+
 } // namespace
+
+#include "SheetTests.moc"

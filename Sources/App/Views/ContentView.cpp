@@ -3,6 +3,7 @@
 
 #include "AppModel.h"
 #include "Views/AboutView.h"
+#include "Views/BorderedButton.h"
 #include "Views/FontChange.h"
 #include "Views/HeaderArt.h"
 #include "Views/PlayButton.h"
@@ -61,14 +62,6 @@ QWidget* controlRow(const Control& control)
     row->layout()->setAlignment(action, Qt::AlignTop);
     row->layout()->setAlignment(binding, Qt::AlignTop);
     return row;
-}
-
-QPushButton* sheetButton(const QString& title)
-{
-    auto* const button = new QPushButton(title);
-    button->setAutoDefault(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
 }
 
 /// A scroll area that is a window says so to assistive technology: a scroll area alone is only a
@@ -139,8 +132,8 @@ QWidget* ContentView::controlsBlock()
 
 QWidget* ContentView::sheetButtons()
 {
-    auto* const settings = sheetButton(tr("Settings\u2026"));
-    auto* const about = sheetButton(tr("About"));
+    auto* const settings = borderedButton(tr("Settings\u2026"));
+    auto* const about = borderedButton(tr("About"));
     connect(settings, &QPushButton::clicked, this,
             [this] { openSheet([this] { return new SettingsView(m_model, this); }); });
     connect(about, &QPushButton::clicked, this,

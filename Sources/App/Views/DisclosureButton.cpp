@@ -21,7 +21,7 @@ DisclosureButton::DisclosureButton(const QString& title)
     : QPushButton(title)
 {
     setCheckable(true);
-    setAutoDefault(true);
+    setAutoDefault(false);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);

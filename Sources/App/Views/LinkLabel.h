@@ -4,11 +4,10 @@
 #include "Views/TypeScale.h"
 
 #include <QLabel>
+#include <QUrl>
 
-class QUrl;
-
-/// A web address that is its own text and opens in the player's browser, by the mouse or the
-/// keyboard.
+/// A web address that is its own text and opens in the player's browser, by a click or the space
+/// bar. Return is left to the window's default button.
 class LinkLabel final : public QLabel
 {
     Q_OBJECT
@@ -18,7 +17,9 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     TextStyle m_style;
+    QUrl m_address;
 };

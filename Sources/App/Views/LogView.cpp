@@ -3,13 +3,13 @@
 
 #include "AppModel.h"
 #include "Process/LogStore.h"
+#include "Views/BorderedButton.h"
 #include "Views/Stack.h"
 #include "Views/SystemColors.h"
 #include "Views/TextBox.h"
 
 #include <QBoxLayout>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -50,9 +50,7 @@ LogView::LogView(AppModel& model)
     , m_box(new TextBox(tr("Log"), boxHeight, boxTint))
     , m_edit(m_box->edit())
 {
-    auto* const copy = new QPushButton(tr("Copy log"));
-    copy->setAutoDefault(true);
-    copy->setFocusPolicy(Qt::TabFocus);
+    auto* const copy = borderedButton(tr("Copy log"));
     connect(copy, &QPushButton::clicked, &model, &AppModel::copyLog);
 
     stackVertically(*this, spacing, 0,

@@ -2,6 +2,7 @@
 #include "Views/PlayPanel.h"
 
 #include "AppModel.h"
+#include "Views/BorderedButton.h"
 #include "Views/DisclosureButton.h"
 #include "Views/LogView.h"
 #include "Views/PlayButton.h"
@@ -55,15 +56,6 @@ StatusDot::Color statusColor(const AppModel& model)
         return SystemColors::red;
     }
     Q_UNREACHABLE();
-}
-
-/// A bordered button that a click does not give the focus, so that Return stays Play's.
-QPushButton* borderedButton(const QString& title)
-{
-    auto* const button = new QPushButton(title);
-    button->setAutoDefault(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
 }
 
 /// Tells assistive technology of a change that the player should hear of at once.
@@ -190,14 +182,14 @@ void PlayPanel::refreshButtons()
     const auto stop = m_model.phase() == Phase::Kind::playing;
     const auto cancel = m_model.phase().isSetup();
     // A button that goes while it has the focus would hand that to the next one, where a second
-    // press of Return might cancel what the first one started. The panel takes it instead.
-    if ((busy && m_play->hasFocus()) || (!stop && m_stop->hasFocus()) ||
-        (!cancel && m_cancel->hasFocus()))
+    // press of the space bar might cancel what the first one started. The panel takes it instead.
+    const auto* const focus = window()->focusWidget();
+    if ((busy && focus == m_play) || (!stop && focus == m_stop) || (!cancel && focus == m_cancel))
         setFocus(Qt::OtherFocusReason);
     m_play->setEnabled(!busy);
     m_stop->setVisible(stop);
     m_cancel->setVisible(cancel);
-    if (!busy && hasFocus())
+    if (!busy && window()->focusWidget() == this)
         m_play->setFocus(Qt::OtherFocusReason);
 }
 

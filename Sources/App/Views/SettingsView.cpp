@@ -2,6 +2,7 @@
 #include "Views/SettingsView.h"
 
 #include "AppModel.h"
+#include "Views/BorderedButton.h"
 #include "Views/DestructiveButton.h"
 #include "Views/Divider.h"
 #include "Views/SegmentedPicker.h"
@@ -10,7 +11,6 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -111,8 +111,8 @@ QWidget* SettingsView::resolutionPicker()
 
 QWidget* SettingsView::gameButtons()
 {
-    m_update = button(tr("Update the game"));
-    m_reinstall = button(tr("Reinstall"));
+    m_update = borderedButton(tr("Update the game"));
+    m_reinstall = borderedButton(tr("Reinstall"));
     connect(m_update, &QPushButton::clicked, this, [this] {
         m_model.updateGame();
         accept();
@@ -126,8 +126,8 @@ QWidget* SettingsView::gameButtons()
 
 QWidget* SettingsView::folderButtons()
 {
-    auto* const reveal = button(tr("Reveal in Finder"));
-    m_showSaves = button(tr("Show saves"));
+    auto* const reveal = borderedButton(tr("Reveal in Finder"));
+    m_showSaves = borderedButton(tr("Show saves"));
     connect(reveal, &QPushButton::clicked, &m_model, &AppModel::revealInFinder);
     connect(m_showSaves, &QPushButton::clicked, &m_model, &AppModel::showSaves);
     return horizontalStack(defaultSpacing, {reveal, m_showSaves, StackItem::spacer()});

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Views/Sheet.h"
 
+#include "Views/BorderedButton.h"
 #include "Views/FontChange.h"
 #include "Views/Stack.h"
 
 #include <QEvent>
 #include <QLayout>
-#include <QPushButton>
 
 namespace {
 
@@ -23,20 +23,20 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     setFixedWidth(sheetWidth);
 }
 
-QPushButton* Sheet::button(const QString& title)
-{
-    auto* const button = new QPushButton(title);
-    button->setAutoDefault(false);
-    return button;
-}
-
 QWidget* Sheet::doneRow()
 {
-    auto* const done = button(tr("Done"));
-    done->setDefault(true);
-    done->setFocus();
-    connect(done, &QPushButton::clicked, this, &QDialog::accept);
-    return horizontalStack(defaultSpacing, {StackItem::spacer(), done});
+    m_done = borderedButton(tr("Done"));
+    m_done->setDefault(true);
+    connect(m_done, &QPushButton::clicked, this, &QDialog::accept);
+    return horizontalStack(defaultSpacing, {StackItem::spacer(), m_done});
+}
+
+void Sheet::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    // Where no key that was meant for the window changes anything.
+    if (m_done)
+        m_done->setFocus(Qt::OtherFocusReason);
 }
 
 bool Sheet::event(QEvent* event)

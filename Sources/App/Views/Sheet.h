@@ -15,11 +15,12 @@ public:
     /// `parent` is the window the sheet hangs on and blocks while it is open.
     Sheet(const QString& title, QWidget* parent);
 
-    /// A button that leaves Return to Done.
-    [[nodiscard]] static QPushButton* button(const QString& title);
-
 protected:
     /// The last row of every sheet.
     [[nodiscard]] QWidget* doneRow();
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QPushButton* m_done = nullptr;
 };
