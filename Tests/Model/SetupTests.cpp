@@ -414,8 +414,9 @@ TEST_F(Setup, ignoresFurtherPressesWhileBusy)
     model().play();
     waitForPhase(Phase::Kind::downloading);
     model().play();
-    QTest::qWait(50);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !server.requests().isEmpty(); }, 20'000));
     EXPECT_EQ(logged().filter(QStringLiteral("Downloading the game source")).size(), 1);
+    EXPECT_EQ(server.requests().size(), 1);
     model().cancelSetup();
     waitForFlow();
 }

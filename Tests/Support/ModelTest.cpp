@@ -24,7 +24,7 @@ ModelTest::ModelTest()
     durations.importSettled = 40ms;
     durations.logPublication = 10ms;
     durations.killGrace = 500ms;
-    durations.transferStall = 2s;
+    durations.transferStall = 20s;
 }
 
 ModelTest::~ModelTest()

@@ -32,7 +32,10 @@ def run(world):
         f"Step 4 of 4 · Starting: Godot --path {world.home.project} --windowed",
         "The game is on.",
     ]
-    assert launcher.log() == expected, "\n".join(launcher.log())
+    # On a slow machine a count may come while the engine is not done yet.
+    log = [line for line in launcher.log()
+           if not line.startswith("Import progress: ") or line.startswith("Import progress: 0 ")]
+    assert log == expected, "\n".join(launcher.log())
     assert world.home.marker(mono=True).exists()
     assert not world.home.marker().exists()
     program = (world.home.engine_folder(mono=True) / "Godot_v3.5.3-stable_mono_x11_64"
