@@ -40,13 +40,41 @@ TextLabel::TextLabel(int pixelSize, QFont::Weight weight, const QString& text)
 {
 }
 
+TextLabel::Measurement& TextLabel::measurement() const
+{
+    if (m_measurement.text != text() || m_measurement.font != font()) {
+        const QSize line(fontMetrics().size(0, text()).width(),
+                         QLabel::heightForWidth(QWIDGETSIZE_MAX));
+        m_measurement = {text(), font(), line, {}};
+    }
+    return m_measurement;
+}
+
+QSize TextLabel::sizeHint() const
+{
+    return wordWrap() ? measurement().line : QLabel::sizeHint();
+}
+
+int TextLabel::heightForWidth(int width) const
+{
+    if (!wordWrap())
+        return QLabel::heightForWidth(width);
+    auto& measured = measurement();
+    if (width > measured.line.width())
+        return measured.line.height();
+    const auto [height, isNew] = measured.heights.try_emplace(width);
+    if (isNew)
+        height->second = QLabel::heightForWidth(width);
+    return height->second;
+}
+
 QSize TextLabel::minimumSizeHint() const
 {
     if (!wordWrap())
         return QLabel::minimumSizeHint();
     // The height follows from the width that the label is given. One guessed from a small width
     // would make the column that all stands in taller than it has to be.
-    return {std::min(QLabel::minimumSizeHint().width(), leastWidth), fontMetrics().height()};
+    return {std::min(measurement().line.width(), leastWidth), measurement().line.height()};
 }
 
 bool TextLabel::event(QEvent* event)

@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include <functional>
+#include <map>
 
 /// The two strengths of the window's text.
 enum class TextTone { primary, secondary };
@@ -26,7 +27,10 @@ public:
     /// The same at a size of its own, in device-independent pixels.
     TextLabel(int pixelSize, QFont::Weight weight, const QString& text);
 
+    /// All of the text in one line.
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
     bool event(QEvent* event) override;
@@ -34,6 +38,18 @@ protected:
 private:
     TextLabel(std::function<QFont()> font, const QString& text, TextTone tone);
 
+    /// How large the text is in its font. A layout asks for that over and over, and the label's own
+    /// answers shape the whole text each time.
+    struct Measurement
+    {
+        QString text;
+        QFont font;
+        QSize line;
+        std::map<int, int> heights;
+    };
+    Measurement& measurement() const;
+
     /// Gives the font as the system would have it at the moment.
     std::function<QFont()> m_font;
+    mutable Measurement m_measurement;
 };
