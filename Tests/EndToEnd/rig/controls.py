@@ -69,9 +69,9 @@ class Controls:
 
     def focused(self) -> str:
         """The name of the control that the keyboard speaks to, in the window that it speaks to."""
-        names = [control.get_name() for control in self.showing()
-                 if control.get_name() and self.has(control, "FOCUSED")]
-        return names[-1] if names else ""
+        names = [self._if_there(control.get_name) for control in self._below(self._application)
+                 if self.has(control, "FOCUSED") and self.has(control, "SHOWING")]
+        return next((name for name in reversed(names) if name), "")
 
     def has(self, control, state: str) -> bool:
         return bool(self._if_there(lambda: control.get_state_set().contains(
