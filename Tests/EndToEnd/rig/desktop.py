@@ -6,6 +6,8 @@ import re
 import subprocess
 from pathlib import Path
 
+from rig import window_manager
+
 SCREEN = "1920x1080x24"
 
 
@@ -27,6 +29,7 @@ class Desktop:
         os.environ.clear()
         os.environ.update(environment)
         self._start_accessibility_bus()
+        window_manager.start(output / "window-manager.txt")
 
     def windows(self) -> dict[str, tuple[int, int]]:
         """The sizes of the windows that can be seen on the display, by their titles."""
@@ -46,25 +49,18 @@ class Desktop:
         subprocess.run(["xdotool", "windowmove", window, str(x), "0"], check=True)
 
     def close(self, title: str) -> None:
-        """Asks a window to close, as a window manager does when its close button is pressed, which
-        brings the window the focus too."""
+        """Asks a window to close, as a window manager does when its close button is pressed."""
         from Xlib import X
         from Xlib.display import Display
         from Xlib.protocol.event import ClientMessage
         display = Display(self.environment["DISPLAY"])
         number, = self._visible_windows(f"^{title}$")
-        self.give_focus(title)
         window = display.create_resource_object("window", int(number))
         window.send_event(ClientMessage(
             window=window, client_type=display.get_atom("WM_PROTOCOLS"),
             data=(32, [display.get_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0])))
         display.sync()
         display.close()
-
-    def give_focus(self, title: str) -> None:
-        """What a window manager does for the window below when the one above it closes."""
-        window, = self._visible_windows(f"^{title}$")
-        subprocess.run(["xdotool", "windowfocus", window], check=True)
 
     def clipboard(self) -> str:
         """The text that any other program would now paste: nothing before the first copy."""

@@ -1,10 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Everything can be reached and used without a mouse. The log stays closed, as it is at first."""
 
-from rig import settings_sheet
 from rig.expect import expect_quit
 from rig.keyboard import press_keys
-from rig.launcher import TITLE
 from rig.waiting import wait_for
 
 
@@ -16,12 +14,12 @@ def run(world):
     launcher.wait_for_window()
     launcher.wait_for_label("Ready")
 
-    wait_for("The focus on \"Play\"", lambda: launcher.focused() == "Play")
+    expect_focus(world, "Play")
     for name in ("Show log", "Settings…", "About", "Play"):
         press_keys("Tab")
-        wait_for(f"The focus on \"{name}\"", lambda: launcher.focused() == name)
+        expect_focus(world, name)
     press_keys("shift+Tab")
-    wait_for("The focus on \"About\"", lambda: launcher.focused() == "About")
+    expect_focus(world, "About")
     go_to(world, "Play")
 
     press_keys("Return")
@@ -52,7 +50,7 @@ def expect_sheet_closes(world, key):
     settings = open_settings(world)
     press_keys(key)
     settings.wait_until_closed()
-    world.desktop.give_focus(TITLE)
+    expect_focus(world, "Settings…")
 
 
 def expect_question_declined(world):
@@ -66,11 +64,15 @@ def expect_question_declined(world):
     alert.wait_until_gone()
     assert settings.is_open()
     assert world.home.snapshot() == before
-    world.desktop.give_focus(settings_sheet.NAME)
+    expect_focus(world, settings.remove_button())
     go_to(world, "Done")
     press_keys("space")
     settings.wait_until_closed()
-    world.desktop.give_focus(TITLE)
+    expect_focus(world, "Settings…")
+
+
+def expect_focus(world, name):
+    wait_for(f"The focus on \"{name}\"", lambda: world.launcher.focused() == name)
 
 
 def go_to(world, name):
