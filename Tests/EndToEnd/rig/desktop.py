@@ -23,8 +23,9 @@ class Desktop:
         # A display that starts anew when its last client leaves turns away who comes just then.
         environment["DISPLAY"] = ":" + self._start_telling(
             ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"])
+        bus = f"unix:path={environment['XDG_RUNTIME_DIR']}/bus"
         environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
-            ["dbus-daemon", "--session", "--nofork", "--print-address={}"])
+            ["dbus-daemon", "--session", "--nofork", f"--address={bus}", "--print-address={}"])
         environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         os.environ.clear()
         os.environ.update(environment)
