@@ -44,5 +44,5 @@ def play_from_a_new_engine(world):
 def expect_end(world, number: int) -> None:
     world.launcher.signal(number)
     assert world.launcher.wait_for_end(seconds=10) == 0
-    assert world.home.processes() == [], world.home.processes()
+    wait_for("The end of all that it started", lambda: not world.home.processes())
     world.home.expect_nothing_left_over()
