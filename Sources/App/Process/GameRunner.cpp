@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Process/GameRunner.h"
 
+#include "Platform/OffThread.h"
 #include "Process/ImportWatcher.h"
 #include "Project/ImportChecker.h"
 
@@ -9,7 +10,6 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
-#include <QtConcurrent>
 
 #include <exception>
 #include <stop_token>
@@ -40,8 +40,8 @@ QCoro::Task<> watchImport(QString project, LogCallback log, std::shared_ptr<Mana
         co_await sleep(poll, stop);
         if (stop.stop_requested())
             break;
-        auto counting = QtConcurrent::run(
-            [project, stop] { return ImportChecker::missingCount(project, stop); });
+        auto counting =
+            offThread([project, stop] { return ImportChecker::missingCount(project, stop); });
         const auto count = co_await counting;
         if (stop.stop_requested())
             break;

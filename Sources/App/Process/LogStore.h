@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Durations.h"
 #include "Process/LogCallback.h"
 
 #include <QByteArray>
@@ -23,7 +24,7 @@ class LogStore final : public QObject
 public:
     /// Keeps at most `maxLines` lines. Belongs to the thread that creates it, the main thread.
     explicit LogStore(int maxLines = 2000,
-                      std::chrono::milliseconds publicationDelay = std::chrono::milliseconds{100},
+                      std::chrono::milliseconds publicationDelay = Durations().logPublication,
                       QObject* parent = nullptr);
 
     /// Adds the lines of `text`, split at every line feed, empty pieces included. Any thread.

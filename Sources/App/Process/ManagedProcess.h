@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Durations.h"
 #include "Process/LogCallback.h"
 
 #include <QFuture>
@@ -27,7 +28,7 @@ public:
     /// a SessionLock, which must stay open until the child has started, the child counts as the
     /// running game.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::EndsWithLauncher,
-        std::chrono::milliseconds killGrace = std::chrono::seconds{5}, int sessionLock = -1);
+        std::chrono::milliseconds killGrace = Durations().killGrace, int sessionLock = -1);
     /// Leaves a child that still runs to its end, and its future with it.
     ~ManagedProcess();
 
