@@ -261,6 +261,8 @@ TEST_F(PlayPanelTest, doesNotHandTheFocusOfPlayToCancel)
     play().setFocus();
     enter(Phase::downloading());
     EXPECT_FALSE(cancel().hasFocus()) << "the space bar would cancel";
+    EXPECT_EQ(window().focusWidget()->accessibleName(), QStringLiteral("Downloading"))
+        << "whoever hears the window hears what Play has come to";
     enter(Phase::ready());
     EXPECT_TRUE(play().hasFocus());
 }

@@ -159,6 +159,9 @@ void PlayPanel::refreshStatus()
     const auto title = m_model.statusTitle();
     m_dot->setStatus(statusColor(m_model), tr("Status: %1").arg(title));
     m_detail->setText(m_model.statusDetail());
+    // The panel holds the focus while Play is pressed and disabled.
+    setAccessibleName(title);
+    setAccessibleDescription(m_model.statusDetail());
     if (m_title->text() == title)
         return;
     m_title->setText(title);
