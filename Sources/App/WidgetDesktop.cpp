@@ -44,14 +44,20 @@ QDBusMessage showItems(const QString& path)
     return message;
 }
 
-/// The labels of a message box are its own affair; by these names it lets them be found.
-void setUpLabels(QMessageBox& alert)
+/// Gives an alert its words and its looks.
+void setUp(QMessageBox& alert, const QString& title, const QString& message)
 {
-    if (auto* const title = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
-        title->setFont(textFont(TextStyle::headline));
-    auto* const message = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
-    if (message)
-        message->setMinimumWidth(alertTextWidth);
+    alert.setWindowTitle(QCoreApplication::applicationName());
+    alert.setWindowModality(Qt::WindowModal);
+    alert.setIconPixmap(QApplication::windowIcon().pixmap(alertIconSize));
+    alert.setTextFormat(Qt::PlainText);
+    alert.setText(title);
+    alert.setInformativeText(message);
+    // The labels of a message box are its own affair; by these names it lets them be found.
+    if (auto* const label = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        label->setFont(textFont(TextStyle::headline));
+    if (auto* const label = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        label->setMinimumWidth(alertTextWidth);
 }
 
 } // namespace
@@ -59,15 +65,9 @@ void setUpLabels(QMessageBox& alert)
 bool WidgetDesktop::confirm(const QString& title, const QString& message, const QString& button)
 {
     QMessageBox alert(frontWindow());
-    alert.setWindowTitle(QCoreApplication::applicationName());
-    alert.setWindowModality(Qt::WindowModal);
-    alert.setIconPixmap(QApplication::windowIcon().pixmap(alertIconSize));
-    alert.setTextFormat(Qt::PlainText);
-    alert.setText(title);
-    alert.setInformativeText(message);
-    setUpLabels(alert);
+    setUp(alert, title, message);
     auto* const action = alert.addButton(button, QMessageBox::AcceptRole);
-    auto* const cancel = alert.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole);
+    auto* const cancel = alert.addButton(tr("Cancel"), QMessageBox::RejectRole);
     alert.setDefaultButton(action);
     alert.setEscapeButton(cancel);
     alert.exec();
@@ -81,7 +81,15 @@ void WidgetDesktop::copyText(const QString& text)
 
 void WidgetDesktop::openFolder(const QString& path)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        return;
+    auto* const alert = new QMessageBox(frontWindow());
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    setUp(*alert, tr("The folder could not be opened."),
+          tr("This desktop has no file browser. The folder is “%1”.").arg(path));
+    alert->addButton(tr("OK"), QMessageBox::AcceptRole);
+    alert->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    alert->open();
 }
 
 void WidgetDesktop::revealFolder(const QString& path)

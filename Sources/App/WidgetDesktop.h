@@ -3,10 +3,14 @@
 
 #include "Desktop.h"
 
+#include <QCoreApplication>
+
 /// The desktop as the player's session offers it: alerts over the window, the clipboard, and the
-/// file browser. Where the session has no file browser, nothing happens.
+/// file browser. Where the session has no file browser, an alert says where the folder is.
 class WidgetDesktop final : public Desktop
 {
+    Q_DECLARE_TR_FUNCTIONS(WidgetDesktop)
+
 public:
     bool confirm(const QString& title, const QString& message, const QString& button) override;
     void copyText(const QString& text) override;

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """A session that lacks what a desktop usually has: without a display the launcher says one
-sentence, without a session bus or a writable place for its settings it still opens."""
+sentence, without a session bus or a writable place for its settings it still opens, and without a
+file browser it says where the folder is."""
 
 from rig.launcher import TITLE
 from rig.waiting import wait_for
@@ -23,10 +24,19 @@ def run(world):
     launcher.signal(15)
     assert launcher.wait_for_end() == 0
 
-    launcher = world.open_launcher()
+    launcher = world.open_launcher(PATH="/nowhere")
     sheet = launcher.open_settings()
     sheet.choose_window_mode("Fullscreen")
     sheet.close()
     sheet = launcher.open_settings()
     assert sheet.window_mode() == "Fullscreen", "the setting lasts as long as the window is open"
     assert settings.is_file()
+
+    sheet.press("Reveal in Finder")
+    alert = launcher.wait_for_alert()
+    title, message = alert.texts()
+    assert title == "The folder could not be opened."
+    assert message.startswith("This desktop has no file browser. The folder is “/"), message
+    world.picture("no-file-browser")
+    alert.answer("OK")
+    sheet.close()
