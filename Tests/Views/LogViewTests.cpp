@@ -2,9 +2,9 @@
 #include "Views/ViewTest.h"
 
 #include "Views/LogView.h"
+#include "Views/LongTextEdit.h"
 #include "Views/TextBox.h"
 
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -23,7 +23,7 @@ protected:
     }
 
     TextBox& box() { return only<TextBox>(only<LogView>()); }
-    QString text() { return box().text(); }
+    QString text() { return box().edit().text(); }
     QScrollBar& bar() { return *box().edit().verticalScrollBar(); }
 
     /// Appends lines and waits until the window shows the log as it then is.

@@ -4,6 +4,7 @@
 
 #include "Views/DisclosureButton.h"
 #include "Views/LogView.h"
+#include "Views/LongTextEdit.h"
 #include "Views/PlayButton.h"
 #include "Views/PlayPanel.h"
 #include "Views/ProgressBar.h"
@@ -12,7 +13,6 @@
 #include "Views/TextBox.h"
 
 #include <QLayout>
-#include <QPlainTextEdit>
 #include <QTest>
 
 #include <ostream>
@@ -117,8 +117,8 @@ TEST_P(EveryPhase, takesReturnForPlayOnlyWherePlayIsEnabled)
         control->setFocus();
         expected += GetParam().play ? 1 : 0;
         QTest::keyClick(control, Qt::Key_Return);
-        EXPECT_EQ(presses, expected) << qPrintable(control->accessibleName())
-                                     << control->metaObject()->className();
+        EXPECT_EQ(presses, expected)
+            << qPrintable(control->accessibleName()) << control->metaObject()->className();
     }
     EXPECT_EQ(expected > 3, GetParam().play) << "Return is tried from several controls";
 }
@@ -212,7 +212,7 @@ TEST_F(PlayPanelTest, scrollsALongReportInABoxOfOneHeight)
     AppModelAccess::setFailureText(model(), QStringLiteral("line\n").repeated(300));
     settle();
     EXPECT_EQ(panel().height(), height);
-    EXPECT_EQ(failure().text(), QStringLiteral("line\n").repeated(300));
+    EXPECT_EQ(failure().edit().text(), QStringLiteral("line\n").repeated(300));
 }
 
 TEST_F(PlayPanelTest, showsAReportOnlyInNeeds)

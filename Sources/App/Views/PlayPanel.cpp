@@ -202,7 +202,7 @@ void PlayPanel::refreshFailure()
     const auto shown = m_model.phase() == Phase::Kind::needs && failure;
     if (shown && !m_failure)
         fillFailureBlock();
-    if (shown && m_failure->text() != *failure)
+    if (shown)
         m_failure->setText(*failure);
     const auto appears = shown && m_failureBlock->isHidden();
     m_failureBlock->setVisible(shown);

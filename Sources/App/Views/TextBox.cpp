@@ -2,13 +2,13 @@
 #include "Views/TextBox.h"
 
 #include "Views/ControlFace.h"
+#include "Views/LongTextEdit.h"
 #include "Views/Stack.h"
 #include "Views/SystemColors.h"
 #include "Views/TypeScale.h"
 
 #include <QEvent>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QTextDocument>
 
 namespace {
@@ -20,16 +20,11 @@ constexpr auto padding = 6;
 
 TextBox::TextBox(const QString& name, int height, Tint tint)
     : RoundedBox(cornerRadius, tint)
-    , m_edit(new QPlainTextEdit)
+    , m_edit(new LongTextEdit)
 {
     m_edit->setAccessibleName(name);
-    m_edit->setReadOnly(true);
-    m_edit->setUndoRedoEnabled(false);
-    m_edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_edit->setTabChangesFocus(true);
     m_edit->setFrameShape(QFrame::NoFrame);
-    m_edit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_edit->document()->setDocumentMargin(0);
     m_edit->viewport()->setAutoFillBackground(false);
     m_edit->setFont(monospacedFont(TextStyle::caption));
@@ -41,12 +36,11 @@ TextBox::TextBox(const QString& name, int height, Tint tint)
 
 void TextBox::setText(const QString& text)
 {
-    m_edit->setPlainText(text);
-}
-
-QString TextBox::text() const
-{
-    return m_edit->toPlainText();
+    if (m_text == text)
+        return;
+    m_text = text;
+    m_edit->removeFirstLines(m_edit->lineCount());
+    m_edit->appendLines(text.split(u'\n'));
 }
 
 bool TextBox::event(QEvent* event)

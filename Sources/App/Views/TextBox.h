@@ -3,7 +3,7 @@
 
 #include "Views/RoundedBox.h"
 
-class QPlainTextEdit;
+class LongTextEdit;
 
 /// A tinted box that shows long text of fixed-width letters: it wraps, scrolls within its height
 /// and can be selected with the mouse and the keyboard, but not changed.
@@ -16,10 +16,9 @@ public:
     /// padding of 6 goes around it.
     TextBox(const QString& name, int height, Tint tint);
 
-    /// Shows `text` from its beginning.
+    /// Shows `text` from its beginning, unless it is shown already.
     void setText(const QString& text);
-    [[nodiscard]] QString text() const;
-    [[nodiscard]] QPlainTextEdit& edit() { return *m_edit; }
+    [[nodiscard]] LongTextEdit& edit() { return *m_edit; }
 
 protected:
     bool event(QEvent* event) override;
@@ -27,5 +26,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QPlainTextEdit* m_edit;
+    LongTextEdit* m_edit;
+    /// The text that is shown, or is on its way into the box.
+    QString m_text;
 };
