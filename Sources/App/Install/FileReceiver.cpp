@@ -2,11 +2,11 @@
 #include "Install/FileReceiver.h"
 
 #include "AppError.h"
+#include "Install/Paths.h"
 #include "Platform/FileTree.h"
 #include "Platform/PlatformError.h"
 
 #include <QFile>
-#include <QUuid>
 
 #include <cerrno>
 #include <cstdio>
@@ -16,8 +16,7 @@ FileReceiver::FileReceiver(const QUrl& url, const QString& folder, const QString
                            ProgressCallback onProgress, QPromise<QString> result)
     : m_url(url)
     , m_destination(folder + u'/' + name)
-    , m_partPath(folder + QStringLiteral("/.download-") +
-                 QUuid::createUuid().toString(QUuid::WithoutBraces))
+    , m_partPath(folder + QStringLiteral("/.download-") + Paths::newUuid())
     , m_onProgress(std::move(onProgress))
     , m_result(std::move(result))
 {

@@ -22,11 +22,6 @@ namespace {
 const auto stagingInfix = QStringLiteral(".new-");
 const auto temporaryPrefix = QStringLiteral("CavernyxPlatformer-");
 
-QString newUuid()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-}
-
 /// The folders in `parent`, links among them, that are named `prefix` and then one of our UUIDs.
 QStringList foldersNamed(const QString& parent, const QString& prefix)
 {
@@ -74,6 +69,11 @@ QString Paths::engines()
 QString Paths::sessionLock()
 {
     return HostPlatform::applicationSupport() + QStringLiteral("/.Cavernyx Platformer.lock");
+}
+
+QString Paths::newUuid()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
 }
 
 QString Paths::newStagingFolder(const QString& target)

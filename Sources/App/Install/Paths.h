@@ -27,6 +27,9 @@ QString engines();
 /// everything does not end the lock.
 QString sessionLock();
 
+/// A random UUID in its standard text form: upper-case, without braces.
+QString newUuid();
+
 /// A fresh name for a folder in which the new content of `target` is put together: `target` +
 /// ".new-" + a random UUID. It lies beside the target, so that moving it there is one step.
 QString newStagingFolder(const QString& target);

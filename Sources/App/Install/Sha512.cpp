@@ -2,6 +2,7 @@
 #include "Install/Sha512.h"
 
 #include "Platform/Cancelled.h"
+#include "Platform/FileDescriptor.h"
 #include "Platform/PlatformError.h"
 
 #include <QByteArray>
@@ -31,19 +32,15 @@ public:
         : m_path(path)
         , m_descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
     {
-        if (m_descriptor < 0)
+        if (!m_descriptor.isOpen())
             throw PlatformError::fromErrno(QStringLiteral("open “%1”").arg(path), errno);
     }
-    ~InputFile() { ::close(m_descriptor); }
-
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
 
     /// Gives the number of bytes read; 0 at the end.
     std::size_t read(char* buffer, std::size_t size)
     {
         while (true) {
-            const auto count = ::read(m_descriptor, buffer, size);
+            const auto count = ::read(m_descriptor.get(), buffer, size);
             if (count >= 0)
                 return static_cast<std::size_t>(count);
             if (errno != EINTR)
@@ -53,7 +50,7 @@ public:
 
 private:
     QString m_path;
-    int m_descriptor;
+    FileDescriptor m_descriptor;
 };
 
 class Hash final

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The layout is that of the zip format's specification (APPNOTE.TXT), 4.3.12 to 4.3.16.
+// The layout is that of APPNOTE.TXT, which defines the zip format, 4.3.12 to 4.3.16.
 constexpr qint64 endSize = 22;
 constexpr qint64 locatorSize = 20;
 constexpr qint64 end64Size = 56;

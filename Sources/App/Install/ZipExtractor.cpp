@@ -57,6 +57,7 @@ void unpack(const QString& archive, ZipTree& tree, const std::stop_token& stop)
 {
     ZipReader reader(archive);
     while (const auto entry = reader.next()) {
+        throwIfCancelled(stop);
         const auto place = ZipVetting::placeOf(*entry);
         switch (entry->kind) {
         case ZipEntry::Kind::File:
@@ -72,7 +73,7 @@ void unpack(const QString& archive, ZipTree& tree, const std::stop_token& stop)
             break;
         }
     }
-    tree.makeLinks();
+    tree.makeLinks(stop);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Install/ZipTree.h"
 
+#include "Platform/Cancelled.h"
 #include "Platform/PlatformError.h"
 
 #include <QFile>
@@ -33,14 +34,9 @@ ZipTree::ZipTree(const QString& destination)
     , m_folder(
           ::open(QFile::encodeName(destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
-    if (m_folder < 0)
+    if (!m_folder.isOpen())
         throw PlatformError::fromErrno(QStringLiteral("open the folder “%1”").arg(destination),
                                        errno);
-}
-
-ZipTree::~ZipTree()
-{
-    ::close(m_folder);
 }
 
 void ZipTree::makeFolder(const std::string& place)
@@ -50,9 +46,9 @@ void ZipTree::makeFolder(const std::string& place)
     const auto slash = place.rfind('/');
     if (slash != std::string::npos)
         makeFolder(place.substr(0, slash));
-    if (::mkdirat(m_folder, place.c_str(), executableMode) != 0) {
+    if (::mkdirat(m_folder.get(), place.c_str(), executableMode) != 0) {
         const auto reason = errno;
-        if (reason != EEXIST || !isFolder(m_folder, place))
+        if (reason != EEXIST || !isFolder(m_folder.get(), place))
             throw PlatformError::fromErrno(
                 QStringLiteral("create the folder “%1”").arg(QString::fromStdString(place)),
                 reason);
@@ -63,7 +59,7 @@ void ZipTree::makeFolder(const std::string& place)
 OutputFile ZipTree::makeFile(const QByteArray& place, bool executable)
 {
     makeFolderAbove(place);
-    return OutputFile(m_folder, place, executable ? executableMode : plainMode);
+    return OutputFile(m_folder.get(), place, executable ? executableMode : plainMode);
 }
 
 void ZipTree::addLink(const QByteArray& place, const QByteArray& target)
@@ -71,11 +67,12 @@ void ZipTree::addLink(const QByteArray& place, const QByteArray& target)
     m_links.push_back({place, target});
 }
 
-void ZipTree::makeLinks()
+void ZipTree::makeLinks(const std::stop_token& stop)
 {
     for (const auto& link : m_links) {
+        throwIfCancelled(stop);
         makeFolderAbove(link.place);
-        if (::symlinkat(link.target.constData(), m_folder, link.place.constData()) != 0)
+        if (::symlinkat(link.target.constData(), m_folder.get(), link.place.constData()) != 0)
             throw PlatformError::fromErrno(
                 QStringLiteral("create the link “%1”").arg(QFile::decodeName(link.place)), errno);
     }
@@ -84,7 +81,7 @@ void ZipTree::makeLinks()
 qint64 ZipTree::freeSpace() const
 {
     struct statvfs status = {};
-    if (::fstatvfs(m_folder, &status) != 0)
+    if (::fstatvfs(m_folder.get(), &status) != 0)
         throw PlatformError::fromErrno(
             QStringLiteral("read the free space of “%1”").arg(m_destination), errno);
     const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);

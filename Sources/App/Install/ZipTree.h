@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/FileDescriptor.h"
 #include "Platform/OutputFile.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <stop_token>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -19,10 +21,6 @@ class ZipTree final
 public:
     /// Below the existing folder `destination`. Throws PlatformError.
     explicit ZipTree(const QString& destination);
-    ~ZipTree();
-
-    ZipTree(const ZipTree&) = delete;
-    ZipTree& operator=(const ZipTree&) = delete;
 
     /// Makes the folder with missing parents; one that is there already will do. The empty place is
     /// the folder itself. Throws PlatformError.
@@ -33,8 +31,9 @@ public:
 
     void addLink(const QByteArray& place, const QByteArray& target);
 
-    /// Makes the links that were added. Throws PlatformError.
-    void makeLinks();
+    /// Makes the links that were added. Throws PlatformError, or Cancelled when `stop` is
+    /// requested.
+    void makeLinks(const std::stop_token& stop);
 
     /// The bytes that the file system has room for. Throws PlatformError.
     [[nodiscard]] qint64 freeSpace() const;
@@ -49,7 +48,7 @@ private:
     void makeFolderAbove(const QByteArray& place);
 
     QString m_destination;
-    int m_folder = -1;
+    FileDescriptor m_folder;
     std::unordered_set<std::string> m_made;
     std::vector<Link> m_links;
 };

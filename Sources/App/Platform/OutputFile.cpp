@@ -6,7 +6,6 @@
 #include <QFile>
 
 #include <cerrno>
-#include <utility>
 
 #include <unistd.h>
 
@@ -20,21 +19,15 @@ OutputFile::OutputFile(int folder, const QByteArray& name, mode_t mode)
     , m_descriptor(::openat(folder, name.constData(),
                             O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode))
 {
-    if (m_descriptor < 0)
+    if (!m_descriptor.isOpen())
         throw PlatformError::fromErrno(QStringLiteral("create “%1”").arg(shownName()), errno);
-}
-
-OutputFile::~OutputFile()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
 }
 
 void OutputFile::write(QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
         const auto written =
-            ::write(m_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
+            ::write(m_descriptor.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (written >= 0)
             bytes = bytes.sliced(written);
         else if (errno != EINTR)
@@ -45,7 +38,7 @@ void OutputFile::write(QByteArrayView bytes)
 void OutputFile::close()
 {
     // After an error, EINTR included, the descriptor is gone all the same.
-    if (::close(std::exchange(m_descriptor, -1)) != 0 && errno != EINTR)
+    if (::close(m_descriptor.release()) != 0 && errno != EINTR)
         throw PlatformError::fromErrno(QStringLiteral("write “%1”").arg(shownName()), errno);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/FileDescriptor.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -11,7 +13,8 @@
 /// A new regular file that is being written, straight through its descriptor.
 ///
 /// QFile's buffer lets a full disk go unnoticed until it is flushed; here each write that fails
-/// says so at once, and close() reports what the file system only tells at the end.
+/// says so at once, and close() reports what the file system only tells at the end. A file that was
+/// not closed when its writer goes stays, and the errors of its end are ignored.
 class OutputFile final
 {
 public:
@@ -20,12 +23,6 @@ public:
     explicit OutputFile(const QString& path, mode_t mode = 0644);
     /// The same for `name`, as the file system spells it, relative to the open folder `folder`.
     OutputFile(int folder, const QByteArray& name, mode_t mode);
-    /// Closes a file that is still open, ignoring errors. The file stays.
-    ~OutputFile();
-
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
-
     /// Writes all of `bytes`. Throws PlatformError, also when the disk is full.
     void write(QByteArrayView bytes);
 
@@ -36,5 +33,5 @@ private:
     [[nodiscard]] QString shownName() const;
 
     QByteArray m_name;
-    int m_descriptor = -1;
+    FileDescriptor m_descriptor;
 };
