@@ -53,8 +53,10 @@ TEST_F(LeftoversTest, areClearedWhereTheirOwnerIsGone)
     home.write(inRoot(QStringLiteral("Game/project.godot")));
     home.write(inRoot(QStringLiteral("Engine/3.5.3-stable/godot")));
     clear();
-    EXPECT_EQ(home.names(inRoot({})), (QStringList{QStringLiteral("Engine"), QStringLiteral("Game")}));
-    EXPECT_EQ(home.names(inRoot(QStringLiteral("Engine"))), QStringList{QStringLiteral("3.5.3-stable")});
+    EXPECT_EQ(home.names(inRoot({})),
+              (QStringList{QStringLiteral("Engine"), QStringLiteral("Game")}));
+    EXPECT_EQ(home.names(inRoot(QStringLiteral("Engine"))),
+              QStringList{QStringLiteral("3.5.3-stable")});
     EXPECT_TRUE(home.exists(inRoot(QStringLiteral("Game/project.godot"))));
     EXPECT_TRUE(home.exists(inRoot(QStringLiteral("Engine/3.5.3-stable/godot"))));
     EXPECT_TRUE(home.names(QStringLiteral("tmp")).isEmpty());
@@ -62,14 +64,15 @@ TEST_F(LeftoversTest, areClearedWhereTheirOwnerIsGone)
 
 TEST_F(LeftoversTest, areNothingThatIsOnlyNamedAlike)
 {
-    const QStringList kept{inRoot(QStringLiteral("Game.new-of mine/file")),
-                           inRoot(QStringLiteral(".new-") + uuid + QStringLiteral("/file")),
-                           inRoot(QStringLiteral("Game.new-") + uuid + QStringLiteral(".bak/file")),
-                           inRoot(QStringLiteral("Game.new-") + uuid.toLower() + QStringLiteral("/f")),
-                           inRoot(QStringLiteral("Other/Game.new-") + uuid + QStringLiteral("/file")),
-                           QStringLiteral("tmp/CavernyxPlatformer-mine/file"),
-                           QStringLiteral("tmp/Game.new-") + uuid + QStringLiteral("/file"),
-                           QStringLiteral("tmp/My CavernyxPlatformer-") + uuid + QStringLiteral("/f")};
+    const QStringList kept{
+        inRoot(QStringLiteral("Game.new-of mine/file")),
+        inRoot(QStringLiteral(".new-") + uuid + QStringLiteral("/file")),
+        inRoot(QStringLiteral("Game.new-") + uuid + QStringLiteral(".bak/file")),
+        inRoot(QStringLiteral("Game.new-") + uuid.toLower() + QStringLiteral("/f")),
+        inRoot(QStringLiteral("Other/Game.new-") + uuid + QStringLiteral("/file")),
+        QStringLiteral("tmp/CavernyxPlatformer-mine/file"),
+        QStringLiteral("tmp/Game.new-") + uuid + QStringLiteral("/file"),
+        QStringLiteral("tmp/My CavernyxPlatformer-") + uuid + QStringLiteral("/f")};
     for (const auto& file : kept)
         home.write(file);
     clear();

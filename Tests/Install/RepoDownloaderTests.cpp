@@ -3,6 +3,7 @@
 
 #include "Support/Eventually.h"
 #include "Support/InstallTest.h"
+#include "Support/UnchangeableScope.h"
 #include "Support/ZipWriter.h"
 
 namespace {
@@ -134,6 +135,23 @@ TEST_F(RepoDownloaderTest, keepsTheOldGameWhenTheArchiveIsHostile)
     EXPECT_TRUE(lines().contains(
         QStringLiteral("The archive entry “../../evil” would lie outside the folder.")));
     EXPECT_FALSE(home.exists(QStringLiteral("data/evil")));
+    expectOldGame();
+}
+
+TEST_F(RepoDownloaderTest, reportsAnOldGameThatCannotBeRemoved)
+{
+    installOldGame();
+    serve(gameArchive());
+    const auto game = home.path(root(QStringLiteral("Game")));
+    const UnchangeableScope unchangeable(game);
+    if (!unchangeable.isInForce())
+        GTEST_SKIP() << "This user or file system can make no folder unchangeable.";
+
+    const auto outcome = fetch();
+
+    EXPECT_TRUE(outcome.isPlatformError);
+    EXPECT_EQ(outcome.sentence,
+              QStringLiteral("Could not remove “%1”: Operation not permitted.").arg(game));
     expectOldGame();
 }
 

@@ -10,6 +10,12 @@
 #include <QCryptographicHash>
 #include <QFile>
 
+#include <csignal>
+#include <stop_token>
+#include <thread>
+
+#include <sys/stat.h>
+
 TEST(Sha512, ofAnEmptyFileIsThatOfTheEmptyString)
 {
     const TestFolder folder;
@@ -47,7 +53,7 @@ TEST(Sha512, saysWhichFileCannotBeRead)
     }
 }
 
-TEST(Sha512, endsWithCancelled)
+TEST(Sha512, endsWithCancelledBeforehand)
 {
     const TestFolder folder;
     const auto file = folder.write(QStringLiteral("file"), "x");
@@ -55,4 +61,29 @@ TEST(Sha512, endsWithCancelled)
     stop.request_stop();
 
     EXPECT_THROW((void)EngineManager::sha512(file, stop.get_token()), Cancelled);
+}
+
+TEST(Sha512, endsWithCancelledInTheMiddleOfAFile)
+{
+    // Of a pipe it is certain how much has been read when the stop is requested.
+    const TestFolder folder;
+    const auto pipe = folder.path(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    std::stop_source stop;
+    std::jthread writing([&] {
+        const QByteArray large(1024 * 1024, 'x');
+        QFile file(pipe);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        EXPECT_EQ(file.write(large), large.size());
+        stop.request_stop();
+        // Until the reader has gone; were it to read on, it would come to the end of these.
+        for (int i = 0; i < 100 && file.write(large) == large.size(); ++i) {
+        }
+    });
+    const auto handlerBefore = ::signal(SIGPIPE, SIG_IGN);
+
+    EXPECT_THROW((void)EngineManager::sha512(pipe, stop.get_token()), Cancelled);
+
+    writing.join();
+    ::signal(SIGPIPE, handlerBefore);
 }

@@ -3,6 +3,7 @@
 
 #include "Platform/ExchangePaths.h"
 #include "Support/TestFolder.h"
+#include "Support/UnchangeableScope.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,11 @@
 #include <functional>
 #include <thread>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #if defined(Q_OS_LINUX)
-#include <linux/fs.h>
 #include <sched.h>
-#include <sys/ioctl.h>
 #include <sys/mount.h>
 #endif
 
@@ -43,18 +41,6 @@ bool becomeOrdinaryUser()
 {
     return ::getuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0);
 }
-
-#if defined(Q_OS_LINUX)
-bool setUnchangeable(const QString& path, bool isUnchangeable)
-{
-    const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
-    int flags = 0;
-    if (::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
-        return false;
-    flags = isUnchangeable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
-    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
-}
-#endif
 
 class TreeRemovalTest : public testing::Test
 {
@@ -196,12 +182,13 @@ TEST_F(TreeRemovalTest, reportsAnUnchangeableFileAndRemovesItWhenThatHasEnded)
 {
     const auto file = m_folder.write(QStringLiteral("Game/a/file"));
     m_folder.write(QStringLiteral("Game/b/file"));
-    if (!setUnchangeable(file, true))
-        GTEST_SKIP() << "This user or file system can make no file unchangeable.";
-
-    const auto obstacle = TreeRemoval::remove(m_target);
-
-    EXPECT_TRUE(setUnchangeable(file, false));
+    std::optional<TreeRemoval::Obstacle> obstacle;
+    {
+        const UnchangeableScope unchangeable(file);
+        if (!unchangeable.isInForce())
+            GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+        obstacle = TreeRemoval::remove(m_target);
+    }
     ASSERT_TRUE(obstacle);
     EXPECT_EQ(obstacle->path, file);
     EXPECT_EQ(obstacle->reason, QStringLiteral("Operation not permitted"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Support/InstallTest.h"
 
+#include <utility>
+
 InstallTest::InstallTest()
     : m_data("XDG_DATA_HOME", home.makeFolder(QStringLiteral("data")).toUtf8())
     , m_temporary("TMPDIR", home.makeFolder(QStringLiteral("temporary")).toUtf8())
@@ -11,10 +13,12 @@ InstallTest::InstallTest()
 LogCallback InstallTest::log()
 {
     return [this](const QString& line) {
-        const std::lock_guard lock(m_mutex);
-        m_lines.append(line);
-        if (!m_stopText.isEmpty() && line.contains(m_stopText))
-            stop.request_stop();
+        {
+            const std::lock_guard lock(m_mutex);
+            m_lines.append(line);
+        }
+        if (m_atLine && line.contains(m_lineText))
+            m_atLine();
     };
 }
 
@@ -24,9 +28,15 @@ QStringList InstallTest::lines()
     return m_lines;
 }
 
+void InstallTest::atLine(const QString& text, std::function<void()> action)
+{
+    m_lineText = text;
+    m_atLine = std::move(action);
+}
+
 void InstallTest::stopAtLine(const QString& text)
 {
-    m_stopText = text;
+    atLine(text, [this] { stop.request_stop(); });
 }
 
 QString InstallTest::root(const QString& relative)

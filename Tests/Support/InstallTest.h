@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <stop_token>
@@ -23,6 +24,8 @@ protected:
     LogCallback log();
     /// Everything logged so far.
     QStringList lines();
+    /// Does `action` when a line that contains `text` is logged, on the thread that logs it.
+    void atLine(const QString& text, std::function<void()> action);
     /// Requests the stop when a line that contains `text` is logged.
     void stopAtLine(const QString& text);
 
@@ -43,5 +46,6 @@ private:
     WebHostScope m_host;
     std::mutex m_mutex;
     QStringList m_lines;
-    QString m_stopText;
+    QString m_lineText;
+    std::function<void()> m_atLine;
 };

@@ -30,6 +30,7 @@ struct Job
     std::shared_ptr<FileDownloader> downloader;
     LogCallback log;
     std::stop_token stop;
+    EngineManager::QuarantineTool quarantineTool;
 };
 
 QString editionName(const EngineManager& manager)
@@ -105,7 +106,7 @@ QCoro::Task<QString> unpackAndPutInPlace(Job job, QString file, QString staging)
 {
     auto unpacking = Unzipper::unzip(file, staging, job.log, job.stop);
     co_await unpacking;
-    if (const auto tool = HostPlatform::clearQuarantineCommand(staging)) {
+    if (const auto tool = job.quarantineTool(staging)) {
         auto clearing = clearQuarantine(*tool, job.log, job.stop);
         co_await clearing;
     }
@@ -189,9 +190,11 @@ std::optional<QString> EngineManager::executable() const
 
 QCoro::Task<QString> EngineManager::install(std::shared_ptr<FileDownloader> downloader,
                                             LogCallback log, std::stop_token stop,
-                                            std::chrono::milliseconds stallLimit) const
+                                            std::chrono::milliseconds stallLimit,
+                                            QuarantineTool quarantineTool) const
 {
     // Not a coroutine itself: the record it is called on may be gone before the work is done.
-    Job job{*this, std::move(downloader), std::move(log), std::move(stop)};
+    Job job{*this, std::move(downloader), std::move(log), std::move(stop),
+            std::move(quarantineTool)};
     return installEngine(std::move(job), stallLimit);
 }

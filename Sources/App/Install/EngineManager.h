@@ -2,12 +2,15 @@
 #pragma once
 
 #include "Durations.h"
+#include "Platform/HostPlatform.h"
+#include "Platform/ToolCommand.h"
 #include "Process/LogCallback.h"
 
 #include <QCoroTask>
 #include <QString>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -18,6 +21,10 @@ class FileDownloader;
 /// its installation.
 struct EngineManager
 {
+    /// Gives the tool that clears the mark of a downloaded program from the folder it is given;
+    /// none on a system without such a mark.
+    using QuarantineTool = std::function<std::optional<ToolCommand>(const QString& folder)>;
+
     /// Whether the engine's C# edition is meant.
     bool mono = false;
 
@@ -44,8 +51,10 @@ struct EngineManager
     /// it in at folder(); gives its program. Until the swap an installed engine stays untouched,
     /// and no staging or temporary folder is left on any way out. Throws AppError, PlatformError,
     /// or Cancelled when `stop` is requested before the swap. Main thread; blocks nothing.
-    /// `stallLimit` bounds the silence of the server of the checksum list.
-    [[nodiscard]] QCoro::Task<QString> install(std::shared_ptr<FileDownloader> downloader,
-        LogCallback log, std::stop_token stop,
-        std::chrono::milliseconds stallLimit = Durations().transferStall) const;
+    /// `stallLimit` bounds the silence of the server of the checksum list; `quarantineTool` runs
+    /// between the unpacking and the swap.
+    [[nodiscard]] QCoro::Task<QString>
+    install(std::shared_ptr<FileDownloader> downloader, LogCallback log, std::stop_token stop,
+            std::chrono::milliseconds stallLimit = Durations().transferStall,
+            QuarantineTool quarantineTool = HostPlatform::clearQuarantineCommand) const;
 };

@@ -160,9 +160,13 @@ void HttpTransfer::replyFinished()
 
 void HttpTransfer::stalled()
 {
+    // Before the head has come, the time counts from the request, whatever drips in.
+    const auto sentence =
+        m_headRead
+            ? QStringLiteral("The download of “%1” stalled: %2 sent nothing for %3 seconds.")
+            : QStringLiteral("The download of “%1” stalled: %2 did not answer within %3 seconds.");
     fail(std::make_exception_ptr(PlatformError(
-        QStringLiteral("The download of “%1” stalled: %2 sent nothing for %3 seconds.")
-            .arg(m_url.toDisplayString(), m_reply->url().host(), inSeconds(m_stallLimit)))));
+        sentence.arg(m_url.toDisplayString(), m_reply->url().host(), inSeconds(m_stallLimit)))));
 }
 
 void HttpTransfer::complete()
@@ -204,4 +208,5 @@ void HttpTransfer::closeConnection()
     std::exchange(m_connection, nullptr)->deleteLater();
     m_reply = nullptr;
     m_stallTimer = nullptr;
+    m_buffer.clear();
 }

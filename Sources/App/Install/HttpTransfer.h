@@ -10,7 +10,6 @@
 #include <memory>
 
 class HttpReceiver;
-class QNetworkAccessManager;
 class QNetworkReply;
 class QObject;
 class QTimer;
@@ -24,8 +23,9 @@ class HttpTransfer final : public std::enable_shared_from_this<HttpTransfer>
 {
 public:
     /// Starts the transfer of `url` into `receiver`. It fails with a PlatformError when the network
-    /// fails, or when the server is silent for `stallLimit`. The transfer keeps itself alive until
-    /// it has ended, and `receiver` is released on the network thread before that.
+    /// fails, or when the server does not answer within `stallLimit` or is silent for so long. The
+    /// transfer keeps itself alive until it has ended, and `receiver` is released on the network
+    /// thread before that.
     static std::shared_ptr<HttpTransfer> start(const QUrl& url,
                                                std::unique_ptr<HttpReceiver> receiver,
                                                std::chrono::milliseconds stallLimit);

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A file or folder that nobody may change or remove, the administrator included, while this lives.
+/// Only the administrator can make one, and not on every system.
+class UnchangeableScope final
+{
+public:
+    explicit UnchangeableScope(const QString& path);
+    ~UnchangeableScope();
+
+    UnchangeableScope(const UnchangeableScope&) = delete;
+    UnchangeableScope& operator=(const UnchangeableScope&) = delete;
+
+    /// Whether the system let it be made so.
+    [[nodiscard]] bool isInForce() const { return m_isInForce; }
+
+private:
+    bool set(bool isUnchangeable);
+
+    const QString m_path;
+    const bool m_isInForce;
+};
