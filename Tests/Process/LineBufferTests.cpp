@@ -102,6 +102,14 @@ TEST(LineBuffer, keepsAByteOrderMarkWhereverItIsAndHoweverItIsCut)
     }
 }
 
+TEST(LineBuffer, readsALineOfNothingButByteOrderMarks)
+{
+    LineBuffer buffer;
+    const auto lines = buffer.append(QByteArray("\xef\xbb\xbf").repeated(1'000'000) + '\n');
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_EQ(lines[0], QString(1'000'000, QChar::ByteOrderMark));
+}
+
 TEST(LineBuffer, givesTheSameLinesHoweverTheBytesAreCut)
 {
     const QByteArray bytes(

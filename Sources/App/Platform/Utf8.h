@@ -10,7 +10,9 @@
 inline QString decodedUtf8(QByteArrayView bytes)
 {
     constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
-    if (!bytes.startsWith(byteOrderMark))
-        return QString::fromUtf8(bytes);
-    return QChar(QChar::ByteOrderMark) + decodedUtf8(bytes.sliced(byteOrderMark.size()));
+    qsizetype marks = 0;
+    for (; bytes.startsWith(byteOrderMark); ++marks)
+        bytes = bytes.sliced(byteOrderMark.size());
+    const auto text = QString::fromUtf8(bytes);
+    return marks == 0 ? text : QString(marks, QChar::ByteOrderMark) + text;
 }
