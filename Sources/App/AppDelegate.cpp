@@ -52,6 +52,11 @@ void AppDelegate::terminate()
     beginToQuit();
 }
 
+void AppDelegate::expectSessionEnd()
+{
+    m_sessionEnds = true;
+}
+
 void AppDelegate::beginToQuit()
 {
     m_quitting = true;
@@ -67,11 +72,13 @@ void AppDelegate::activate(const QByteArray& activationToken)
 {
     if (m_quitting)
         return;
-    // This is where Qt looks for it, and only there.
+    // This is where Qt looks for it, and only there. No program started later may inherit it.
+    constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
     if (!activationToken.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+        qputenv(tokenVariable, activationToken);
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     applicationDidFinishLaunching();
+    qunsetenv(tokenVariable);
 }
 
 bool AppDelegate::eventFilter(QObject* object, QEvent* event)
@@ -80,7 +87,9 @@ bool AppDelegate::eventFilter(QObject* object, QEvent* event)
     const auto quits = object == qApp && event->type() == QEvent::Quit;
     if (!closes && !quits)
         return QObject::eventFilter(object, event);
-    event->setAccepted(applicationShouldTerminate());
+    if (quits && m_sessionEnds)
+        terminate();
+    event->setAccepted(m_quitting || applicationShouldTerminate());
     return true;
 }
 

@@ -22,10 +22,14 @@ public:
     /// Asks the model whether the program may quit, and if so begins to. False when the player
     /// declined; the window then stays.
     bool applicationShouldTerminate();
-    /// Begins to quit without a question: the session or the system wants the program gone.
+    /// Begins to quit without a question: the system wants the program gone.
     void terminate();
+    /// The session is about to end, unless another program keeps it from that. When the application
+    /// is told to quit then, it is the session's end, and no question is asked.
+    void expectSessionEnd();
     /// Brings the window to the front, as another start of the program asks. By `activationToken`,
-    /// if it gave one, the desktop knows that the player wanted this.
+    /// if it gave one, a Wayland desktop knows that the player wanted this; another desktop may
+    /// only mark the window as wanting attention.
     void activate(const QByteArray& activationToken);
 
 Q_SIGNALS:
@@ -43,4 +47,5 @@ private:
     QWidget& m_window;
     bool m_asking = false;
     bool m_quitting = false;
+    bool m_sessionEnds = false;
 };

@@ -191,7 +191,7 @@ private:
     bool m_cancelled = false;
     bool m_forceGameDownload = false;
 
-    /// Measuring is never in the way of the flow: it has a thread of its own, of low priority.
+    /// Measuring never keeps the flow waiting for a thread: it has one of its own.
     QThreadPool m_sizePool;
     std::stop_source m_sizeStop;
     int m_sizesStarted = 0;

@@ -41,8 +41,9 @@ void removeAtOnceQuietly(const QString& folder)
 void removeInstallation(const QString& root)
 {
     if (!QFileInfo(root).isSymLink()) {
-        removeAtOnce(Paths::game());
-        removeAtOnce(Paths::engines());
+        // The removal of the root says what stayed.
+        removeAtOnceQuietly(Paths::game());
+        removeAtOnceQuietly(Paths::engines());
     }
     FileTree::remove(root);
 }
@@ -119,6 +120,7 @@ QCoro::Task<> AppModel::deleteEverything(std::stop_token)
         co_await removal;
     } catch (const std::exception& error) {
         fail(QStringLiteral("Could not remove the files: ") + QString::fromUtf8(error.what()));
+        updateSize();
         co_return;
     }
     m_log.clear();

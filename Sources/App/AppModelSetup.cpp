@@ -121,11 +121,12 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
     const auto search =
         offThread([game = Paths::game()] { return ProjectInspector::findProject(game); });
     const auto installed = co_await search;
-    throwIfCancelled(stop);
     if (installed && !m_forceGameDownload) {
         m_log.append(QStringLiteral("Step 1 of 4 · Game already downloaded, skipping."));
+        throwIfCancelled(stop);
         co_return *installed;
     }
+    throwIfCancelled(stop);
     m_forceGameDownload = false;
     enterDownloading(QStringLiteral("Step 1 of 4 · Downloading the game"));
     m_downloader = makeDownloader();

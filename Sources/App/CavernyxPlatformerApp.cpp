@@ -23,10 +23,12 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <utility>
 
 namespace {
 
+std::mutex lockOfMessages;
 QStringList messagesAtStart;
 
 /// While the application starts, Qt's own words for a display that cannot be opened, and its abort,
@@ -49,6 +51,7 @@ public:
 private:
     static void handle(QtMsgType type, const QMessageLogContext&, const QString& message)
     {
+        const std::lock_guard guard(lockOfMessages);
         messagesAtStart.append(message);
         if (type != QtFatalMsg)
             return;
@@ -165,10 +168,15 @@ int CavernyxPlatformerApp::run()
 
 int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
 {
-    Leftovers::clear(session());
+    auto clearing = Leftovers::clear(session());
+    auto& model = AppModel::shared();
+    clearing.then(&model, [&model](bool anyRemoved) {
+        if (anyRemoved)
+            model.updateSize();
+    });
     ColorScheme colorScheme;
-    ContentView window(AppModel::shared());
-    AppDelegate delegate(AppModel::shared(), window);
+    ContentView window(model);
+    AppDelegate delegate(model, window);
     const TerminationSignals terminationSignals;
 
     QObject::connect(&instance, &SingleInstance::activated, &delegate, &AppDelegate::activate);
@@ -177,7 +185,7 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
     QObject::connect(&terminationSignals, &TerminationSignals::received, &delegate,
                      &AppDelegate::terminate);
     QObject::connect(&m_application, &QGuiApplication::commitDataRequest, &delegate,
-                     &AppDelegate::terminate, Qt::DirectConnection);
+                     &AppDelegate::expectSessionEnd, Qt::DirectConnection);
 
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();

@@ -7,12 +7,14 @@
 #include <QDeadlineTimer>
 #include <QLocalSocket>
 
+#include <algorithm>
 #include <thread>
 
 #include <sys/socket.h>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
+using std::chrono::milliseconds;
 
 namespace {
 
@@ -43,7 +45,7 @@ SingleInstance::SingleInstance(SessionLock& lock, const QString& name)
     : m_lock(lock)
     , m_name(name)
 {
-    // An address that is not a file cannot be left behind.
+    // Where the system has addresses that are not files.
     m_server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (auto* const caller = m_server.nextPendingConnection())
@@ -56,15 +58,15 @@ QString SingleInstance::addressOf(const QString& lockFile)
     const auto key = QCryptographicHash::hash(lockFile.toUtf8(), QCryptographicHash::Sha256);
     return QStringLiteral("cavernyx-platformer-%1-%2")
         .arg(::geteuid())
-        .arg(QString::fromLatin1(key.toHex().first(32)));
+        .arg(QString::fromLatin1(key.toHex().first(16)));
 }
 
 SingleInstance::Start SingleInstance::start(const QByteArray& activationToken,
-                                            std::chrono::milliseconds patience)
+                                            milliseconds patience)
 {
     const QDeadlineTimer deadline(patience);
     while (!m_lock.claim()) {
-        if (handOver(activationToken))
+        if (handOver(activationToken, deadline))
             return Start::HandedOver;
         if (deadline.hasExpired())
             return Start::NoAnswer;
@@ -74,12 +76,14 @@ SingleInstance::Start SingleInstance::start(const QByteArray& activationToken,
     return Start::First;
 }
 
-bool SingleInstance::handOver(const QByteArray& activationToken)
+bool SingleInstance::handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline)
 {
+    const auto wait = static_cast<int>(
+        std::clamp<qint64>(deadline.remainingTime(), 1, milliseconds(answerTime).count()));
+
     QLocalSocket socket;
     socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
     socket.connectToServer(m_name);
-    constexpr auto wait = static_cast<int>(std::chrono::milliseconds(answerTime).count());
     if (!socket.waitForConnected(wait) || !isOwnUser(socket))
         return false;
     socket.write(activationToken + '\n');
@@ -88,6 +92,8 @@ bool SingleInstance::handOver(const QByteArray& activationToken)
 
 void SingleInstance::listen()
 {
+    // Where an address is a file, one may be left of a launcher that was killed.
+    QLocalServer::removeServer(m_name);
     // Where that fails, a later launcher is not answered, and says so.
     m_server.listen(m_name);
 }
@@ -95,6 +101,10 @@ void SingleInstance::listen()
 void SingleInstance::stopListening()
 {
     m_server.close();
+    // Also those who have called already.
+    const auto callers = m_server.findChildren<QLocalSocket*>();
+    for (auto* const caller : callers)
+        caller->abort();
 }
 
 void SingleInstance::serve(QLocalSocket* caller)

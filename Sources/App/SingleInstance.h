@@ -7,6 +7,7 @@
 
 #include <chrono>
 
+class QDeadlineTimer;
 class QLocalSocket;
 class SessionLock;
 
@@ -50,7 +51,7 @@ Q_SIGNALS:
     void activated(const QByteArray& activationToken);
 
 private:
-    bool handOver(const QByteArray& activationToken);
+    bool handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline);
     void listen();
     void serve(QLocalSocket* caller);
 

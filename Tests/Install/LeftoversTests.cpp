@@ -4,18 +4,15 @@
 #include "Install/Paths.h"
 #include "Install/TemporaryFolder.h"
 #include "Platform/SessionLock.h"
+#include "Support/Await.h"
 #include "Support/EnvironmentScope.h"
+#include "Support/ForkedProcess.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QThreadPool>
 
-#include <csignal>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -26,11 +23,8 @@ class LeftoversTest : public testing::Test
 protected:
     LeftoversTest() { session.claim(); }
 
-    void clear() const
-    {
-        Leftovers::clear(session);
-        QThreadPool::globalInstance()->waitForDone();
-    }
+    /// Whether the root is changed.
+    bool clear() const { return Leftovers::clear(session).result(); }
 
     /// The path of something in the storage root, relative to the home.
     static QString inRoot(const QString& name)
@@ -52,7 +46,8 @@ TEST_F(LeftoversTest, areClearedWhereTheirOwnerIsGone)
     home.write(QStringLiteral("tmp/CavernyxPlatformer-") + uuid + QStringLiteral("/half.zip"));
     home.write(inRoot(QStringLiteral("Game/project.godot")));
     home.write(inRoot(QStringLiteral("Engine/3.5.3-stable/godot")));
-    clear();
+    EXPECT_TRUE(clear());
+    EXPECT_FALSE(clear()) << "nothing is left";
     EXPECT_EQ(home.names(inRoot({})),
               (QStringList{QStringLiteral("Engine"), QStringLiteral("Game")}));
     EXPECT_EQ(home.names(inRoot(QStringLiteral("Engine"))),
@@ -107,41 +102,31 @@ TEST_F(LeftoversTest, stayWithoutTheClaimOrWhileAGameRuns)
     const auto staging = inRoot(QStringLiteral("Game.new-") + uuid + QStringLiteral("/file"));
     home.write(staging);
     const SessionLock unclaimed(home.path(QStringLiteral("another lock")));
-    Leftovers::clear(unclaimed);
-    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_FALSE(Leftovers::clear(unclaimed).result());
     EXPECT_TRUE(home.exists(staging));
 
-    const auto game = ::fork();
-    if (game == 0) {
-        SessionLock::holdAsGame(session.descriptor());
-        ::pause();
-    }
-    while (!session.isGameRunning())
-        ::usleep(1000);
+    ForkedProcess game([this] { SessionLock::holdAsGame(session.descriptor()); });
+    ASSERT_TRUE(waitUntil([this] { return session.isGameRunning(); }));
     clear();
     EXPECT_TRUE(home.exists(staging));
-    ::kill(game, SIGKILL);
-    ::waitpid(game, nullptr, 0);
+    game.kill();
     clear();
     EXPECT_FALSE(home.exists(staging));
 }
 
 TEST_F(LeftoversTest, areNotTheFoldersThatAreJustBeingMade)
 {
-    const auto cleaner = ::fork();
-    if (cleaner == 0) {
+    const ForkedProcess cleaner([] {
         while (true) {
             const auto folders = Paths::tempDirs();
             for (const auto& folder : folders)
                 TemporaryFolder::removeIfAbandoned(folder);
         }
-    }
+    });
     for (int i = 0; i < 2000; ++i) {
         const auto folder = Paths::newTempDir();
         ASSERT_TRUE(QFile::exists(folder.path()));
     }
-    ::kill(cleaner, SIGKILL);
-    ::waitpid(cleaner, nullptr, 0);
 }
 
 } // namespace

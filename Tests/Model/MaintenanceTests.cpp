@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/ForkedProcess.h"
 #include "Support/ModelTest.h"
 
 #include <QTest>
 
-#include <csignal>
-#include <utility>
-
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -64,27 +61,12 @@ class GameLeftRunning : public ModelTest
 protected:
     GameLeftRunning()
     {
-        m_game = ::fork();
-        if (m_game == 0) {
-            SessionLock::holdAsGame(session.descriptor());
-            ::pause();
-        }
         EXPECT_TRUE(QTest::qWaitFor([this] { return session.isGameRunning(); }));
         installGame();
         installEngine("exit 0");
         writeMarker();
         startModel();
     }
-    ~GameLeftRunning() override { endGame(); }
-
-    void endGame()
-    {
-        if (m_game <= 0)
-            return;
-        ::kill(m_game, SIGKILL);
-        ::waitpid(std::exchange(m_game, 0), nullptr, 0);
-    }
-
     void expectRefusal(void (AppModel::*action)())
     {
         model().refreshState();
@@ -98,8 +80,7 @@ protected:
                       "Error: The game is still running from an earlier start. Close it first."));
     }
 
-private:
-    pid_t m_game = 0;
+    ForkedProcess game{[this] { SessionLock::holdAsGame(session.descriptor()); }};
 };
 
 TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
@@ -111,7 +92,7 @@ TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
     EXPECT_TRUE(desktop.questions.isEmpty());
     EXPECT_TRUE(home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable")));
 
-    endGame();
+    game.kill();
     model().removeEverything();
     waitForFlow();
     EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));

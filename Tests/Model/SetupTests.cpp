@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Support/BusyPool.h"
 #include "Support/HttpServer.h"
 #include "Support/ModelTest.h"
 #include "Support/WebHostScope.h"
@@ -340,8 +341,11 @@ TEST_F(Setup, removesTheMarkerBeforeAnImport)
 TEST_F(Setup, downloadsAnewAfterAnUpdateWasCancelledInItsSilentChecks)
 {
     playToTheEnd();
-    model().updateGame();
-    model().cancelSetup();
+    {
+        const BusyPool busy;
+        model().updateGame();
+        model().cancelSetup();
+    }
     waitForFlow();
     serveGame("config_version=4\nconfig/name=\"Newer\"\n");
     playToTheEnd();
@@ -387,10 +391,13 @@ TEST_F(Setup, cancelsDuringTheImportAndEndsTheEngine)
 
 TEST_F(Setup, cancelsAlreadyInItsSilentChecks)
 {
-    model().play();
-    EXPECT_TRUE(model().isBusy());
-    EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    model().cancelSetup();
+    {
+        const BusyPool busy;
+        model().play();
+        EXPECT_TRUE(model().isBusy());
+        EXPECT_EQ(model().phase(), Phase::notDownloaded());
+        model().cancelSetup();
+    }
     waitForFlow();
     expectNothingInstalled();
     EXPECT_TRUE(server.requests().isEmpty());

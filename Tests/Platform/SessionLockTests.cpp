@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -140,10 +142,16 @@ TEST_F(SessionLockTest, leavesNoFileBehind)
 
 TEST_F(SessionLockTest, leavesTheFileOfAnotherLauncherAlone)
 {
-    SessionLock lock(m_path);
-    ASSERT_TRUE(lock.claim());
-    EXPECT_EQ(otherClaims(), 0);
-    EXPECT_TRUE(m_folder.exists(QStringLiteral("new folder/lock")));
+    {
+        SessionLock lock(m_path);
+        ASSERT_TRUE(lock.claim());
+        EXPECT_EQ(otherClaims(), 0);
+        EXPECT_TRUE(m_folder.exists(QStringLiteral("new folder/lock")));
+        ASSERT_TRUE(QFile::remove(m_path));
+        m_folder.write(QStringLiteral("new folder/lock"));
+    }
+    EXPECT_TRUE(m_folder.exists(QStringLiteral("new folder/lock")))
+        << "somebody removed the file, and another launcher made a new one";
 }
 
 TEST_F(SessionLockTest, isClaimedOnTheFileThatIsThereNow)

@@ -23,14 +23,16 @@ QStringList abandonedStagingFolders(const SessionLock& session)
 
 } // namespace
 
-void Leftovers::clear(const SessionLock& session)
+QFuture<bool> Leftovers::clear(const SessionLock& session)
 {
-    // Listed at once: what appears later is this program's own.
-    offThread([stagingFolders = abandonedStagingFolders(session)] {
+    // The staging folders are listed at once: what appears later is this program's own. The
+    // temporary ones have their locks.
+    return offThread([stagingFolders = abandonedStagingFolders(session)] {
         for (const auto& folder : stagingFolders)
             FileTree::removeQuietly(folder);
         const auto temporaryFolders = Paths::tempDirs();
         for (const auto& folder : temporaryFolders)
             TemporaryFolder::removeIfAbandoned(folder);
+        return !stagingFolders.isEmpty();
     });
 }

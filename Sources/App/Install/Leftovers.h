@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFuture>
+
 class SessionLock;
 
 /// What launchers that were killed have left behind: the folders they were putting together or
@@ -8,10 +10,10 @@ class SessionLock;
 namespace Leftovers {
 
 /// Clears it away, on the thread pool; what cannot be removed stays. For the start of the program,
-/// before it makes such folders of its own.
+/// before it makes such folders of its own. Gives whether the storage root is changed by that.
 ///
 /// Staging folders are nobody's, and go, when `session` is claimed and no game runs. Of the
 /// temporary folders those of this user go whose owner is gone.
-void clear(const SessionLock& session);
+QFuture<bool> clear(const SessionLock& session);
 
 } // namespace Leftovers

@@ -46,7 +46,7 @@ SessionLock::~SessionLock()
 {
     // The file goes before the lock does: whoever waits for the lock finds it gone then, and makes
     // a new one.
-    if (m_isClaimed && !isGameRunning())
+    if (m_isClaimed && isStillThere() && !isGameRunning())
         QFile::remove(m_path);
 }
 

@@ -10,9 +10,9 @@
 class QSocketNotifier;
 
 /// Turns the signals by which a system asks a program to leave (SIGTERM, SIGINT and SIGHUP) into a
-/// Qt signal on the thread this lives on. One that was ignored when the program started, as nohup
-/// does, stays ignored. At most one of these exists at a time; while it
-/// lives, they have no other effect.
+/// Qt signal on the thread this lives on; while it lives, they have no other effect. One that was
+/// ignored when the program started, as nohup does, stays ignored. At most one of these exists at a
+/// time.
 class TerminationSignals final : public QObject
 {
     Q_OBJECT

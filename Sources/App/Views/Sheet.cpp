@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QLayout>
+#include <QShowEvent>
 
 namespace {
 
@@ -35,7 +36,7 @@ void Sheet::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     // Where no key that was meant for the window changes anything.
-    if (m_done)
+    if (m_done && !event->spontaneous())
         m_done->setFocus(Qt::OtherFocusReason);
 }
 

@@ -1,35 +1,42 @@
 # SPDX-License-Identifier: MIT
-"""The signals by which a system ends a program, and the end of the session, leave nothing behind
-and ask nothing: not during a download, not during the import, not while the game runs."""
+"""The signals by which a system ends a program leave nothing behind and ask nothing: not during a
+download, not during the import, not while the game runs, not even while a question stands."""
 
 import signal
 
-from rig import engine
+from rig import setup
+from rig.launcher import TITLE
 from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine(imports=engine.HANGS)
-    world.web.start(branch_rate="20k")
-    launcher = world.open_launcher()
-    launcher.press("Play")
-    launcher.wait_for_label("Step 1 of 4 · Downloading the game")
-    wait_for("The temporary folder", lambda: any(world.home.temporary.iterdir()))
+    setup.offer(world)
+    setup.play_until(world, setup.GAME)
     expect_end(world, signal.SIGTERM)
     assert not world.home.game.exists()
 
     world.web.stop()
-    world.web.start()
-    launcher = world.open_launcher()
-    launcher.press("Play")
-    launcher.wait_for_log_line("Working on it.")
+    setup.play_until(world, setup.IMPORT)
     expect_end(world, signal.SIGHUP)
     assert not world.home.marker().exists()
 
     world.offer_scripted_engine()
     play_from_a_new_engine(world)
     expect_end(world, signal.SIGINT)
+    assert world.home.marker().exists()
+
+    launcher = world.open_launcher()
+    launcher.open_settings().press("Reinstall")
+    launcher.wait_for_alert()
+    expect_end(world, signal.SIGTERM)
+    assert world.home.marker().exists()
+
+    launcher = world.open_launcher()
+    launcher.press("Play")
+    launcher.wait_for_label("Starting…")
+    world.desktop.close(TITLE)
+    launcher.wait_for_alert()
+    expect_end(world, signal.SIGTERM)
     assert world.home.marker().exists()
 
 

@@ -5,7 +5,7 @@ outlives it, and a game that does is left alone until it is closed."""
 import os
 import signal
 
-from rig import engine
+from rig import setup
 from rig.expect import expect_failure
 from rig.waiting import wait_for
 
@@ -13,19 +13,15 @@ LEFT_RUNNING = "The game is still running from an earlier start. Close it first.
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine(imports=engine.HANGS)
-    world.web.start(branch_rate="20k")
+    setup.offer(world)
     kill_during_the_download(world)
     kill_during_the_import(world)
     kill_during_the_game(world)
 
 
 def kill_during_the_download(world):
-    launcher = world.open_launcher()
-    launcher.press("Play")
-    wait_for("The temporary folder", lambda: any(world.home.temporary.iterdir()))
-    launcher.kill()
+    setup.play_until(world, setup.GAME)
+    world.launcher.kill()
     half = world.home.root / "Game.new-01234567-89AB-CDEF-0123-456789ABCDEF"
     (half / "some folder").mkdir(parents=True)
     foreign = world.home.temporary / "somebody's"

@@ -4,17 +4,15 @@ in the same instant one stays."""
 
 import time
 
+from rig import setup
 from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
-    world.web.start(branch_rate="20k")
-    launcher = world.open_launcher()
-    launcher.press("Play")
-    launcher.wait_for_label("Step 1 of 4 · Downloading the game")
-    under_way = wait_for("The temporary folder", lambda: list(world.home.temporary.iterdir()))
+    setup.offer(world)
+    setup.play_until(world, setup.GAME)
+    launcher = world.launcher
+    under_way = list(world.home.temporary.iterdir())
 
     second = world.start_launcher()
     assert second.wait_for_end() == 0

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSemaphore>
+#include <QThreadPool>
+
+/// Keeps every thread of the program's pool busy for as long as it lives, so that what is handed to
+/// the pool meanwhile has to wait.
+class BusyPool final
+{
+public:
+    BusyPool()
+    {
+        for (int i = 0; i < m_threads; ++i)
+            QThreadPool::globalInstance()->start([this] { m_end.acquire(); });
+    }
+    ~BusyPool()
+    {
+        m_end.release(m_threads);
+        QThreadPool::globalInstance()->waitForDone();
+    }
+
+    BusyPool(const BusyPool&) = delete;
+    BusyPool& operator=(const BusyPool&) = delete;
+
+private:
+    const int m_threads = QThreadPool::globalInstance()->maxThreadCount();
+    QSemaphore m_end;
+};

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <csignal>
+#include <functional>
+
+#include <sys/wait.h>
+#include <unistd.h>
+#if defined(__linux__)
+#include <sys/prctl.h>
+#endif
+
+/// A copy of the test that does `work` and then waits to be killed, at the latest by this object or
+/// by the test's own end.
+class ForkedProcess final
+{
+public:
+    explicit ForkedProcess(const std::function<void()>& work)
+        : m_id(::fork())
+    {
+        if (m_id != 0)
+            return;
+#if defined(__linux__)
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+#endif
+        work();
+        while (true)
+            ::pause();
+    }
+    ~ForkedProcess() { kill(); }
+
+    ForkedProcess(const ForkedProcess&) = delete;
+    ForkedProcess& operator=(const ForkedProcess&) = delete;
+
+    /// Kills it and waits for its end.
+    void kill()
+    {
+        if (m_id <= 0)
+            return;
+        ::kill(m_id, SIGKILL);
+        ::waitpid(m_id, nullptr, 0);
+        m_id = -1;
+    }
+
+private:
+    pid_t m_id;
+};
