@@ -5,6 +5,7 @@
 #include "Views/Glyphs.h"
 #include "Views/SystemColors.h"
 
+#include <QDialog>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -121,6 +122,15 @@ QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part)
     }
 }
 
+void paintDialogEdge(QPainter& painter, const QStyleOption& option)
+{
+    const auto text = option.palette.color(QPalette::WindowText);
+    const auto edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(SystemColors::withOpacity(text, 0.22));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(edge);
+}
+
 } // namespace
 
 LauncherStyle::LauncherStyle()
@@ -164,10 +174,21 @@ void LauncherStyle::drawItemText(QPainter* painter, const QRect& rect, int flags
     QProxyStyle::drawItemText(painter, rect, flags, secondary, enabled, text, role);
 }
 
+void LauncherStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // Only then is the background asked for as PE_Widget.
+    if (qobject_cast<QDialog*>(widget))
+        widget->setAttribute(Qt::WA_StyledBackground);
+}
+
 void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const
 {
     switch (element) {
+    case PE_Widget:
+        paintDialogEdge(*painter, *option);
+        return;
     case PE_PanelButtonCommand:
         if (isDefaultButton(*option))
             ControlFace::paintProminent(*painter, option->rect, option->state, option->palette,

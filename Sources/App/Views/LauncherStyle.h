@@ -21,6 +21,10 @@ public:
     /// Light or dark as the platform's own theme would have it.
     [[nodiscard]] QPalette standardPalette() const override;
 
+    using QProxyStyle::polish;
+    /// Sheets and alerts get an edge of their own: not every desktop draws one around them.
+    void polish(QWidget* widget) override;
+
     /// Text in the role PlaceholderText is drawn in the secondary text colour.
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
                       bool enabled, const QString& text, QPalette::ColorRole role) const override;
