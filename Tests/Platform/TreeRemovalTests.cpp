@@ -123,6 +123,23 @@ TEST_F(TreeRemovalTest, unlocksTheUsersOwnFolders)
     EXPECT_TRUE(m_folder.names().isEmpty());
 }
 
+TEST_F(TreeRemovalTest, needsNotReadTheFolderThatHoldsWhatIsRemoved)
+{
+    setMode({}, 0777);
+    EXPECT_EQ(inAnotherProcess([this] {
+                  if (!becomeOrdinaryUser())
+                      return skipped;
+                  m_folder.write(QStringLiteral("unreadable/Game/file"));
+                  setMode(QStringLiteral("unreadable"), 0300);
+                  const auto obstacle =
+                      TreeRemoval::remove(m_folder.path(QStringLiteral("unreadable/Game")));
+                  setMode(QStringLiteral("unreadable"), 0700);
+                  return obstacle ? 1 : 0;
+              }),
+              0);
+    EXPECT_TRUE(m_folder.names(QStringLiteral("unreadable")).isEmpty());
+}
+
 TEST_F(TreeRemovalTest, namesTheFirstThingInItsWayAndRemovesTheRest)
 {
     if (::getuid() != 0)

@@ -19,6 +19,13 @@ namespace {
 
 const auto mountedThere = QStringLiteral("another file system is mounted there");
 
+/// Opens a folder that need not be readable.
+#if defined(O_PATH)
+constexpr auto searchOnly = O_PATH;
+#else
+constexpr auto searchOnly = O_SEARCH;
+#endif
+
 struct CloseListing
 {
     void operator()(DIR* listing) const { ::closedir(listing); }
@@ -108,7 +115,7 @@ TreeRemoval::TreeRemoval(const QString& path)
 void TreeRemoval::run(const std::string& name)
 {
     m_parent = FileDescriptor(
-        ::open(QFile::encodeName(m_parentPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        ::open(QFile::encodeName(m_parentPath).constData(), searchOnly | O_DIRECTORY | O_CLOEXEC));
     if (!m_parent.isOpen()) {
         if (errno != ENOTDIR)
             report(name, errno);
