@@ -131,10 +131,7 @@ TEST_P(Gallery, showsTheState)
 {
     state().enter(model());
     settle();
-    // The screen without a display is small. As high as its content, so that nothing of it is left
-    // out.
-    window().setMinimumSize(ContentView::leastSize);
-    settle();
+    // As high as its content, so that nothing of it is left out.
     window().resize(window().width(), window().widget()->height());
     save(window(), state().name);
 }

@@ -17,7 +17,6 @@ class LogViewTest : public ViewTest
 protected:
     LogViewTest()
     {
-        window().setMinimumSize(ContentView::leastSize);
         model().setShowLog(true);
         settle();
     }

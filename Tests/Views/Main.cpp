@@ -11,9 +11,10 @@
 int main(int argumentCount, char** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
-    // No display is needed, unless one is asked for.
+    // No display is needed, unless one is asked for, but a screen that the window fits
+    // on and a smaller one.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREENS_FILE);
     QApplication::setStyle(new LauncherStyle);
     const QApplication application(argumentCount, arguments);
     QApplication::setPalette(LauncherStyle::lightPalette());

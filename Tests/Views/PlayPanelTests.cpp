@@ -1,129 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
-#include "Views/ViewTest.h"
+#include "Views/PlayPanelTest.h"
 
-#include "Views/DisclosureButton.h"
 #include "Views/LogView.h"
-#include "Views/LongTextEdit.h"
-#include "Views/PlayButton.h"
-#include "Views/PlayPanel.h"
-#include "Views/ProgressBar.h"
 #include "Views/StatusDot.h"
 #include "Views/SystemColors.h"
-#include "Views/TextBox.h"
 
 #include <QLayout>
 #include <QTest>
 
-#include <ostream>
-
 namespace {
-
-using Color = QColor (*)(const QPalette&);
-
-/// What the panel shows in one phase.
-struct Row
-{
-    const char* name;
-    Phase phase;
-    bool stillStarting;
-    Color dot;
-    bool progress;
-    bool play;
-    bool stop;
-    bool cancel;
-};
-
-void PrintTo(const Row& row, std::ostream* stream)
-{
-    *stream << row.name;
-}
-
-const Row rows[]{
-    {"notDownloaded", Phase::notDownloaded(), false, SystemColors::gray, false, true, false, false},
-    {"downloading", Phase::downloading(), false, SystemColors::blue, true, false, false, true},
-    {"settingUp", Phase::settingUp(), false, SystemColors::blue, true, false, false, true},
-    {"ready", Phase::ready(), false, SystemColors::green, false, true, false, false},
-    {"starting", Phase::playing(), true, SystemColors::orange, false, false, true, false},
-    {"playing", Phase::playing(), false, SystemColors::green, false, false, true, false},
-    {"needs", Phase::needs(QStringLiteral("It broke.")), false, SystemColors::red, false, true,
-     false, false},
-};
-
-class PlayPanelTest : public ViewTest
-{
-protected:
-    PlayPanel& panel() { return only<PlayPanel>(); }
-    PlayButton& play() { return only<PlayButton>(); }
-    QAbstractButton& stop() { return *button(QStringLiteral("Stop")); }
-    QAbstractButton& cancel() { return *button(QStringLiteral("Cancel")); }
-    QAbstractButton& disclosure() { return only<DisclosureButton>(); }
-    ProgressBar& progress() { return only<ProgressBar>(); }
-
-    void enter(const Phase& phase)
-    {
-        AppModelAccess::setPhase(model(), phase);
-        settle();
-    }
-
-    bool showsFailure()
-    {
-        const auto* const box = window().findChild<TextBox*>();
-        return box && box->isVisible();
-    }
-    /// The report's box, which comes before that of the log.
-    TextBox& failure() { return only<TextBox>(); }
-};
-
-class EveryPhase : public PlayPanelTest, public testing::WithParamInterface<Row>
-{
-};
-
-TEST_P(EveryPhase, showsWhatBelongsToIt)
-{
-    AppModelAccess::setStillStarting(model(), GetParam().stillStarting);
-    enter(GetParam().phase);
-
-    EXPECT_EQ(only<StatusDot>().color(), GetParam().dot(window().palette()));
-    EXPECT_TRUE(label(model().statusTitle()));
-    EXPECT_TRUE(label(model().statusDetail()));
-    EXPECT_EQ(progress().isVisible(), GetParam().progress);
-    EXPECT_TRUE(play().isVisible());
-    EXPECT_EQ(play().isEnabled(), GetParam().play);
-    EXPECT_EQ(stop().isVisible(), GetParam().stop);
-    EXPECT_EQ(cancel().isVisible(), GetParam().cancel);
-    EXPECT_FALSE(showsFailure()) << "there is no report";
-    EXPECT_TRUE(disclosure().isVisible());
-}
-
-TEST_P(EveryPhase, saysTheStatusInWords)
-{
-    AppModelAccess::setStillStarting(model(), GetParam().stillStarting);
-    enter(GetParam().phase);
-    EXPECT_TRUE(only<StatusDot>().accessibleName().contains(model().statusTitle()));
-}
-
-TEST_P(EveryPhase, takesReturnForPlayOnlyWherePlayIsEnabled)
-{
-    enter(GetParam().phase);
-    auto presses = 0;
-    QObject::disconnect(&play(), &QPushButton::clicked, &model(), nullptr);
-    QObject::connect(&play(), &QPushButton::clicked, &play(), [&presses] { ++presses; });
-    auto expected = 0;
-    const auto controls = window().findChildren<QWidget*>();
-    for (auto* const control : controls) {
-        if (!control->isVisible() || !(control->focusPolicy() & Qt::TabFocus))
-            continue;
-        control->setFocus();
-        expected += GetParam().play ? 1 : 0;
-        QTest::keyClick(control, Qt::Key_Return);
-        EXPECT_EQ(presses, expected)
-            << qPrintable(control->accessibleName()) << control->metaObject()->className();
-    }
-    EXPECT_EQ(expected > 3, GetParam().play) << "Return is tried from several controls";
-}
-
-INSTANTIATE_TEST_SUITE_P(PlayPanel, EveryPhase, testing::ValuesIn(rows));
 
 TEST_F(PlayPanelTest, isPaddedBy14AndSpacedBy12)
 {
@@ -197,50 +82,6 @@ TEST_F(PlayPanelTest, takesNoSpaceForTheProgressOutsideSetup)
     enter(Phase::ready());
     const auto detail = place(*label(model().statusDetail()));
     EXPECT_EQ(place(play()).top() - detail.bottom() - 1, 12);
-}
-
-TEST_F(PlayPanelTest, scrollsALongReportInABoxOfOneHeight)
-{
-    enter(Phase::needs(QStringLiteral("It broke.")));
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened: it broke."));
-    settle();
-    ASSERT_TRUE(failure().isVisible());
-    EXPECT_EQ(failure().edit().height(), 170);
-    EXPECT_EQ(failure().height(), 170 + 2 * 6);
-    const auto height = panel().height();
-
-    AppModelAccess::setFailureText(model(), QStringLiteral("line\n").repeated(300));
-    settle();
-    EXPECT_EQ(panel().height(), height);
-    EXPECT_EQ(failure().edit().text(), QStringLiteral("line\n").repeated(300));
-}
-
-TEST_F(PlayPanelTest, showsAReportOnlyInNeeds)
-{
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened: it broke."));
-    enter(Phase::ready());
-    EXPECT_FALSE(showsFailure());
-    enter(Phase::needs(QStringLiteral("It broke.")));
-    EXPECT_TRUE(showsFailure());
-    enter(Phase::ready());
-    EXPECT_FALSE(showsFailure());
-}
-
-TEST_F(PlayPanelTest, letsTheReportBeSelectedButNotChanged)
-{
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened: it broke."));
-    enter(Phase::needs(QStringLiteral("It broke.")));
-    EXPECT_TRUE(failure().edit().isReadOnly());
-    EXPECT_TRUE(failure().edit().textInteractionFlags() & Qt::TextSelectableByMouse);
-    EXPECT_TRUE(failure().edit().textInteractionFlags() & Qt::TextSelectableByKeyboard);
-}
-
-TEST_F(PlayPanelTest, copiesTheReport)
-{
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened: it broke."));
-    enter(Phase::needs(QStringLiteral("It broke.")));
-    button(QStringLiteral("Copy"))->click();
-    EXPECT_EQ(desktop.copied, QStringList{QStringLiteral("What happened: it broke.")});
 }
 
 TEST_F(PlayPanelTest, remembersInTheModelWhetherTheLogIsShown)
