@@ -5,6 +5,7 @@
 #include "Views/BorderedButton.h"
 #include "Views/DisclosureButton.h"
 #include "Views/LogView.h"
+#include "Views/LongTextEdit.h"
 #include "Views/PlayButton.h"
 #include "Views/ProgressBar.h"
 #include "Views/Stack.h"
@@ -207,7 +208,7 @@ void PlayPanel::refreshFailure()
     const auto appears = shown && m_failureBlock->isHidden();
     m_failureBlock->setVisible(shown);
     if (appears)
-        announce(*m_failure);
+        announce(m_failure->edit());
 }
 
 void PlayPanel::refreshLog()
