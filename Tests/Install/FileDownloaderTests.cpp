@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileDownloaderTest.h"
+#include "Support/UnchangeableScope.h"
 
 #include <utility>
 
@@ -128,6 +129,23 @@ TEST_F(FileDownloaderTest, asksForTheBytesAsTheyAre)
 
     EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "raw");
     EXPECT_TRUE(server.requests().first().contains("Accept-Encoding: identity\r\n"));
+}
+
+TEST_F(FileDownloaderTest, reportsAnOldFileThatCannotBeReplacedAndLeavesNothingElse)
+{
+    server.on(file, HttpServer::reply(200, "new"));
+    const auto old = folder.write(QStringLiteral("file.zip"), "old");
+    const UnchangeableScope unchangeable(old);
+    if (!unchangeable.isInForce())
+        GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+
+    const auto outcome = download(file);
+
+    EXPECT_TRUE(outcome.isPlatformError);
+    EXPECT_EQ(outcome.sentence,
+              QStringLiteral("Could not remove “%1”: Operation not permitted.").arg(old));
+    EXPECT_EQ(folder.names(), QStringList{QStringLiteral("file.zip")});
+    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "old");
 }
 
 TEST_F(FileDownloaderTest, reportsAFolderThatIsNotThere)
