@@ -19,6 +19,15 @@ TEST(TextFile, isReadWhole)
     EXPECT_EQ(TextFile::read(folder.write(QStringLiteral("empty"))), QString());
 }
 
+TEST(TextFile, isReadWithoutTheByteOrderMarkAtItsBeginning)
+{
+    const TestFolder folder;
+    EXPECT_EQ(TextFile::read(folder.write(QStringLiteral("file"), "\xef\xbb\xbf"
+                                                                  "a\n\xef\xbb\xbf"
+                                                                  "b")),
+              QStringLiteral("a\n\uFEFFb"));
+}
+
 TEST(TextFile, isReadThroughALink)
 {
     const TestFolder folder;

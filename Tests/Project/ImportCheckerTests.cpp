@@ -106,6 +106,15 @@ TEST_F(ImportCheckerTest, keepsACarriageReturnInAPath)
     EXPECT_EQ(missingCount(), 1);
 }
 
+TEST_F(ImportCheckerTest, readsPastAByteOrderMarkAtTheBeginningOfARecord)
+{
+    write("a.png");
+    write("a.png.import", "\xef\xbb\xbfpath=\"res://a.stex\"\n");
+    EXPECT_EQ(missingCount(), 1);
+    write("a.png.import", "\n\xef\xbb\xbfpath=\"res://a.stex\"\n");
+    EXPECT_EQ(missingCount(), 0);
+}
+
 TEST_F(ImportCheckerTest, looksAtTheFirstEqualsSignOnly)
 {
     write("a.png");

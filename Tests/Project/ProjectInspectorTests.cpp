@@ -65,6 +65,16 @@ TEST_F(ProjectInspectorTest, givesNothingWithoutAUsableVersion)
     EXPECT_EQ(inspect("config_version =4\n"), std::nullopt);
 }
 
+TEST_F(ProjectInspectorTest, readsPastAByteOrderMarkAtTheBeginning)
+{
+    EXPECT_NE(inspect("\xef\xbb\xbf"
+                      "config_version=4\n"),
+              std::nullopt);
+    EXPECT_EQ(inspect("\n\xef\xbb\xbf"
+                      "config_version=4\n"),
+              std::nullopt);
+}
+
 TEST_F(ProjectInspectorTest, readsAVersionWithASignAndBlanks)
 {
     EXPECT_EQ(inspect(" \tconfig_version= \t+5 \t\n")->configVersion, 5);

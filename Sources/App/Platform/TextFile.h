@@ -14,7 +14,8 @@ namespace TextFile {
 constexpr qint64 maximumSize = 4 * 1024 * 1024;
 
 /// The whole text of the regular file at `path`. Nothing when it is missing, unreadable, not a
-/// regular file, larger than `maximumSize` or not well-formed UTF-8.
+/// regular file, larger than `maximumSize` or not well-formed UTF-8. A byte order mark at its
+/// beginning is the file's signature and not text.
 std::optional<QString> read(const QString& path);
 
 /// `text` without the spaces and tabs at its ends. A carriage return stays.

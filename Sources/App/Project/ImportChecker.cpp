@@ -115,7 +115,12 @@ private:
         }
         if (!QByteArrayView(m_text.data(), static_cast<qsizetype>(size)).isValidUtf8())
             return std::nullopt;
-        return std::string_view(m_text.data(), size);
+        // A byte order mark at the beginning is a file's signature and not its text.
+        constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+        std::string_view text(m_text.data(), size);
+        if (text.starts_with(byteOrderMark))
+            text.remove_prefix(byteOrderMark.size());
+        return text;
     }
 
     /// Whether one of the files that the record names exists, or it names none.
