@@ -2,6 +2,7 @@
 #include "Project/ProjectInspector.h"
 
 #include "Platform/TextFile.h"
+#include "Support/Listing.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -194,6 +195,21 @@ TEST_F(FindProjectTest, prefersTheShallowestFolder)
     writeProject("a/b/c");
     writeProject("z/y");
     EXPECT_EQ(found(), QStringLiteral("/z/y"));
+}
+
+TEST_F(FindProjectTest, prefersTheFolderThatIsListedFirst)
+{
+    for (const auto* folder : {"m", "b", "z", "a", "y", "c", "n"})
+        writeProject(folder);
+    EXPECT_EQ(found(), u'/' + listing(m_root.path()).first());
+}
+
+TEST_F(FindProjectTest, prefersAFolderWhoseParentIsListedFirst)
+{
+    for (const auto* folder : {"m/9", "b/8", "z/7", "a/6", "y/5", "c/4", "n/3"})
+        writeProject(folder);
+    const auto parent = u'/' + listing(m_root.path()).first();
+    EXPECT_EQ(found(), parent + u'/' + listing(m_root.path() + parent).first());
 }
 
 TEST_F(FindProjectTest, looksFourLevelsDownAndNoDeeper)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Project/ProjectInspector.h"
+#include "Support/Listing.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -86,6 +87,39 @@ TEST_F(RepoFactsTest, ignoreTheOtherSpelling)
 {
     write("LICENCE", "Some Licence\n");
     EXPECT_EQ(facts(), RepoFacts());
+}
+
+TEST_F(RepoFactsTest, ofAFileThatIsListedLaterOverrideThoseOfAnEarlierOne)
+{
+    for (const QByteArray name : {"m", "b", "z", "a", "y", "c", "n"}) {
+        write("license." + name, "License " + name + "\nCopyright " + name + '\n');
+        write("readme." + name, "#+DESCRIPTION: Summary " + name + '\n');
+    }
+    const auto names = listing(m_root.path(QStringLiteral("Game")));
+    const auto lastOf = [&names](QLatin1String kind) {
+        return names.filter(kind).last().sliced(kind.size() + 1);
+    };
+    const auto license = lastOf(QLatin1String("license"));
+    EXPECT_EQ(facts().license, QStringLiteral("License ") + license);
+    EXPECT_EQ(facts().author, QStringLiteral("Copyright ") + license);
+    EXPECT_EQ(facts().summary, QStringLiteral("Summary ") + lastOf(QLatin1String("readme")));
+}
+
+TEST_F(RepoFactsTest, stayWhenAFileThatIsListedLaterLacksThem)
+{
+    // Each of the two is the later one in one of the rounds, whatever the order is.
+    for (const auto* full : {"1", "2"}) {
+        const auto* empty = *full == '1' ? "2" : "1";
+        write(QByteArray("LICENSE") + full, "A License\nCopyright Somebody\n");
+        write(QByteArray("README") + full, "#+DESCRIPTION: A tiny game\n");
+        write(QByteArray("LICENSE") + empty, " \n");
+        write(QByteArray("README") + empty, "#+DESCRIPTION:\n");
+        RepoFacts expected;
+        expected.license = QStringLiteral("A License");
+        expected.author = QStringLiteral("Copyright Somebody");
+        expected.summary = QStringLiteral("A tiny game");
+        EXPECT_EQ(facts(), expected);
+    }
 }
 
 TEST_F(RepoFactsTest, ofAnOuterFolderOverrideThoseOfAnInnerOne)
