@@ -175,10 +175,9 @@ TEST_F(LogStoreTest, takesABlockAsItsLines)
     m_log.append(QStringLiteral("first"));
     m_log.appendBlock("a\r\n\n\xff\xe2\x82\xac\n\xef\xbb\xbf\n");
     m_log.append(QStringLiteral("last"));
-    EXPECT_EQ(m_log.newest(10),
-              (QStringList{QStringLiteral("first"), QStringLiteral("a\r"), QString(),
-                           QStringLiteral("\uFFFD€"), QStringLiteral("\uFEFF"),
-                           QStringLiteral("last")}));
+    EXPECT_EQ(m_log.newest(10), (QStringList{QStringLiteral("first"), QStringLiteral("a\r"),
+                                             QString(), QStringLiteral("\uFFFD€"),
+                                             QStringLiteral("\uFEFF"), QStringLiteral("last")}));
 }
 
 TEST_F(LogStoreTest, keepsTheNewestLinesOfLinesAndBlocks)
