@@ -40,8 +40,9 @@ QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
     connect(&startUpWatch, &QTimer::timeout, this, &AppModel::markStarted);
     startUpWatch.start(m_durations.startUpWatch);
 
-    m_runner.process = std::make_shared<ManagedProcess>(
-        ManagedProcess::Lifetime::MayOutliveLauncher, m_durations.killGrace, m_session.descriptor());
+    m_runner.process =
+        std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::MayOutliveLauncher,
+                                         m_durations.killGrace, m_session.descriptor());
     const auto forget = qScopeGuard([this] { m_runner.process.reset(); });
     const auto run = m_runner.process->run(engine, arguments, m_log.callback());
     co_return co_await run;

@@ -13,7 +13,6 @@
 
 #include <QFile>
 
-
 namespace {
 
 const auto uuid = QStringLiteral("01234567-89AB-CDEF-0123-456789ABCDEF");

@@ -90,7 +90,8 @@ TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
     expectRefusal(&AppModel::reinstall);
     expectRefusal(&AppModel::removeEverything);
     EXPECT_TRUE(desktop.questions.isEmpty());
-    EXPECT_TRUE(home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable")));
+    EXPECT_TRUE(
+        home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable")));
 
     game.kill();
     model().removeEverything();

@@ -162,8 +162,7 @@ TEST_F(AppDelegateTest, bringsTheWindowBackWhenTheProgramIsStartedAgain)
     delegate.activate("a token");
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.isMinimized());
-    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
-        << "the game would inherit it";
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN")) << "the game would inherit it";
 }
 
 TEST_F(AppDelegateTest, staysHiddenWhenItIsStartedAgainWhileItQuits)

@@ -27,7 +27,10 @@ public:
         while (true)
             ::pause();
     }
-    ~ForkedProcess() { kill(); }
+    ~ForkedProcess()
+    {
+        kill();
+    }
 
     ForkedProcess(const ForkedProcess&) = delete;
     ForkedProcess& operator=(const ForkedProcess&) = delete;

@@ -25,9 +25,8 @@ const auto temporaryPrefix = QStringLiteral("CavernyxPlatformer-");
 /// The folders in `parent`, links among them, that are named `prefix` and then one of our UUIDs.
 QStringList foldersNamed(const QString& parent, const QString& prefix)
 {
-    const QRegularExpression name(
-        QRegularExpression::anchoredPattern(
-            prefix + QStringLiteral("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
+    const QRegularExpression name(QRegularExpression::anchoredPattern(
+        prefix + QStringLiteral("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
     const QDir folder(parent);
     QStringList found;
     const auto names =
@@ -42,9 +41,9 @@ qint64 allocatedSize(const DirectoryWalk::Entry& entry)
 {
     constexpr qint64 blockSize = 512; // whatever the file system's own block size is
     struct stat status = {};
-    if (entry.kind != DirectoryWalk::Kind::RegularFile
-        || ::fstatat(entry.folder, entry.name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0
-        || !S_ISREG(status.st_mode))
+    if (entry.kind != DirectoryWalk::Kind::RegularFile ||
+        ::fstatat(entry.folder, entry.name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
+        !S_ISREG(status.st_mode))
         return 0;
     return status.st_blocks * blockSize;
 }
@@ -103,7 +102,7 @@ void Paths::ensure(const QString& path)
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     if (error)
         throw PlatformError::fromReason(QStringLiteral("create the folder “%1”").arg(path),
-            QString::fromStdString(error.message()));
+                                        QString::fromStdString(error.message()));
 }
 
 qint64 Paths::size(const QString& path, const std::stop_token& stop)

@@ -22,7 +22,7 @@ QUrl zipURL();
 /// in it that holds `project.godot`. Until the swap an installed game stays untouched, and no
 /// staging or temporary folder is left on any way out. Throws AppError, PlatformError, or Cancelled
 /// when `stop` is requested before the swap. Main thread; blocks nothing.
-QCoro::Task<QString> fetch(
-    std::shared_ptr<FileDownloader> downloader, LogCallback log, std::stop_token stop);
+QCoro::Task<QString> fetch(std::shared_ptr<FileDownloader> downloader, LogCallback log,
+                           std::stop_token stop);
 
 } // namespace RepoDownloader

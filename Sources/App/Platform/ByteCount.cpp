@@ -55,7 +55,8 @@ QString formattedByteCount(qint64 bytes)
         ++index;
     // What rounds up to a thousand of one unit is one of the next.
     auto number = inUnit(bytes, units[index]);
-    if (index + 1 < units.size() && (number == QLatin1String("1000") || number == QLatin1String("-1000")))
+    if (index + 1 < units.size() &&
+        (number == QLatin1String("1000") || number == QLatin1String("-1000")))
         number = inUnit(bytes, units[++index]);
     return number + u' ' + units[index].name;
 }

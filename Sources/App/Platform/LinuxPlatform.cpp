@@ -17,8 +17,8 @@ std::optional<QString> engineProgramAmong(const QStringList& folders)
 {
     QStringList programs;
     for (const auto& folder : folders) {
-        const auto files = QDir(folder).entryInfoList(
-            QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::NoSort);
+        const auto files =
+            QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::NoSort);
         for (const auto& file : files) {
             if (file.fileName().toLower().contains(QLatin1String("godot")))
                 programs.append(file.filePath());
@@ -101,6 +101,6 @@ std::optional<ToolCommand> LinuxPlatform::clearQuarantineCommand(const QString&)
 
 QString LinuxPlatform::savesFolder(const QString& gameName)
 {
-    return applicationSupport() + QStringLiteral("/godot/app_userdata/")
-        + engineFolderName(gameName);
+    return applicationSupport() + QStringLiteral("/godot/app_userdata/") +
+           engineFolderName(gameName);
 }

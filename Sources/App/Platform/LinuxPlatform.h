@@ -21,7 +21,7 @@ QString applicationSupport();
 /// e.g. "x11.64.zip", or "mono_x11_64.zip" for the C# edition. `processor` is named as
 /// QSysInfo::currentCpuArchitecture() names it. Throws AppError for a processor without a build.
 QString engineArchiveSuffix(bool mono,
-    const QString& processor = QSysInfo::currentCpuArchitecture());
+                            const QString& processor = QSysInfo::currentCpuArchitecture());
 
 /// The engine program in an installed engine folder: the shallowest regular file, then the first
 /// in plain string order, whose lower-cased name contains "godot". Reads only.

@@ -18,9 +18,8 @@ bool isBundle(const QString& name)
 std::optional<QString> programOfBundle(const QString& bundle)
 {
     const QDir folder(bundle + QStringLiteral("/Contents/MacOS"));
-    auto names = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System
-            | QDir::NoDotAndDotDot,
-        QDir::NoSort);
+    auto names = folder.entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
     if (names.isEmpty())
         return std::nullopt;
     std::ranges::sort(names);
@@ -48,25 +47,26 @@ std::optional<QString> MacPlatform::findEngineProgram(const QString& engineFolde
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
     for (const auto& entry : entries) {
         const auto program = isBundle(entry.fileName()) ? programOfBundle(entry.filePath())
-            : entry.isDir() && !entry.isSymLink()       ? findEngineProgram(entry.filePath())
-                                                        : std::nullopt;
+                             : entry.isDir() && !entry.isSymLink()
+                                 ? findEngineProgram(entry.filePath())
+                                 : std::nullopt;
         if (program)
             return program;
     }
     return std::nullopt;
 }
 
-std::optional<ToolCommand> MacPlatform::unpackCommand(
-    const QString& archive, const QString& destination)
+std::optional<ToolCommand> MacPlatform::unpackCommand(const QString& archive,
+                                                      const QString& destination)
 {
     return ToolCommand{QStringLiteral("/usr/bin/ditto"),
-        {QStringLiteral("-x"), QStringLiteral("-k"), archive, destination}};
+                       {QStringLiteral("-x"), QStringLiteral("-k"), archive, destination}};
 }
 
 std::optional<ToolCommand> MacPlatform::clearQuarantineCommand(const QString& folder)
 {
     return ToolCommand{QStringLiteral("/usr/bin/xattr"),
-        {QStringLiteral("-dr"), QStringLiteral("com.apple.quarantine"), folder}};
+                       {QStringLiteral("-dr"), QStringLiteral("com.apple.quarantine"), folder}};
 }
 
 QString MacPlatform::savesFolder(const QString& gameName)

@@ -17,7 +17,7 @@ QString applicationSupport();
 
 /// "osx.universal.zip" or "mono_osx.universal.zip"; one build serves every processor.
 QString engineArchiveSuffix(bool mono,
-    const QString& processor = QSysInfo::currentCpuArchitecture());
+                            const QString& processor = QSysInfo::currentCpuArchitecture());
 
 /// The program of the first application bundle ("*.app") in the engine folder: in its
 /// Contents/MacOS the first entry, in plain string order, whose lower-cased name contains "godot",

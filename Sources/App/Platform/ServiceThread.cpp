@@ -23,8 +23,7 @@ ServiceThread::ServiceThread(const QString& name)
 ServiceThread& ServiceThread::network()
 {
     static ServiceThread thread(QStringLiteral("network"));
-    static const bool registered
-        = (qAddPostRoutine([] { endThread(network()); }), true);
+    static const bool registered = (qAddPostRoutine([] { endThread(network()); }), true);
     Q_UNUSED(registered)
     return thread;
 }
@@ -32,8 +31,7 @@ ServiceThread& ServiceThread::network()
 ServiceThread& ServiceThread::children()
 {
     static ServiceThread thread(QStringLiteral("children"));
-    static const bool registered
-        = (qAddPostRoutine([] { endThread(children()); }), true);
+    static const bool registered = (qAddPostRoutine([] { endThread(children()); }), true);
     Q_UNUSED(registered)
     return thread;
 }

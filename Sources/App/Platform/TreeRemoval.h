@@ -15,8 +15,8 @@
 ///
 /// It works on open folders rather than on paths, so that nothing leads it outside: a link is
 /// removed and never followed, also one that takes a folder's place meanwhile, and what is mounted
-/// at the folder or below is left alone. Few folders are open at a time, however deep the tree is. A
-/// folder of the user's that is locked against changes is unlocked.
+/// at the folder or below is left alone. Few folders are open at a time, however deep the tree is.
+/// A folder of the user's that is locked against changes is unlocked.
 class TreeRemoval final
 {
 public:

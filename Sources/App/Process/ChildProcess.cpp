@@ -98,20 +98,19 @@ void ChildProcess::setUpProcess()
     // long as any process that inherited its pipe keeps writing.
     m_process->setProcessChannelMode(QProcess::ForwardedChannels);
     m_process->setStandardInputFile(QProcess::nullDevice());
-    m_process->setChildProcessModifier(
-        [lifetime = m_lifetime, sessionLock = m_sessionLock, output = m_output->writeEnd(),
-         parent = ::getpid()] {
-            ChildSetup::leadOwnGroup();
-            ChildSetup::sendOutputTo(output);
-            ChildSetup::withholdOtherDescriptors();
-            ChildSetup::unblockSignals();
-            if (lifetime == ManagedProcess::Lifetime::EndsWithLauncher)
-                ChildSetup::endWithParent(parent);
-            else
-                ChildSetup::ignoreBrokenPipes();
-            if (sessionLock >= 0)
-                SessionLock::holdAsGame(sessionLock);
-        });
+    m_process->setChildProcessModifier([lifetime = m_lifetime, sessionLock = m_sessionLock,
+                                        output = m_output->writeEnd(), parent = ::getpid()] {
+        ChildSetup::leadOwnGroup();
+        ChildSetup::sendOutputTo(output);
+        ChildSetup::withholdOtherDescriptors();
+        ChildSetup::unblockSignals();
+        if (lifetime == ManagedProcess::Lifetime::EndsWithLauncher)
+            ChildSetup::endWithParent(parent);
+        else
+            ChildSetup::ignoreBrokenPipes();
+        if (sessionLock >= 0)
+            SessionLock::holdAsGame(sessionLock);
+    });
 }
 
 void ChildProcess::childHasStarted()

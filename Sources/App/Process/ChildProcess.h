@@ -21,9 +21,8 @@ class ChildOutput;
 class ChildProcess final : public QObject, public std::enable_shared_from_this<ChildProcess>
 {
 public:
-    static std::shared_ptr<ChildProcess> create(ManagedProcess::Lifetime lifetime,
-                                                std::chrono::milliseconds killGrace,
-                                                int sessionLock);
+    static std::shared_ptr<ChildProcess>
+    create(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace, int sessionLock);
     ~ChildProcess() override;
 
     QFuture<int> run(const QString& executable, const QStringList& arguments, LogCallback onLine);

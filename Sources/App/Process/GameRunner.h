@@ -21,15 +21,15 @@ public:
     explicit GameRunner(const Durations& durations = {});
 
     /// The engine's arguments for a play run.
-    static QStringList playArguments(
-        const QString& project, bool fullscreen, ResolutionChoice resolution);
+    static QStringList playArguments(const QString& project, bool fullscreen,
+                                     ResolutionChoice resolution);
 
     /// Runs the first-time import and gives the engine's exit status. A watcher logs how many
     /// assets are still to import and ends the run when nothing has been missing for a while or
     /// when more than `timeout` has passed; neither is an error here. Throws PlatformError when the
     /// engine cannot be started. The runner must outlive the task.
     QCoro::Task<int> runImport(QString engine, QString project, std::chrono::milliseconds timeout,
-        LogCallback log);
+                               LogCallback log);
 
     /// Asks the current child, if any, to stop.
     void terminateCurrent();

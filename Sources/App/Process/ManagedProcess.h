@@ -28,7 +28,8 @@ public:
     /// a SessionLock, which must stay open until the child has started, the child counts as the
     /// running game.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::EndsWithLauncher,
-        std::chrono::milliseconds killGrace = Durations().killGrace, int sessionLock = -1);
+                            std::chrono::milliseconds killGrace = Durations().killGrace,
+                            int sessionLock = -1);
     /// Leaves a child that still runs to its end, and its future with it.
     ~ManagedProcess();
 

@@ -11,8 +11,8 @@ enum class ResolutionChoice { gameDefault, r720, r900, r1080, r1440 };
 
 /// Every choice, in the order in which the settings list them.
 inline constexpr std::array allResolutionChoices{ResolutionChoice::gameDefault,
-    ResolutionChoice::r720, ResolutionChoice::r900, ResolutionChoice::r1080,
-    ResolutionChoice::r1440};
+                                                 ResolutionChoice::r720, ResolutionChoice::r900,
+                                                 ResolutionChoice::r1080, ResolutionChoice::r1440};
 
 /// The value as it is stored and handed to the engine: empty for gameDefault, else e.g. "1280x720".
 QString rawValue(ResolutionChoice choice);
