@@ -3,6 +3,7 @@
 
 #include "Views/ControlFace.h"
 #include "Views/Glyphs.h"
+#include "Views/ScrollBarFace.h"
 #include "Views/SystemColors.h"
 
 #include <QDialog>
@@ -17,8 +18,6 @@ namespace {
 constexpr auto horizontalButtonPadding = 14;
 constexpr auto verticalButtonPadding = 5;
 constexpr auto popUpArrowWidth = 26;
-constexpr auto scrollBarExtent = 12;
-constexpr auto shortestScrollBarSlider = 28;
 
 /// The colours that the light and the dark palette are made of.
 struct PaletteColors
@@ -71,55 +70,6 @@ void paintPopUpArrows(QPainter& painter, const QRectF& place, const QColor& colo
         painter.restore();
     }
     painter.restore();
-}
-
-void paintScrollBar(QPainter& painter, const QStyleOptionSlider& option, const QRectF& slider)
-{
-    if (option.maximum <= option.minimum)
-        return;
-    const auto active = option.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider) &&
-                        option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const auto text = option.palette.color(QPalette::WindowText);
-    const auto shape = slider.adjusted(3, 3, -3, -3);
-    const auto radius = std::min(shape.width(), shape.height()) / 2;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SystemColors::withOpacity(text, active ? 0.5 : 0.3));
-    painter.drawRoundedRect(shape, radius, radius);
-    painter.restore();
-}
-
-/// A scroll bar without arrows: the groove is all of it.
-QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part)
-{
-    const auto horizontal = option.orientation == Qt::Horizontal;
-    const auto length = horizontal ? option.rect.width() : option.rect.height();
-    const auto range = option.maximum - option.minimum;
-    const auto wanted =
-        range > 0
-            ? static_cast<int>(qint64{length} * option.pageStep / (qint64{range} + option.pageStep))
-            : length;
-    const auto slider = std::min(length, std::max(wanted, shortestScrollBarSlider));
-    const auto start = QStyle::sliderPositionFromValue(
-        option.minimum, option.maximum, option.sliderPosition, length - slider, option.upsideDown);
-    const auto along = [&option, horizontal](int from, int count) {
-        const auto& bar = option.rect;
-        return horizontal ? QRect(bar.left() + from, bar.top(), count, bar.height())
-                          : QRect(bar.left(), bar.top() + from, bar.width(), count);
-    };
-    switch (part) {
-    case QStyle::SC_ScrollBarGroove:
-        return option.rect;
-    case QStyle::SC_ScrollBarSlider:
-        return along(start, slider);
-    case QStyle::SC_ScrollBarSubPage:
-        return along(0, start);
-    case QStyle::SC_ScrollBarAddPage:
-        return along(start + slider, length - start - slider);
-    default:
-        return {};
-    }
 }
 
 void paintDialogEdge(QPainter& painter, const QStyleOption& option)
@@ -232,7 +182,7 @@ void LauncherStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     }
     if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
         bar && control == CC_ScrollBar) {
-        paintScrollBar(*painter, *bar, scrollBarPart(*bar, SC_ScrollBarSlider));
+        ScrollBarFace::paint(*painter, *bar);
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -251,7 +201,7 @@ QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionCo
             {rect.right() + 1 - popUpArrowWidth, rect.top(), popUpArrowWidth, rect.height()});
     if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
         bar && control == CC_ScrollBar)
-        return visualRect(option->direction, rect, scrollBarPart(*bar, part));
+        return visualRect(option->direction, rect, ScrollBarFace::part(*bar, part));
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
@@ -274,9 +224,9 @@ int LauncherStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 {
     switch (metric) {
     case PM_ScrollBarExtent:
-        return scrollBarExtent;
+        return ScrollBarFace::extent;
     case PM_ScrollBarSliderMin:
-        return shortestScrollBarSlider;
+        return ScrollBarFace::shortestSlider;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
