@@ -84,4 +84,12 @@ QPainterPath chevron(const QRectF& rect)
     return path;
 }
 
+QPainterPath checkMark(const QRectF& rect)
+{
+    QPainterPath path({rect.left(), rect.center().y()});
+    path.lineTo(rect.left() + rect.width() * 0.36, rect.bottom());
+    path.lineTo(rect.topRight());
+    return path;
+}
+
 } // namespace Glyphs

@@ -18,4 +18,7 @@ namespace Glyphs {
 /// An angle that points to the right, to be stroked, inside `rect`.
 [[nodiscard]] QPainterPath chevron(const QRectF& rect);
 
+/// A check mark, to be stroked, inside `rect`.
+[[nodiscard]] QPainterPath checkMark(const QRectF& rect);
+
 } // namespace Glyphs

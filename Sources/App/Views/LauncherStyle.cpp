@@ -3,6 +3,7 @@
 
 #include "Views/ControlFace.h"
 #include "Views/Glyphs.h"
+#include "Views/MenuFace.h"
 #include "Views/ScrollBarFace.h"
 #include "Views/SystemColors.h"
 
@@ -161,6 +162,15 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 void LauncherStyle::drawControl(ControlElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const
 {
+    if (const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        item && element == CE_MenuItem) {
+        MenuFace::paintItem(*painter, *item);
+        return;
+    }
+    if (element == CE_ShapedFrame && widget && widget->inherits("QComboBoxPrivateContainer")) {
+        MenuFace::paintFrame(*painter, *option);
+        return;
+    }
     if (element != CE_PushButtonLabel || !isDefaultButton(*option)) {
         QProxyStyle::drawControl(element, option, painter, widget);
         return;
@@ -214,6 +224,8 @@ QSize LauncherStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         return {contents.width() + 2 * horizontalButtonPadding, std::max(height, 26)};
     case CT_ComboBox:
         return {contents.width() + horizontalButtonPadding + popUpArrowWidth, std::max(height, 26)};
+    case CT_MenuItem:
+        return {contents.width(), std::max(height, 26)};
     default:
         return QProxyStyle::sizeFromContents(type, option, contents, widget);
     }
