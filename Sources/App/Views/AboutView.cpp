@@ -5,6 +5,7 @@
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
+#include <QLayout>
 #include <QUrl>
 
 namespace {
@@ -17,6 +18,8 @@ constexpr auto padding = 20;
 AboutView::AboutView(QWidget* parent)
     : Sheet(tr("About"), parent)
 {
+    auto* const link = new LinkLabel(
+        TextStyle::body, QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk")));
     stackVertically(
         *this, spacing, padding,
         {
@@ -28,9 +31,7 @@ AboutView::AboutView(QWidget* parent)
                    "is only a launcher that downloads it.")),
             new TextLabel(TextStyle::callout,
                           tr("Based on brindlework-demos/tetherwalk, MIT License.")),
-            new LinkLabel(TextStyle::body,
-                          QUrl(QStringLiteral("https://github.com/brindlework-demos/"
-                                              "tetherwalk"))),
+            link,
             new TextLabel(
                 TextStyle::body,
                 tr("The Godot engine is free software under the MIT License (godotengine.org). It "
@@ -43,4 +44,5 @@ AboutView::AboutView(QWidget* parent)
                 TextTone::secondary),
             doneRow(),
         });
+    layout()->setAlignment(link, Qt::AlignLeading | Qt::AlignTop);
 }

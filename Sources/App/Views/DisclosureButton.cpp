@@ -13,7 +13,7 @@ namespace {
 
 /// The place of the angle before the title, and the room around both for the focus ring.
 constexpr auto angleWidth = 12;
-constexpr auto margin = 4;
+constexpr auto margin = 5;
 
 } // namespace
 
@@ -39,7 +39,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     initStyleOption(&option);
     const auto text = palette().color(QPalette::WindowText);
     const auto emphasised = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const auto place = QRect(margin / 2, 0, angleWidth, height());
+    const auto place = QRect(margin, 0, angleWidth, height());
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -52,7 +52,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     painter.restore();
 
     painter.setPen(text);
-    const auto label = rect().adjusted(angleWidth + 3 * margin / 2, 0, 0, 0);
+    const auto label = rect().adjusted(angleWidth + 2 * margin, 0, 0, 0);
     painter.drawText(style()->visualRect(layoutDirection(), rect(), label),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), this->text());
     if (ControlFace::showsFocus(option.state))

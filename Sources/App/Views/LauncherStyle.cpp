@@ -19,6 +19,7 @@ namespace {
 constexpr auto horizontalButtonPadding = 14;
 constexpr auto verticalButtonPadding = 5;
 constexpr auto popUpArrowWidth = 26;
+constexpr auto focusFrameMargin = 4;
 
 /// The colours that the light and the dark palette are made of.
 struct PaletteColors
@@ -167,6 +168,11 @@ void LauncherStyle::drawControl(ControlElement element, const QStyleOption* opti
         MenuFace::paintItem(*painter, *item);
         return;
     }
+    if (element == CE_FocusFrame) {
+        ControlFace::paintFocusRing(*painter, option->rect, ControlFace::radius,
+                                    SystemColors::blue(option->palette));
+        return;
+    }
     if (element == CE_ShapedFrame && widget && widget->inherits("QComboBoxPrivateContainer")) {
         MenuFace::paintFrame(*painter, *option);
         return;
@@ -239,6 +245,9 @@ int LauncherStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return ScrollBarFace::extent;
     case PM_ScrollBarSliderMin:
         return ScrollBarFace::shortestSlider;
+    case PM_FocusFrameHMargin:
+    case PM_FocusFrameVMargin:
+        return focusFrameMargin;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;

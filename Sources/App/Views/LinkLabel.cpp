@@ -15,7 +15,13 @@ LinkLabel::LinkLabel(TextStyle style, const QUrl& address)
     setAccessibleName(address.toString());
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setOpenExternalLinks(true);
+    setWordWrap(true);
     setFont(textFont(m_style));
+}
+
+QSize LinkLabel::sizeHint() const
+{
+    return fontMetrics().size(Qt::TextSingleLine, m_address.toString());
 }
 
 bool LinkLabel::event(QEvent* event)
@@ -38,4 +44,25 @@ void LinkLabel::keyPressEvent(QKeyEvent* event)
     default:
         QLabel::keyPressEvent(event);
     }
+}
+
+void LinkLabel::focusInEvent(QFocusEvent* event)
+{
+    QLabel::focusInEvent(event);
+    if (m_ring || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
+    m_ring = new QFocusFrame(parentWidget());
+    m_ring->setWidget(this);
+}
+
+void LinkLabel::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    delete m_ring;
+}
+
+bool LinkLabel::focusNextPrevChild(bool next)
+{
+    // A label stops at each of its links as well as at itself. This one is its link.
+    return QWidget::focusNextPrevChild(next);
 }

@@ -30,20 +30,26 @@ LogView::LogView(AppModel& model)
     : m_log(model.log())
     , m_box(new TextBox(tr("Log"), boxHeight, boxTint))
     , m_edit(m_box->edit())
+    , m_copy(borderedButton(tr("Copy log")))
     , m_firstLine(m_log.firstLineNumber())
 {
-    auto* const copy = borderedButton(tr("Copy log"));
-    connect(copy, &QPushButton::clicked, &model, &AppModel::copyLog);
+    connect(m_copy, &QPushButton::clicked, &model, &AppModel::copyLog);
 
     stackVertically(*this, spacing, 0,
                     {
                         m_box,
-                        horizontalStack(defaultSpacing, {copy, StackItem::spacer()}),
+                        horizontalStack(defaultSpacing, {m_copy, StackItem::spacer()}),
                     });
     layout()->setContentsMargins(0, topPadding, 0, 0);
 
     connect(&m_log, &LogStore::linesChanged, this, &LogView::catchUp);
     catchUp();
+}
+
+void LogView::followInTabOrder(QWidget& widget)
+{
+    setTabOrder(&widget, &m_edit);
+    setTabOrder(&m_edit, m_copy);
 }
 
 void LogView::catchUp()

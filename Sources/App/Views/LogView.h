@@ -6,6 +6,7 @@
 class AppModel;
 class LogStore;
 class LongTextEdit;
+class QPushButton;
 class TextBox;
 
 /// The launcher's log as one block of text that can be selected, with a button that copies it.
@@ -19,12 +20,16 @@ class LogView final : public QWidget
 public:
     explicit LogView(AppModel& model);
 
+    /// Puts the log after `widget` on the keyboard's way through the window.
+    void followInTabOrder(QWidget& widget);
+
 private:
     void catchUp();
 
     LogStore& m_log;
     TextBox* m_box;
     LongTextEdit& m_edit;
+    QPushButton* m_copy;
     /// The first line that the box has, counted as LogStore::firstLineNumber() counts.
     qint64 m_firstLine = 0;
 };

@@ -132,6 +132,9 @@ void PlayPanel::fillFailureBlock()
     m_failureBlock->layout()->addWidget(m_failure);
     m_failureBlock->layout()->addWidget(
         horizontalStack(defaultSpacing, {copy, StackItem::spacer()}));
+    // What is made later would otherwise come last when the keyboard goes through the window.
+    setTabOrder(m_cancel, &m_failure->edit());
+    setTabOrder(&m_failure->edit(), copy);
 }
 
 QWidget* PlayPanel::logDisclosure()
@@ -218,6 +221,7 @@ void PlayPanel::refreshLog()
     if (shown && !m_log) {
         m_log = new LogView(m_model);
         m_disclosed->layout()->addWidget(m_log);
+        m_log->followInTabOrder(*m_showLog);
     } else if (!shown && m_log) {
         delete std::exchange(m_log, nullptr);
     }
