@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Every state of the window in light and dark, as pictures in the folder `gallery` of the build.
-// The scale is the platform's: the program is run once for each.
+// Every state of the window and of its sheets.
 
 #include "Support/AppModelAccess.h"
-#include "Views/ViewTest.h"
+#include "Views/Picture.h"
 
 #include "Views/AboutView.h"
-#include "Views/LauncherStyle.h"
 #include "Views/SettingsView.h"
-
-#include <QDir>
-#include <QImage>
-#include <QSet>
 
 #include <ostream>
 #include <string>
 #include <tuple>
 
 namespace {
-
-enum class Theme { light, dark };
 
 struct State
 {
@@ -30,11 +22,6 @@ struct State
 void PrintTo(const State& state, std::ostream* stream)
 {
     *stream << state.name;
-}
-
-void PrintTo(Theme theme, std::ostream* stream)
-{
-    *stream << (theme == Theme::dark ? "dark" : "light");
 }
 
 void downloading(AppModel& model)
@@ -84,55 +71,22 @@ const State states[]{
     {"empty-log", [](AppModel& model) { model.setShowLog(true); }},
 };
 
-/// How many different colours a picture has.
-qsizetype colorCount(const QImage& picture)
-{
-    QSet<QRgb> colors;
-    for (auto y = 0; y < picture.height(); ++y) {
-        for (auto x = 0; x < picture.width(); ++x)
-            colors.insert(picture.pixel(x, y));
-    }
-    return colors.size();
-}
-
-class Gallery : public ViewTest, public testing::WithParamInterface<std::tuple<Theme, State>>
+class Gallery : public Picture, public testing::WithParamInterface<std::tuple<Theme, State>>
 {
 protected:
     Gallery()
+        : Picture(std::get<Theme>(GetParam()))
     {
-        QApplication::setPalette(theme() == Theme::dark ? LauncherStyle::darkPalette()
-                                                        : LauncherStyle::lightPalette());
     }
 
-    ~Gallery() override { QApplication::setPalette(LauncherStyle::lightPalette()); }
-
-    static Theme theme() { return std::get<Theme>(GetParam()); }
     static const State& state() { return std::get<State>(GetParam()); }
-
-    /// Saves a picture of `widget` and checks that something is on it at the scale of the screen.
-    static void save(QWidget& widget, const char* name)
-    {
-        settle();
-        const auto picture = widget.grab().toImage();
-        EXPECT_EQ(picture.size(), (QSizeF(widget.size()) * widget.devicePixelRatioF()).toSize());
-        EXPECT_GT(colorCount(picture), 30) << "next to nothing is drawn";
-        const QDir folder(QStringLiteral(GALLERY_FOLDER));
-        EXPECT_TRUE(folder.mkpath(QStringLiteral(".")));
-        const auto file =
-            QStringLiteral("%1-%2-%3x.png")
-                .arg(QLatin1String(name),
-                     theme() == Theme::dark ? QStringLiteral("dark") : QStringLiteral("light"))
-                .arg(widget.devicePixelRatioF());
-        EXPECT_TRUE(picture.save(folder.filePath(file)));
-    }
 };
 
 TEST_P(Gallery, showsTheState)
 {
     state().enter(model());
     settle();
-    // As high as its content, so that nothing of it is left out.
-    window().resize(window().width(), window().widget()->height());
+    showAll();
     save(window(), state().name);
 }
 
