@@ -9,6 +9,7 @@
 #include "Views/PlayButton.h"
 #include "Views/PlayPanel.h"
 #include "Views/SettingsView.h"
+#include "Views/Shade.h"
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
@@ -160,6 +161,7 @@ void ContentView::refreshFacts()
 bool ContentView::event(QEvent* event)
 {
     passOnFontChange(*this, *event);
+    shadeWhileBlocked(*this, *event);
     return QScrollArea::event(event);
 }
 
