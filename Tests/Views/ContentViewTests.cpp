@@ -60,6 +60,22 @@ TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindow)
     EXPECT_EQ(window().horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(ContentViewTest, wrapsNothingAnewWhenTheScrollBarComes)
+{
+    const auto& panel = only<PlayPanel>();
+    const auto width = panel.width();
+    EXPECT_EQ(width, window().width() - 40);
+    model().setShowLog(true);
+    settle();
+    ASSERT_TRUE(window().verticalScrollBar()->isVisible());
+    EXPECT_EQ(panel.width(), width);
+    EXPECT_EQ(place(panel).left(), 20);
+    model().setShowLog(false);
+    settle();
+    ASSERT_FALSE(window().verticalScrollBar()->isVisible());
+    EXPECT_EQ(panel.width(), width);
+}
+
 TEST_F(ContentViewTest, hasTheNameOfTheProgramAsItsTitle)
 {
     EXPECT_EQ(window().windowTitle(), QStringLiteral("Cavernyx Platformer"));

@@ -99,6 +99,7 @@ ContentView::ContentView(AppModel& model)
     fitToScreen();
     m_panel->playButton().setFocus();
 
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ContentView::keepColumnInPlace);
     connect(&m_model, &AppModel::changed, this, &ContentView::refreshFacts);
     refreshFacts();
 }
@@ -156,6 +157,18 @@ void ContentView::refreshFacts()
     const auto& facts = m_model.facts();
     m_summary->setText(facts.summary);
     m_credits->setText(facts.license + QStringLiteral(" \u00b7 ") + facts.author);
+}
+
+void ContentView::keepColumnInPlace()
+{
+    const auto& bar = *verticalScrollBar();
+    const auto room = bar.maximum() > bar.minimum() ? bar.sizeHint().width() : 0;
+    auto margins = QMargins(padding, padding, padding, padding);
+    if (isRightToLeft())
+        margins.setLeft(padding - room);
+    else
+        margins.setRight(padding - room);
+    widget()->layout()->setContentsMargins(margins);
 }
 
 bool ContentView::event(QEvent* event)

@@ -35,6 +35,8 @@ private:
 
     void refreshFacts();
     void fitToScreen();
+    /// Puts the scroll bar into the padding, so that nothing wraps anew when it comes and goes.
+    void keepColumnInPlace();
     /// Opens the sheet that `make` builds, unless one is open.
     template<typename Make>
     void openSheet(Make make);
