@@ -12,6 +12,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr auto alertIconSize = 64;
 constexpr auto alertTextWidth = 300;
+constexpr auto alertPadding = 20;
 
 /// The window that the player is looking at, a sheet before the main window.
 QWidget* frontWindow()
@@ -58,6 +60,8 @@ void setUp(QMessageBox& alert, const QString& title, const QString& message)
         label->setFont(textFont(TextStyle::headline));
     if (auto* const label = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         label->setMinimumWidth(alertTextWidth);
+    // The words before have built the layout anew.
+    alert.layout()->setContentsMargins(alertPadding, alertPadding, alertPadding, alertPadding);
 }
 
 } // namespace
