@@ -128,13 +128,15 @@ void LogStore::announce(std::unique_lock<std::mutex> lock)
 
 void LogStore::publish()
 {
-    {
-        const std::lock_guard guard(m_lock);
-        decodeBlocks();
-        m_lines = QStringList(m_decoded.begin(), m_decoded.end());
-        m_firstLineNumber = m_linesEver - m_lines.size();
-        m_publishScheduled = false;
-    }
+    std::unique_lock lock(m_lock);
+    decodeBlocks();
+    QStringList lines(m_decoded.begin(), m_decoded.end());
+    const auto linesEver = m_linesEver;
+    m_publishScheduled = false;
+    // A writer does not wait for the former lines to go.
+    lock.unlock();
+    m_lines = std::move(lines);
+    m_firstLineNumber = linesEver - m_lines.size();
     Q_EMIT linesChanged();
 }
 
