@@ -33,7 +33,7 @@ Includes readIncludes(const QString& sources)
         auto matches = directive.globalMatch(QString::fromUtf8(file.readAll()));
         while (matches.hasNext()) {
             const auto path = matches.next().captured(1);
-            if (!path.startsWith(u"moc_"))
+            if (!path.startsWith(u"moc_") && !path.endsWith(u".moc"))
                 included.append(path);
         }
     }
