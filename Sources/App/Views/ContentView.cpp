@@ -205,7 +205,21 @@ void ContentView::showEvent(QShowEvent* event)
             Qt::UniqueConnection);
 }
 
+void ContentView::moveEvent(QMoveEvent* event)
+{
+    QScrollArea::moveEvent(event);
+    // The desktop puts its frame around the window only after it has been shown.
+    fitToScreen();
+}
+
 void ContentView::fitToScreen()
 {
-    setMinimumSize(leastSize.boundedTo(screen()->availableSize()));
+    const auto frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+    const auto least = leastSize.boundedTo(screen()->availableSize().shrunkBy(frame));
+    if (least == minimumSize())
+        return;
+    const auto isLeast = size() == minimumSize();
+    setMinimumSize(least);
+    if (isLeast)
+        resize(least);
 }

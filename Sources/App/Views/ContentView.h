@@ -26,6 +26,7 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     [[nodiscard]] QSize sizeHint() const override { return leastSize; }
 
 private:
