@@ -10,17 +10,22 @@
 
 namespace ControlFace {
 
-QColor inState(const QColor& color, QStyle::State state, const QPalette& palette)
+namespace {
+
+/// `color` as it looks while the control is hovered, pressed or disabled: with more or less of
+/// `shade` over it.
+QColor inState(const QColor& color, QStyle::State state, const QColor& shade)
 {
-    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
     if (!state.testFlag(QStyle::State_Enabled))
         return SystemColors::withOpacity(color, 0.45);
     if (state.testFlag(QStyle::State_Sunken))
-        return SystemColors::blended(SystemColors::withOpacity(text, 0.16), color);
+        return SystemColors::blended(SystemColors::withOpacity(shade, 0.16), color);
     if (state.testFlag(QStyle::State_MouseOver))
-        return SystemColors::blended(SystemColors::withOpacity(text, 0.06), color);
+        return SystemColors::blended(SystemColors::withOpacity(shade, 0.06), color);
     return color;
 }
+
+} // namespace
 
 void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette)
 {
@@ -29,7 +34,7 @@ void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPa
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(SystemColors::withOpacity(text, enabled ? 0.22 : 0.12), 1));
-    painter.setBrush(inState(palette.color(QPalette::Active, QPalette::Button), state, palette));
+    painter.setBrush(inState(palette.color(QPalette::Active, QPalette::Button), state, text));
     painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.restore();
     if (showsFocus(state))
@@ -43,8 +48,9 @@ void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
+    // Darker in dark too: its label is white.
     painter.setBrush(state.testFlag(QStyle::State_Enabled)
-                         ? inState(SystemColors::blue(palette), state, palette)
+                         ? inState(SystemColors::blue(palette), state, Qt::black)
                          : SystemColors::withOpacity(text, 0.12));
     painter.drawRoundedRect(rect, cornerRadius, cornerRadius);
     painter.restore();

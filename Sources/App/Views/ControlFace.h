@@ -15,9 +15,6 @@ namespace ControlFace {
 /// The corner radius of every control of ordinary size.
 inline constexpr auto radius = 6.0;
 
-/// `color` as it looks while the control is hovered, pressed or disabled.
-[[nodiscard]] QColor inState(const QColor& color, QStyle::State state, const QPalette& palette);
-
 /// A bordered face in the palette's button colour, with the ring when the keyboard is on it.
 void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette);
 

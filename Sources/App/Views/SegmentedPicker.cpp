@@ -56,10 +56,13 @@ protected:
         }
         painter.setPen(isChecked() ? QColor(Qt::white) : text);
         painter.drawText(rect(), Qt::AlignCenter, this->text());
-        if (ControlFace::showsFocus(option.state))
-            ControlFace::paintFocusRing(painter, QRectF(rect()).adjusted(1, 1, -1, -1),
-                                        ControlFace::radius,
-                                        isChecked() ? text : SystemColors::blue(palette()));
+        if (!ControlFace::showsFocus(option.state))
+            return;
+        if (isChecked())
+            ControlFace::paintFocusRing(painter, face.adjusted(1.5, 1.5, -1.5, -1.5), radius - 1.5,
+                                        Qt::white);
+        else
+            ControlFace::paintFocusRing(painter, face, radius, SystemColors::blue(palette()));
     }
 };
 
