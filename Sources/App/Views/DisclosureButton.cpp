@@ -11,8 +11,10 @@
 
 namespace {
 
-/// The place of the angle before the title, and the room around both for the focus ring.
-constexpr auto angleWidth = 12;
+/// The middle of the angle, and where the title begins: there the status title above it does too.
+constexpr auto angleCentre = 8;
+constexpr auto titleStart = 18;
+/// The room around the title for the focus ring.
 constexpr auto margin = 5;
 
 } // namespace
@@ -30,7 +32,7 @@ DisclosureButton::DisclosureButton(const QString& title)
 QSize DisclosureButton::sizeHint() const
 {
     const auto label = fontMetrics().size(Qt::TextSingleLine, text());
-    return {angleWidth + label.width() + 3 * margin, label.height() + margin};
+    return {titleStart + label.width() + margin, label.height() + margin};
 }
 
 void DisclosureButton::paintEvent(QPaintEvent*)
@@ -39,7 +41,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     initStyleOption(&option);
     const auto text = palette().color(QPalette::WindowText);
     const auto emphasised = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const auto place = QRect(margin, 0, angleWidth, height());
+    const auto place = QRect(0, 0, 2 * angleCentre, height());
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -52,7 +54,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     painter.restore();
 
     painter.setPen(text);
-    const auto label = rect().adjusted(angleWidth + 2 * margin, 0, 0, 0);
+    const auto label = rect().adjusted(titleStart, 0, 0, 0);
     painter.drawText(style()->visualRect(layoutDirection(), rect(), label),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), this->text());
     if (ControlFace::showsFocus(option.state))
