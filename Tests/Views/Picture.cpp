@@ -64,7 +64,7 @@ void Picture::save(QWidget& widget, const std::string& name) const
 
 void Picture::save(const QList<QImage>& details, const std::string& name) const
 {
-    QSize size;
+    QSize size(0, 0);
     for (const auto& detail : details)
         size = {std::max(size.width(), detail.width()), size.height() + detail.height()};
     QImage picture(size, QImage::Format_RGB32);
