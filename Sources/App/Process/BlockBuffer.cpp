@@ -9,6 +9,10 @@ QByteArray BlockBuffer::append(QByteArrayView chunk)
 {
     // The search from the front is the fast one; from the back only a part of a line is searched.
     if (!chunk.contains('\n')) {
+        // When append() has to make room it copies everything, where reserve() can often move it.
+        const auto size = m_begun.size() + chunk.size();
+        if (size > m_begun.capacity())
+            m_begun.reserve(2 * size);
         m_begun.append(chunk);
         return {};
     }
