@@ -96,4 +96,23 @@ TEST_F(PaletteTest, colorsAnOpenSheetAnew)
     }
 }
 
+TEST_F(PaletteTest, letsWhiteWordsBeReadOnTheAccentColor)
+{
+    auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
+    for (const auto& palette : {LauncherStyle::lightPalette(), LauncherStyle::darkPalette()}) {
+        QApplication::setPalette(palette);
+        settle();
+        for (const auto* const title : {"Done", "Windowed"}) {
+            SCOPED_TRACE(title);
+            auto& filled = *button(sheet, QString::fromLatin1(title));
+            const auto color = filled.grab().toImage().pixelColor(6, filled.height() / 2);
+            EXPECT_GE(SystemColors::contrast(color, Qt::white), 4.5);
+            EXPECT_LT(SystemColors::contrast(color, SystemColors::blue(palette)), 1.3)
+                << "it is still the accent colour";
+        }
+        EXPECT_EQ(play().grab().toImage().pixelColor(20, play().height() / 2),
+                  SystemColors::blue(palette));
+    }
+}
+
 } // namespace

@@ -42,7 +42,7 @@ void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPa
 }
 
 void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
-                    const QPalette& palette, double cornerRadius)
+                    const QPalette& palette, const QColor& accent, double cornerRadius)
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
     painter.save();
@@ -50,7 +50,7 @@ void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
     painter.setPen(Qt::NoPen);
     // Darker in dark too: its label is white.
     painter.setBrush(state.testFlag(QStyle::State_Enabled)
-                         ? inState(SystemColors::blue(palette), state, Qt::black)
+                         ? inState(accent, state, Qt::black)
                          : SystemColors::withOpacity(text, 0.12));
     painter.drawRoundedRect(rect, cornerRadius, cornerRadius);
     painter.restore();

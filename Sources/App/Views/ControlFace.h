@@ -18,9 +18,9 @@ inline constexpr auto radius = 6.0;
 /// A bordered face in the palette's button colour, with the ring when the keyboard is on it.
 void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette);
 
-/// A face filled with the accent colour, for the button that Return presses.
+/// A face filled with `accent`, for the button that Return presses.
 void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
-                    const QPalette& palette, double cornerRadius);
+                    const QPalette& palette, const QColor& accent, double cornerRadius);
 
 /// The colour of what stands on a prominent face.
 [[nodiscard]] QColor prominentText(QStyle::State state, const QPalette& palette);

@@ -28,7 +28,6 @@ struct PaletteColors
     QColor base;
     QColor button;
     QColor text;
-    QColor selection;
 };
 
 QPalette paletteOf(const PaletteColors& colors)
@@ -40,7 +39,7 @@ QPalette paletteOf(const PaletteColors& colors)
     palette.setColor(QPalette::AlternateBase, colors.window);
     palette.setColor(QPalette::ToolTipBase, colors.base);
     palette.setColor(QPalette::ToolTipText, colors.text);
-    palette.setColor(QPalette::Highlight, colors.selection);
+    palette.setColor(QPalette::Highlight, SystemColors::accentUnderText(palette));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     const auto faint = SystemColors::withOpacity(colors.text, 0.38);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -95,8 +94,7 @@ QPalette LauncherStyle::lightPalette()
     return paletteOf({.window = QColor(244, 244, 246),
                       .base = Qt::white,
                       .button = Qt::white,
-                      .text = QColor(29, 29, 31),
-                      .selection = QColor(0, 99, 225)});
+                      .text = QColor(29, 29, 31)});
 }
 
 QPalette LauncherStyle::darkPalette()
@@ -104,8 +102,7 @@ QPalette LauncherStyle::darkPalette()
     return paletteOf({.window = QColor(30, 30, 32),
                       .base = QColor(22, 22, 24),
                       .button = QColor(62, 62, 66),
-                      .text = QColor(240, 240, 243),
-                      .selection = QColor(10, 100, 220)});
+                      .text = QColor(240, 240, 243)});
 }
 
 QPalette LauncherStyle::standardPalette() const
@@ -144,6 +141,7 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     case PE_PanelButtonCommand:
         if (isDefaultButton(*option))
             ControlFace::paintProminent(*painter, option->rect, option->state, option->palette,
+                                        SystemColors::accentUnderText(option->palette),
                                         ControlFace::radius);
         else
             ControlFace::paint(*painter, option->rect, option->state, option->palette);

@@ -4,6 +4,7 @@
 #include "Views/ControlFace.h"
 #include "Views/Glyphs.h"
 #include "Views/Stack.h"
+#include "Views/SystemColors.h"
 #include "Views/TypeScale.h"
 
 #include <QEvent>
@@ -52,7 +53,9 @@ void PlayButton::paintEvent(QPaintEvent*)
     initStyleOption(&option);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    ControlFace::paintProminent(painter, rect(), option.state, palette(), cornerRadius);
+    // Letters as large and bold as these are read well on the accent colour as it is.
+    ControlFace::paintProminent(painter, rect(), option.state, palette(),
+                                SystemColors::blue(palette()), cornerRadius);
     paintLabel(painter, ControlFace::prominentText(option.state, palette()));
 }
 

@@ -48,7 +48,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         if (isChecked()) {
-            painter.setBrush(SystemColors::blue(palette()));
+            painter.setBrush(SystemColors::accentUnderText(palette()));
             painter.drawRoundedRect(face, radius, radius);
         } else if (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) {
             painter.setBrush(SystemColors::withOpacity(text, isDown() ? 0.12 : 0.06));

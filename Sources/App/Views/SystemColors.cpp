@@ -24,6 +24,17 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
+/// `color`, mixed with as little of `goal` as makes it stand out enough from `other`.
+QColor movedTowards(const QColor& goal, const QColor& color, const QColor& other)
+{
+    for (auto share = 0.0; share < 1; share += 0.02) {
+        const auto candidate = blended(withOpacity(goal, share), color);
+        if (contrast(candidate, other) >= readableContrast)
+            return candidate;
+    }
+    return goal;
+}
+
 } // namespace
 
 bool isDark(const QPalette& palette)
@@ -95,13 +106,12 @@ double contrast(const QColor& one, const QColor& other)
 
 QColor readable(const QColor& color, const QColor& background, const QPalette& palette)
 {
-    const auto text = palette.color(QPalette::WindowText);
-    for (auto share = 0.0; share < 1; share += 0.02) {
-        const auto candidate = blended(withOpacity(text, share), color);
-        if (contrast(candidate, background) >= readableContrast)
-            return candidate;
-    }
-    return text;
+    return movedTowards(palette.color(QPalette::WindowText), color, background);
+}
+
+QColor accentUnderText(const QPalette& palette)
+{
+    return movedTowards(Qt::black, blue(palette), Qt::white);
 }
 
 } // namespace SystemColors

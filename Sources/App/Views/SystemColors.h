@@ -33,4 +33,8 @@ namespace SystemColors {
 [[nodiscard]] QColor readable(const QColor& color, const QColor& background,
                               const QPalette& palette);
 
+/// What is filled with the accent colour and bears white text of ordinary size: blue, darkened only
+/// as far as reading that text requires.
+[[nodiscard]] QColor accentUnderText(const QPalette& palette);
+
 } // namespace SystemColors
