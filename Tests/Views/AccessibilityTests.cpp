@@ -50,10 +50,14 @@ TEST_F(AccessibilityTest, saysWhatTheWindowShows)
 
 TEST_F(AccessibilityTest, saysTheStatusInWords)
 {
+    auto& dot = only<StatusDot>();
+    EXPECT_EQ(read(dot).role(), QAccessible::Notification);
     enter(Phase::ready());
-    EXPECT_EQ(name(only<StatusDot>()), QStringLiteral("Status: Ready"));
+    EXPECT_EQ(name(dot),
+              QStringLiteral("Status: Ready \u2013 Everything is installed. Press Play."));
     enter(Phase::playing());
-    EXPECT_EQ(name(only<StatusDot>()), QStringLiteral("Status: Playing"));
+    EXPECT_EQ(name(dot),
+              QStringLiteral("Status: Playing \u2013 The game is running in its own window."));
 }
 
 TEST_F(AccessibilityTest, saysWhatThePanelsButtonsDoAndWhetherTheyCan)

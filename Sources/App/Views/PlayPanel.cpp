@@ -14,7 +14,6 @@
 #include "Views/TextBox.h"
 #include "Views/TextLabel.h"
 
-#include <QAccessible>
 #include <QBoxLayout>
 #include <QPushButton>
 
@@ -57,13 +56,6 @@ StatusDot::Color statusColor(const AppModel& model)
         return SystemColors::red;
     }
     Q_UNREACHABLE();
-}
-
-/// Tells assistive technology of a change that the player should hear of at once.
-void announce(QWidget& widget)
-{
-    QAccessibleEvent event(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -161,15 +153,13 @@ void PlayPanel::refresh()
 void PlayPanel::refreshStatus()
 {
     const auto title = m_model.statusTitle();
-    m_dot->setStatus(statusColor(m_model), tr("Status: %1").arg(title));
-    m_detail->setText(m_model.statusDetail());
+    const auto detail = m_model.statusDetail();
+    m_dot->setStatus(statusColor(m_model), tr("Status: %1 \u2013 %2").arg(title, detail));
+    m_title->setText(title);
+    m_detail->setText(detail);
     // The panel holds the focus while Play is pressed and disabled.
     setAccessibleName(title);
-    setAccessibleDescription(m_model.statusDetail());
-    if (m_title->text() == title)
-        return;
-    m_title->setText(title);
-    announce(*m_title);
+    setAccessibleDescription(detail);
 }
 
 void PlayPanel::refreshProgress()
@@ -208,10 +198,7 @@ void PlayPanel::refreshFailure()
         fillFailureBlock();
     if (shown)
         m_failure->setText(*failure);
-    const auto appears = shown && m_failureBlock->isHidden();
     m_failureBlock->setVisible(shown);
-    if (appears)
-        announce(m_failure->edit());
 }
 
 void PlayPanel::refreshLog()

@@ -4,8 +4,8 @@
 #include <QColor>
 #include <QLabel>
 
-/// A small disc that shows the launcher's status as a colour. Its accessible name says the same in
-/// words, for whom colour does not tell.
+/// A small disc that shows the launcher's status as a colour. To assistive technology it is a notice
+/// that says the status in words and is read out when they change.
 class StatusDot final : public QLabel
 {
     Q_OBJECT
@@ -24,5 +24,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void announce();
+
     Color m_color;
 };
