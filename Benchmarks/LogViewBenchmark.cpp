@@ -4,6 +4,7 @@
 #include "Support/FakeDesktop.h"
 
 #include "AppModel.h"
+#include "Platform/SessionLock.h"
 #include "Views/LauncherStyle.h"
 #include "Views/LogView.h"
 
@@ -54,7 +55,8 @@ private:
 void eventLoopGaps(benchmark::State& state)
 {
     FakeDesktop desktop;
-    AppModel model(desktop);
+    const SessionLock session{QString()};
+    AppModel model(desktop, session);
     LogView view(model);
     view.resize(580, view.sizeHint().height());
     view.show();
