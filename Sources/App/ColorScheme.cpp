@@ -57,16 +57,16 @@ ColorScheme::ColorScheme(QObject* parent)
     if (!bus.isConnected())
         return;
     bus.connect(QLatin1String(service), QLatin1String(path), QLatin1String(settings),
-                QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+                QStringLiteral("SettingChanged"), this, SLOT(settingChanged(QDBusMessage)));
     ask();
 }
 
-void ColorScheme::settingChanged(const QString& group, const QString& key,
-                                 const QDBusVariant& value)
+void ColorScheme::settingChanged(const QDBusMessage& change)
 {
-    if (group == QLatin1String(appearance) && key == QLatin1String(colorScheme))
-        apply(unwrapped(value.variant()));
+    const auto words = change.arguments();
+    if (words.size() == 3 && words.at(0) == QLatin1String(appearance) &&
+        words.at(1) == QLatin1String(colorScheme))
+        apply(unwrapped(words.at(2)));
 }
 
 void ColorScheme::ask()

@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-class QDBusVariant;
+class QDBusMessage;
 
 /// Follows the session's preference for light or dark, where the desktop tells it over the session
 /// bus and no platform theme of Qt's does.
@@ -19,7 +19,9 @@ public:
     explicit ColorScheme(QObject* parent = nullptr);
 
 private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    /// The whole message, since Qt 6.4 connects no signal to a slot that takes a variant of the
+    /// bus's own until somebody has registered that type.
+    void settingChanged(const QDBusMessage& change);
 
 private:
     void ask();

@@ -7,6 +7,7 @@ import subprocess
 from pathlib import Path
 
 from rig import window_manager
+from rig.waiting import wait_for
 
 SCREEN = "1920x1080x24"
 
@@ -62,6 +63,35 @@ class Desktop:
             data=(32, [display.get_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0])))
         display.sync()
         display.close()
+
+    def cover(self, title: str) -> None:
+        """Opens a window as large as the display in front of all others."""
+        from Xlib import X
+        from Xlib.display import Display
+        # The window lasts as long as the connection.
+        self._cover = Display(self.environment["DISPLAY"])
+        screen = self._cover.screen()
+        window = screen.root.create_window(0, 0, screen.width_in_pixels, screen.height_in_pixels,
+                                           0, X.CopyFromParent)
+        window.set_wm_name(title)
+        window.map()
+        self._cover.sync()
+        wait_for(f"\"{title}\" in front", lambda: self.front() == title)
+
+    def front(self) -> str:
+        """The title of the window that lies over all others."""
+        return self._ask("getwindowname", self._visible_windows()[-1]).strip()
+
+    def color_in(self, title: str, x: int, y: int) -> tuple[int, ...]:
+        """What a window shows at a point of its own: red, green and blue."""
+        from Xlib import X
+        from Xlib.display import Display
+        display = Display(self.environment["DISPLAY"])
+        number, = self._visible_windows(f"^{title}$")
+        window = display.create_resource_object("window", int(number))
+        blue, green, red = window.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data[:3]
+        display.close()
+        return red, green, blue
 
     def clipboard(self) -> str:
         """The text that any other program would now paste: nothing before the first copy."""
