@@ -5,8 +5,8 @@ in the same instant one stays."""
 import time
 
 from rig import setup
+from rig.launcher import TITLE
 from rig.waiting import wait_for
-
 
 def run(world):
     setup.offer(world)
@@ -14,8 +14,10 @@ def run(world):
     launcher = world.launcher
     under_way = list(world.home.temporary.iterdir())
 
+    world.desktop.cover("Something else")
     second = world.start_launcher()
     assert second.wait_for_end() == 0
+    wait_for("The first window in front", lambda: world.desktop.front() == TITLE)
     assert launcher.is_running()
     assert launcher.shows("Downloading")
     assert list(world.home.temporary.iterdir()) == under_way
