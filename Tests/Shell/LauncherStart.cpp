@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A start of the launcher without its window: takes a lock file, an activation token and how many
-// milliseconds to be patient, and writes what the start comes to, and every later start that it is
-// told of, a line each. The first launcher goes on until its standard input ends; a line there
-// makes it stop listening.
+// milliseconds to be patient. It writes a line to standard error before it begins, and to standard
+// output what it comes to and every later start that it is told of, a line each. The first launcher
+// goes on until its standard input ends; a line there makes it stop listening.
 #include "Platform/SessionLock.h"
 #include "SingleInstance.h"
 
@@ -33,6 +33,7 @@ int main(int argumentCount, char** arguments)
     QObject::connect(&instance, &SingleInstance::activated,
                      [](const QByteArray& token) { say("activated " + token); });
 
+    std::fputs("begins\n", stderr);
     const std::chrono::milliseconds patience(QByteArray(arguments[3]).toInt());
     switch (instance.start(arguments[2], patience)) {
     case SingleInstance::Start::HandedOver:

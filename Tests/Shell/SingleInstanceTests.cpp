@@ -34,6 +34,11 @@ public:
         waitUntil([this] { return m_process.canReadLine(); });
         return m_process.readLine().trimmed();
     }
+    [[nodiscard]] bool hasLine() const { return m_process.canReadLine(); }
+    void waitUntilItBegins()
+    {
+        waitUntil([this] { return !m_process.readAllStandardError().isEmpty(); });
+    }
     void stopListening()
     {
         m_process.write("x");
@@ -106,6 +111,9 @@ TEST_F(SingleInstanceTest, succeedsALauncherThatIsAboutToEnd)
     ASSERT_EQ(first.nextLine(), "first");
     first.stopListening();
     Start second(m_lock, {});
+    second.waitUntilItBegins();
+    QTest::qWait(300);
+    EXPECT_FALSE(second.hasLine()) << "It does not wait.";
     first.end();
     EXPECT_EQ(second.nextLine(), "first");
 }

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "WidgetDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLayout>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace {
+
+class WidgetDesktopTest : public testing::Test
+{
+protected:
+    WidgetDesktopTest() { window.show(); }
+
+    /// Asks a question and does something to its alert; gives whether the action was chosen.
+    bool ask(const std::function<void(QMessageBox&)>& answer)
+    {
+        QTimer::singleShot(0, &window, [&] {
+            auto* const alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!alert)
+                qFatal("There is no alert.");
+            answer(*alert);
+            EXPECT_FALSE(alert->isVisible());
+            alert->reject();
+        });
+        return desktop.confirm(QStringLiteral("Really?"),
+                               QStringLiteral("It is & stays <b>so</b>."), QStringLiteral("Do it"));
+    }
+
+    QWidget window;
+    WidgetDesktop desktop;
+};
+
+TEST_F(WidgetDesktopTest, asksOverTheWindowInPlainWords)
+{
+    ask([&](QMessageBox& alert) {
+        EXPECT_EQ(alert.parentWidget(), &window);
+        EXPECT_EQ(alert.text(), QStringLiteral("Really?"));
+        EXPECT_EQ(alert.informativeText(), QStringLiteral("It is & stays <b>so</b>."));
+        EXPECT_EQ(alert.textFormat(), Qt::PlainText);
+        alert.reject();
+    });
+}
+
+TEST_F(WidgetDesktopTest, offersTheActionFirstAndThenCancel)
+{
+    ask([](QMessageBox& alert) {
+        const auto buttons = alert.buttons();
+        ASSERT_EQ(buttons.size(), 2);
+        EXPECT_EQ(buttons.at(0)->text(), QStringLiteral("Do it"));
+        EXPECT_EQ(buttons.at(1)->text(), QStringLiteral("Cancel"));
+        EXPECT_LT(buttons.at(0)->x(), buttons.at(1)->x());
+        alert.reject();
+    });
+}
+
+TEST_F(WidgetDesktopTest, takesTheActionForReturnAndCancelForEscape)
+{
+    EXPECT_TRUE(ask([](QMessageBox& alert) { QTest::keyClick(&alert, Qt::Key_Return); }));
+    EXPECT_FALSE(ask([](QMessageBox& alert) { QTest::keyClick(&alert, Qt::Key_Escape); }));
+    EXPECT_TRUE(ask([](QMessageBox& alert) { alert.buttons().at(0)->click(); }));
+    EXPECT_FALSE(ask([](QMessageBox& alert) { alert.buttons().at(1)->click(); }));
+    EXPECT_FALSE(ask([](QMessageBox& alert) { alert.close(); }));
+}
+
+TEST_F(WidgetDesktopTest, padsAnAlertBy20)
+{
+    ask([](QMessageBox& alert) {
+        QRect content;
+        for (const auto* const child : alert.findChildren<QWidget*>()) {
+            const QRect place(child->mapTo(&alert, QPoint()), child->size());
+            if (child->isVisible())
+                content |= place;
+        }
+        EXPECT_EQ(content, alert.rect().adjusted(20, 20, -20, -20));
+        alert.reject();
+    });
+}
+
+TEST_F(WidgetDesktopTest, copiesTextsOfAnyLengthAsTheyAre)
+{
+    const auto text = QStringLiteral("one\ntwo \u2013 <b>three</b>\n").repeated(10'000);
+    desktop.copyText(text);
+    EXPECT_EQ(QApplication::clipboard()->text(), text);
+}
+
+} // namespace
