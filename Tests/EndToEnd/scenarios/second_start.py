@@ -8,6 +8,7 @@ from rig import setup
 from rig.launcher import TITLE
 from rig.waiting import wait_for
 
+
 def run(world):
     setup.offer(world)
     setup.play_until(world, setup.GAME)
