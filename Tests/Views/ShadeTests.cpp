@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QMessageBox>
+#include <QTest>
 
 namespace {
 
@@ -18,6 +19,19 @@ protected:
         settle();
         const auto picture = window.grab().toImage();
         return qGray(picture.pixel(2, picture.height() / 2));
+    }
+
+    /// Tells `blocked` that it has the keyboard now, as a window manager might that knows no
+    /// better.
+    static void expectHandedOn(QWidget& blocked, QWidget& front)
+    {
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(&blocked, &activation);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&front));
     }
 };
 
@@ -53,6 +67,24 @@ TEST_F(Shade, growsWithTheWindow)
     const auto corner = picture.pixel(picture.width() - 2, picture.height() - 2);
     EXPECT_LT(qGray(corner), plain - 30);
     sheet.reject();
+}
+
+TEST_F(Shade, handsTheKeyboardOnToTheSheetInFront)
+{
+    auto& sheet = open<AboutView>(QStringLiteral("About"));
+    expectHandedOn(window(), sheet);
+    sheet.reject();
+}
+
+TEST_F(Shade, handsTheKeyboardOnToTheAlertInFront)
+{
+    auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
+    QMessageBox alert(&sheet);
+    alert.setWindowModality(Qt::WindowModal);
+    alert.open();
+    expectHandedOn(window(), alert);
+    expectHandedOn(sheet, alert);
+    alert.reject();
 }
 
 } // namespace

@@ -174,7 +174,7 @@ void ContentView::keepColumnInPlace()
 bool ContentView::event(QEvent* event)
 {
     passOnFontChange(*this, *event);
-    shadeWhileBlocked(*this, *event);
+    standBackWhileBlocked(*this, *event);
     return QScrollArea::event(event);
 }
 

@@ -49,9 +49,8 @@ void paintProminent(QPainter& painter, const QRectF& rect, QStyle::State state,
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     // Darker in dark too: its label is white.
-    painter.setBrush(state.testFlag(QStyle::State_Enabled)
-                         ? inState(accent, state, Qt::black)
-                         : SystemColors::withOpacity(text, 0.12));
+    painter.setBrush(state.testFlag(QStyle::State_Enabled) ? inState(accent, state, Qt::black)
+                                                           : SystemColors::withOpacity(text, 0.12));
     painter.drawRoundedRect(rect, cornerRadius, cornerRadius);
     painter.restore();
     if (showsFocus(state))

@@ -3,8 +3,10 @@
 
 #include "Views/SystemColors.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWidget>
 
 namespace {
@@ -43,18 +45,37 @@ protected:
     }
 };
 
+Shade* shadeOf(const QWidget& window)
+{
+    return window.findChild<Shade*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void activateFrontWindow()
+{
+    if (auto* const front = QApplication::activeModalWidget())
+        front->activateWindow();
+}
+
 } // namespace
 
-void shadeWhileBlocked(QWidget& window, const QEvent& event)
+void standBackWhileBlocked(QWidget& window, const QEvent& event)
 {
-    const auto blocks = event.type() == QEvent::WindowBlocked;
-    if (!blocks && event.type() != QEvent::WindowUnblocked)
-        return;
-    auto* const shade = window.findChild<Shade*>(QString(), Qt::FindDirectChildrenOnly);
-    if (blocks && !shade)
-        new Shade(window);
-    else if (!blocks)
-        delete shade;
+    switch (event.type()) {
+    case QEvent::WindowBlocked:
+        if (!shadeOf(window))
+            new Shade(window);
+        break;
+    case QEvent::WindowUnblocked:
+        delete shadeOf(window);
+        break;
+    case QEvent::WindowActivate:
+        // Not at once: the request has to be younger than the activation that it answers.
+        if (auto* const shade = shadeOf(window))
+            QTimer::singleShot(0, shade, activateFrontWindow);
+        break;
+    default:
+        break;
+    }
 }
 
 #include "Shade.moc"

@@ -45,7 +45,7 @@ bool Sheet::event(QEvent* event)
 {
     const auto handled = QDialog::event(event);
     passOnFontChange(*this, *event);
-    shadeWhileBlocked(*this, *event);
+    standBackWhileBlocked(*this, *event);
     // The content wraps, so its height follows from the fixed width and has to be asked for.
     if (event->type() == QEvent::LayoutRequest && layout())
         setFixedHeight(layout()->heightForWidth(sheetWidth));

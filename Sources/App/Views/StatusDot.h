@@ -4,8 +4,8 @@
 #include <QColor>
 #include <QLabel>
 
-/// A small disc that shows the launcher's status as a colour. To assistive technology it is a notice
-/// that says the status in words and is read out when they change.
+/// A small disc that shows the launcher's status as a colour. To assistive technology it is a
+/// notice that says the status in words and is read out when they change.
 class StatusDot final : public QLabel
 {
     Q_OBJECT
