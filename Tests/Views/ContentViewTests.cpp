@@ -64,6 +64,23 @@ TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindow)
     EXPECT_EQ(window().horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(ContentViewTest, scrollsToTheLogWhenThatIsDisclosedBelow)
+{
+    AppModelAccess::fail(model(), QStringLiteral("It broke."));
+    settle();
+    const auto& bar = *window().verticalScrollBar();
+    ASSERT_EQ(bar.value(), 0);
+    button(QStringLiteral("Show log"))->click();
+    settle();
+    auto& copy = *button(QStringLiteral("Copy log"));
+    EXPECT_EQ(place(copy).bottom() + 1 + 20, window().viewport()->height());
+    const auto reached = bar.value();
+    EXPECT_GT(reached, 0);
+    model().log().append(QStringLiteral("one more"));
+    settle();
+    EXPECT_EQ(bar.value(), reached) << "from there on the window stays where it is";
+}
+
 TEST_F(ContentViewTest, wrapsNothingAnewWhenTheScrollBarComes)
 {
     const auto& panel = only<PlayPanel>();

@@ -15,10 +15,12 @@
 
 #include <QAccessibleWidget>
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWindow>
 
 #include <array>
@@ -100,6 +102,7 @@ ContentView::ContentView(AppModel& model)
     m_panel->playButton().setFocus();
 
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ContentView::keepColumnInPlace);
+    connect(m_panel, &PlayPanel::disclosed, this, &ContentView::bringIntoView);
     connect(&m_model, &AppModel::changed, this, &ContentView::refreshFacts);
     refreshFacts();
 }
@@ -157,6 +160,15 @@ void ContentView::refreshFacts()
     const auto& facts = m_model.facts();
     m_summary->setText(facts.summary);
     m_credits->setText(facts.license + QStringLiteral(" \u00b7 ") + facts.author);
+}
+
+void ContentView::bringIntoView(QWidget* disclosed)
+{
+    QTimer::singleShot(0, disclosed, [this, disclosed] {
+        // A layout tells the one around it by an event, and so on up to the column.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        ensureWidgetVisible(disclosed, 0, padding);
+    });
 }
 
 void ContentView::keepColumnInPlace()

@@ -36,6 +36,8 @@ private:
 
     void refreshFacts();
     void fitToScreen();
+    /// Scrolls to what a press has just added, as far as the window is too small for it.
+    void bringIntoView(QWidget* disclosed);
     /// Puts the scroll bar into the padding, so that nothing wraps anew when it comes and goes.
     void keepColumnInPlace();
     /// Opens the sheet that `make` builds, unless one is open.

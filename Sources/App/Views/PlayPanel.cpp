@@ -209,6 +209,7 @@ void PlayPanel::refreshLog()
         m_log = new LogView(m_model);
         m_disclosed->layout()->addWidget(m_log);
         m_log->followInTabOrder(*m_showLog);
+        Q_EMIT disclosed(m_log);
     } else if (!shown && m_log) {
         delete std::exchange(m_log, nullptr);
     }

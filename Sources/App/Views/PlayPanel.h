@@ -31,6 +31,11 @@ public:
 
     [[nodiscard]] PlayButton& playButton() { return *m_play; }
 
+Q_SIGNALS:
+    /// The log has been disclosed. It is shown and laid out once the events that wait have had
+    /// their turn.
+    void disclosed(QWidget* log);
+
 private:
     [[nodiscard]] QWidget* statusRow();
     [[nodiscard]] QWidget* progressBlock();
