@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qsizetype chunkSize = 64 * 1024;
+constexpr qsizetype chunkSize = qsizetype{64} * 1024;
 
 QByteArray linesOf(qsizetype lineLength, qsizetype total)
 {

@@ -68,6 +68,6 @@ void AnswerTimes::takeAnswers(XConnection::Clock::time_point until)
         const auto& answer = *reinterpret_cast<xcb_client_message_event_t*>(event.get());
         const auto question = answer.data.data32[3];
         if (answer.data.data32[0] == m_ping && question < m_asked.size())
-            m_answers.push_back(XConnection::Clock::now() - m_asked[question]);
+            m_answers.emplace_back(XConnection::Clock::now() - m_asked[question]);
     }
 }

@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr qsizetype chunkSize = 64 * 1024;
-constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype chunkSize = qsizetype{64} * 1024;
+constexpr qsizetype mebibyte = qsizetype{1024} * 1024;
 
 /// Whole lines that also fill whole chunks, so that they can be fed over and over again. In most
 /// chunks the last line is cut.

@@ -198,11 +198,12 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     const auto secondCount = countMissing(info.folder, stop);
     const auto after = co_await secondCount;
     throwIfCancelled(stop);
-    if (after >= 1)
+    if (after >= 1) {
         throw AppError(QStringLiteral("The first-time setup did not finish: %1 game assets were "
                                       "not imported (engine exit code %2).")
                            .arg(after)
                            .arg(status));
+    }
     createEmptyFile(manager.markerFile());
 }
 

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <utility>
+
 /// Where the launcher stands. A value: two phases are equal when their kinds are equal and, for
 /// `needs`, their messages are.
 class Phase final
@@ -46,9 +48,9 @@ public:
     bool operator==(Kind kind) const { return m_kind == kind; }
 
 private:
-    Phase(Kind kind, const QString& message)
+    Phase(Kind kind, QString message)
         : m_kind(kind)
-        , m_message(message)
+        , m_message(std::move(message))
     {
     }
 

@@ -19,12 +19,9 @@ void ProgressRelay::report(const DownloadProgress& progress)
         if (std::exchange(m_waiting, progress))
             return; // A delivery is on its way and takes this report along.
     }
-    QMetaObject::invokeMethod(this, &ProgressRelay::scheduleDelivery, Qt::QueuedConnection);
-}
-
-void ProgressRelay::scheduleDelivery()
-{
-    QTimer::singleShot(deliveryInterval, this, &ProgressRelay::deliver);
+    QMetaObject::invokeMethod(
+        this, [this] { QTimer::singleShot(deliveryInterval, this, &ProgressRelay::deliver); },
+        Qt::QueuedConnection);
 }
 
 void ProgressRelay::deliver()

@@ -25,7 +25,6 @@ Q_SIGNALS:
     void progressed(const DownloadProgress& progress);
 
 private:
-    void scheduleDelivery();
     void deliver();
 
     std::mutex m_lock;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -41,9 +42,9 @@ bool isOwnUser(const QLocalSocket& socket)
 
 } // namespace
 
-SingleInstance::SingleInstance(SessionLock& lock, const QString& name)
+SingleInstance::SingleInstance(SessionLock& lock, QString name)
     : m_lock(lock)
-    , m_name(name)
+    , m_name(std::move(name))
 {
     // Where the system has addresses that are not files.
     m_server.setSocketOptions(QLocalServer::AbstractNamespaceOption);

@@ -32,7 +32,7 @@ public:
     };
 
     /// `lock` must outlive this. `name` tells installations apart, see addressOf().
-    SingleInstance(SessionLock& lock, const QString& name);
+    SingleInstance(SessionLock& lock, QString name);
 
     /// The name by which the launchers of one user and one lock file find each other.
     static QString addressOf(const QString& lockFile);

@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype mebibyte = qsizetype{1024} * 1024;
 const auto tooLarge =
     QStringLiteral("The engine checksum list is larger than 1 MiB, so it was not read.");
 

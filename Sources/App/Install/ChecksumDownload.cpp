@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qint64 largestList = 1024 * 1024;
+constexpr qint64 largestList = qint64{1024} * 1024;
 
 class ListReceiver final : public HttpReceiver
 {

@@ -13,8 +13,9 @@ QCoro::Task<> clearQuarantine(ToolCommand tool, LogCallback log, std::stop_token
         "from opening."));
     auto run = runTool(tool, log, stop);
     const int status = co_await run;
-    if (status != 0)
+    if (status != 0) {
         log(QStringLiteral(
                 "xattr finished with code %1 (usually harmless if the flag was not set).")
                 .arg(status));
+    }
 }

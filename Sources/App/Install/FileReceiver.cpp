@@ -12,9 +12,9 @@
 #include <cstdio>
 #include <utility>
 
-FileReceiver::FileReceiver(const QUrl& url, const QString& folder, const QString& name,
+FileReceiver::FileReceiver(QUrl url, const QString& folder, const QString& name,
                            ProgressCallback onProgress, QPromise<QString> result)
-    : m_url(url)
+    : m_url(std::move(url))
     , m_destination(folder + u'/' + name)
     , m_partPath(folder + QStringLiteral("/.download-") + Paths::newUuid())
     , m_onProgress(std::move(onProgress))

@@ -24,8 +24,8 @@ public:
 
     /// Writes what `url` gives to the file `name` in the existing folder `folder`, and gives its
     /// path through `result`. The transfer's time counts from now.
-    FileReceiver(const QUrl& url, const QString& folder, const QString& name,
-                 ProgressCallback onProgress, QPromise<QString> result);
+    FileReceiver(QUrl url, const QString& folder, const QString& name, ProgressCallback onProgress,
+                 QPromise<QString> result);
     ~FileReceiver() override;
 
     void begin(int status, qint64 length) override;

@@ -16,8 +16,8 @@
 namespace {
 
 /// What the network may hold of a body that the receiver has not taken yet.
-constexpr qint64 readAhead = 4 * 1024 * 1024;
-constexpr qsizetype pieceSize = 256 * 1024;
+constexpr qint64 readAhead = qint64{4} * 1024 * 1024;
+constexpr qsizetype pieceSize = qsizetype{256} * 1024;
 
 QNetworkRequest requestFor(const QUrl& url)
 {
@@ -60,9 +60,9 @@ std::shared_ptr<HttpTransfer> HttpTransfer::start(const QUrl& url,
     return transfer;
 }
 
-HttpTransfer::HttpTransfer(const QUrl& url, std::unique_ptr<HttpReceiver> receiver,
+HttpTransfer::HttpTransfer(QUrl url, std::unique_ptr<HttpReceiver> receiver,
                            std::chrono::milliseconds stallLimit)
-    : m_url(url)
+    : m_url(std::move(url))
     , m_receiver(std::move(receiver))
     , m_stallLimit(stallLimit)
 {
@@ -149,13 +149,14 @@ void HttpTransfer::replyFinished()
         readBody();
     if (!m_reply)
         return;
-    if (failed)
+    if (failed) {
         fail(std::make_exception_ptr(transferError(m_url, m_reply->errorString())));
-    else if (m_length >= 0 && m_received != m_length)
+    } else if (m_length >= 0 && m_received != m_length) {
         fail(std::make_exception_ptr(
             transferError(m_url, QStringLiteral("The connection ended too early"))));
-    else
+    } else {
         complete();
+    }
 }
 
 void HttpTransfer::stalled()

@@ -35,7 +35,7 @@ public:
     void cancel();
 
 private:
-    HttpTransfer(const QUrl& url, std::unique_ptr<HttpReceiver> receiver,
+    HttpTransfer(QUrl url, std::unique_ptr<HttpReceiver> receiver,
                  std::chrono::milliseconds stallLimit);
 
     void open();

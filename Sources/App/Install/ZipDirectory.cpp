@@ -17,7 +17,7 @@ constexpr qint64 end64Size = 56;
 constexpr qsizetype headerSize = 46;
 constexpr qint64 longestComment = 65'535;
 /// Some 100,000s of entries; a larger directory would only serve to fill memory.
-constexpr quint64 largestDirectory = 64 * 1024 * 1024;
+constexpr quint64 largestDirectory = quint64{64} * 1024 * 1024;
 constexpr quint64 mostEntries = 1'000'000;
 
 constexpr quint32 elsewhere32 = 0xffffffff;

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t blockSize = 64 * 1024;
+constexpr std::size_t blockSize = std::size_t{64} * 1024;
 
 ZipEntry::Kind kindOf(archive_entry* entry)
 {

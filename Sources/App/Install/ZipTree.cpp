@@ -48,10 +48,11 @@ void ZipTree::makeFolder(const std::string& place)
         makeFolder(place.substr(0, slash));
     if (::mkdirat(m_folder.get(), place.c_str(), executableMode) != 0) {
         const auto reason = errno;
-        if (reason != EEXIST || !isFolder(m_folder.get(), place))
+        if (reason != EEXIST || !isFolder(m_folder.get(), place)) {
             throw PlatformError::fromErrno(
                 QStringLiteral("create the folder “%1”").arg(QString::fromStdString(place)),
                 reason);
+        }
     }
     m_made.insert(place);
 }

@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <limits>
+#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -42,8 +43,8 @@ std::vector<std::string_view> partsOf(std::string_view path)
 void pushParts(std::vector<std::string>& rest, std::string_view first)
 {
     const auto parts = partsOf(first);
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
-        rest.emplace_back(*part);
+    for (const auto part : std::views::reverse(parts))
+        rest.emplace_back(part);
 }
 
 std::string folderOf(const std::string& place)

@@ -15,7 +15,7 @@ namespace {
 
 QString homeInUserDatabase()
 {
-    std::array<char, 16 * 1024> buffer = {};
+    std::array<char, std::size_t{16}* 1024> buffer = {};
     struct passwd entry = {};
     struct passwd* found = nullptr;
     if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)

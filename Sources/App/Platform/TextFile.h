@@ -11,7 +11,7 @@ namespace TextFile {
 
 /// The most a text file of the game may hold; a larger one counts as unreadable, so that no file
 /// of the game can fill memory or hold up the window.
-constexpr qint64 maximumSize = 4 * 1024 * 1024;
+constexpr qint64 maximumSize = qint64{4} * 1024 * 1024;
 
 /// The whole text of the regular file at `path`. Nothing when it is missing, unreadable, not a
 /// regular file, larger than `maximumSize` or not well-formed UTF-8. A byte order mark at its

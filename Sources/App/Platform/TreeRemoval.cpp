@@ -9,6 +9,7 @@
 #include <string_view>
 #include <system_error>
 #include <tuple>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -107,8 +108,8 @@ std::optional<TreeRemoval::Obstacle> TreeRemoval::remove(const QString& path)
     return removal.m_obstacle;
 }
 
-TreeRemoval::TreeRemoval(const QString& path)
-    : m_parentPath(path)
+TreeRemoval::TreeRemoval(QString path)
+    : m_parentPath(std::move(path))
 {
 }
 

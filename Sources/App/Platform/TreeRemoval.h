@@ -42,7 +42,7 @@ private:
         bool isEmptied = true;
     };
 
-    explicit TreeRemoval(const QString& path);
+    explicit TreeRemoval(QString path);
 
     void run(const std::string& name);
     [[nodiscard]] bool isMount(int folder, const char* name) const;

@@ -6,7 +6,7 @@
 #if defined(__APPLE__)
 #include <xlocale.h>
 #else
-#include <locale.h>
+#include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale() is only here
 #endif
 
 /// Has the C library spell names as UTF-8 on this thread for the life of the object, whatever the

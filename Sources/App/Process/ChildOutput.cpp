@@ -16,7 +16,7 @@
 namespace {
 
 /// As much as a pipe holds by default.
-constexpr std::size_t chunkSize = 64 * 1024;
+constexpr std::size_t chunkSize = std::size_t{64} * 1024;
 
 } // namespace
 

@@ -20,14 +20,15 @@ public:
 
     LogCallback() = default;
 
+    // A callback is what a function stands for, and its constraint leaves copies alone.
+    // NOLINTBEGIN(google-explicit-constructor,bugprone-forwarding-reference-overload)
     template<typename Function>
     requires(!std::same_as<std::remove_cvref_t<Function>, LogCallback> &&
-             std::invocable<Function&, const QString&>)
-        LogCallback(
-            Function&& takeLine) // NOLINT(google-explicit-constructor): stands for a function
+             std::invocable<Function&, const QString&>) LogCallback(Function&& takeLine)
         : m_takeLine(std::forward<Function>(takeLine))
     {
     }
+    // NOLINTEND(google-explicit-constructor,bugprone-forwarding-reference-overload)
 
     /// `takeBlock` gets whole lines as the child wrote them, each ended by a line feed; it must
     /// have the effect of `takeLine` called with each of them.

@@ -48,14 +48,14 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     painter.save();
     painter.setPen(QPen(emphasised ? text : SystemColors::secondaryText(palette()), 1.75,
                         Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.translate(QRectF(style()->visualRect(layoutDirection(), rect(), place)).center());
+    painter.translate(QRectF(QStyle::visualRect(layoutDirection(), rect(), place)).center());
     painter.rotate(isChecked() ? 90 : (isRightToLeft() ? 180 : 0));
     painter.drawPath(Glyphs::chevron({-2, -4, 4, 8}));
     painter.restore();
 
     painter.setPen(text);
     const auto label = rect().adjusted(titleStart, 0, 0, 0);
-    painter.drawText(style()->visualRect(layoutDirection(), rect(), label),
+    painter.drawText(QStyle::visualRect(layoutDirection(), rect(), label),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), this->text());
     if (ControlFace::showsFocus(option.state))
         ControlFace::paintFocusRing(painter, rect(), 4, SystemColors::blue(palette()));

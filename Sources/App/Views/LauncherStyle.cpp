@@ -209,10 +209,11 @@ QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionCo
     if (control == CC_ComboBox && part == SC_ComboBoxEditField)
         return visualRect(option->direction, rect,
                           rect.adjusted(horizontalButtonPadding - 4, 1, -popUpArrowWidth, -1));
-    if (control == CC_ComboBox && part == SC_ComboBoxArrow)
+    if (control == CC_ComboBox && part == SC_ComboBoxArrow) {
         return visualRect(
             option->direction, rect,
             {rect.right() + 1 - popUpArrowWidth, rect.top(), popUpArrowWidth, rect.height()});
+    }
     if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
         bar && control == CC_ScrollBar)
         return visualRect(option->direction, rect, ScrollBarFace::part(*bar, part));

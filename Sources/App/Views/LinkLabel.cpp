@@ -64,5 +64,5 @@ void LinkLabel::focusOutEvent(QFocusEvent* event)
 bool LinkLabel::focusNextPrevChild(bool next)
 {
     // A label stops at each of its links as well as at itself. This one is its link.
-    return QWidget::focusNextPrevChild(next);
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): on purpose
 }

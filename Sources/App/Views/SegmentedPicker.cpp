@@ -58,11 +58,12 @@ protected:
         painter.drawText(rect(), Qt::AlignCenter, this->text());
         if (!ControlFace::showsFocus(option.state))
             return;
-        if (isChecked())
+        if (isChecked()) {
             ControlFace::paintFocusRing(painter, face.adjusted(1.5, 1.5, -1.5, -1.5), radius - 1.5,
                                         Qt::white);
-        else
+        } else {
             ControlFace::paintFocusRing(painter, face, radius, SystemColors::blue(palette()));
+        }
     }
 };
 

@@ -12,13 +12,13 @@ namespace {
 
 /// Averages each value of a row with its neighbours up to `reach` away; outside all is empty.
 /// `step` is the distance between two neighbours, so that a column is a row too.
-void boxBlur(uchar* first, qsizetype count, qsizetype step, int reach)
+void boxBlur(uchar* first, qsizetype count, qsizetype step, qsizetype reach)
 {
     std::vector<int> values(static_cast<size_t>(count + 2 * reach));
     for (qsizetype i = 0; i < count; ++i)
         values[static_cast<size_t>(i + reach)] = first[i * step];
     auto sum = 0;
-    for (auto i = 0; i < 2 * reach; ++i)
+    for (qsizetype i = 0; i < 2 * reach; ++i)
         sum += values[static_cast<size_t>(i)];
     for (qsizetype i = 0; i < count; ++i) {
         sum += values[static_cast<size_t>(i + 2 * reach)];

@@ -27,8 +27,8 @@ double luminance(const QColor& color)
 /// `color`, mixed with as little of `goal` as makes it stand out enough from `other`.
 QColor movedTowards(const QColor& goal, const QColor& color, const QColor& other)
 {
-    for (auto share = 0.0; share < 1; share += 0.02) {
-        const auto candidate = blended(withOpacity(goal, share), color);
+    for (auto percent = 0; percent < 100; percent += 2) {
+        const auto candidate = blended(withOpacity(goal, percent / 100.0), color);
         if (contrast(candidate, other) >= readableContrast)
             return candidate;
     }
@@ -71,7 +71,8 @@ QColor secondaryText(const QPalette& palette)
 {
     const auto window = palette.color(QPalette::Window);
     const auto text = palette.color(QPalette::WindowText);
-    for (auto opacity = 0.55; opacity < 1; opacity += 0.01) {
+    for (auto percent = 55; percent < 100; ++percent) {
+        const auto opacity = percent / 100.0;
         const auto candidate = withOpacity(text, opacity);
         const auto panel = blended(withOpacity(text, opacity * panelOpacity), window);
         if (contrast(blended(candidate, panel), panel) >= readableContrast &&
