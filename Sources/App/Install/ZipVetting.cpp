@@ -8,7 +8,6 @@
 #include <QFile>
 
 #include <limits>
-#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -43,8 +42,7 @@ std::vector<std::string_view> partsOf(std::string_view path)
 void pushParts(std::vector<std::string>& rest, std::string_view first)
 {
     const auto parts = partsOf(first);
-    for (const auto part : std::views::reverse(parts))
-        rest.emplace_back(part);
+    rest.insert(rest.end(), parts.rbegin(), parts.rend());
 }
 
 std::string folderOf(const std::string& place)
