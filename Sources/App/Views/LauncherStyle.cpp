@@ -139,12 +139,13 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         paintDialogEdge(*painter, *option);
         return;
     case PE_PanelButtonCommand:
-        if (isDefaultButton(*option))
+        if (isDefaultButton(*option)) {
             ControlFace::paintProminent(*painter, option->rect, option->state, option->palette,
                                         SystemColors::accentUnderText(option->palette),
                                         ControlFace::radius);
-        else
+        } else {
             ControlFace::paint(*painter, option->rect, option->state, option->palette);
+        }
         return;
     case PE_FrameFocusRect:
         // A button's face paints its own ring; this one is for the rest, links for example.
