@@ -13,9 +13,11 @@
 
 namespace {
 
+constexpr std::size_t longestEntry = 16'384;
+
 QString homeInUserDatabase()
 {
-    std::array<char, std::size_t{16}* 1024> buffer = {};
+    std::array<char, longestEntry> buffer = {};
     struct passwd entry = {};
     struct passwd* found = nullptr;
     if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)
