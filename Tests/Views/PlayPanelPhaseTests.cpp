@@ -4,6 +4,7 @@
 #include "Views/StatusDot.h"
 #include "Views/SystemColors.h"
 
+#include <QKeyEvent>
 #include <QTest>
 
 #include <ostream>
@@ -87,6 +88,25 @@ TEST_P(EveryPhase, takesReturnForPlayOnlyWherePlayIsEnabled)
             << qPrintable(control->accessibleName()) << control->metaObject()->className();
     }
     EXPECT_EQ(expected > 3, GetParam().play) << "Return is tried from several controls";
+}
+
+TEST_P(EveryPhase, takesNeitherAHeldReturnNorOneWithOtherKeys)
+{
+    enter(GetParam().phase);
+    auto presses = 0;
+    QObject::disconnect(&play(), &QPushButton::clicked, &model(), nullptr);
+    QObject::connect(&play(), &QPushButton::clicked, &play(), [&presses] { ++presses; });
+    for (auto* const control :
+         {static_cast<QWidget*>(&play()), static_cast<QWidget*>(button(QStringLiteral("About")))}) {
+        control->setFocus();
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(control, &repeated);
+        QTest::keyClick(control, Qt::Key_Return, Qt::AltModifier);
+        QTest::keyClick(control, Qt::Key_Return, Qt::ControlModifier);
+    }
+    EXPECT_EQ(presses, 0);
+    QTest::keyClick(&window(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(presses, GetParam().play ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(PlayPanel, EveryPhase, testing::ValuesIn(rows));

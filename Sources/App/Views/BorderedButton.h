@@ -5,10 +5,10 @@
 
 /// An ordinary button. Return stays the default button's, also where the focus is on this one,
 /// which the space bar presses; a click does not move the focus.
-inline QPushButton* borderedButton(const QString& title)
+class BorderedButton : public QPushButton
 {
-    auto* const button = new QPushButton(title);
-    button->setAutoDefault(false);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
+    Q_OBJECT
+
+public:
+    explicit BorderedButton(const QString& title);
+};

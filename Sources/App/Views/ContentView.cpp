@@ -137,8 +137,8 @@ QWidget* ContentView::controlsBlock()
 
 QWidget* ContentView::sheetButtons()
 {
-    auto* const settings = borderedButton(tr("Settings\u2026"));
-    auto* const about = borderedButton(tr("About"));
+    auto* const settings = new BorderedButton(tr("Settings\u2026"));
+    auto* const about = new BorderedButton(tr("About"));
     connect(settings, &QPushButton::clicked, this,
             [this] { openSheet([this] { return new SettingsView(m_model, this); }); });
     connect(about, &QPushButton::clicked, this,
@@ -196,7 +196,7 @@ void ContentView::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event->isAutoRepeat())
+        if (!event->isAutoRepeat() && !(event->modifiers() & ~Qt::KeypadModifier))
             m_panel->pressDefaultButton();
         return;
     case Qt::Key_Home:

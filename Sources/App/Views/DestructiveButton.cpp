@@ -7,7 +7,7 @@
 
 void DestructiveButton::initStyleOption(QStyleOptionButton* option) const
 {
-    QPushButton::initStyleOption(option);
+    BorderedButton::initStyleOption(option);
     const auto face = option->palette.color(QPalette::Active, QPalette::Button);
     const auto red =
         SystemColors::readable(SystemColors::red(option->palette), face, option->palette);

@@ -20,11 +20,9 @@ constexpr auto margin = 5;
 } // namespace
 
 DisclosureButton::DisclosureButton(const QString& title)
-    : QPushButton(title)
+    : BorderedButton(title)
 {
     setCheckable(true);
-    setAutoDefault(false);
-    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
 }

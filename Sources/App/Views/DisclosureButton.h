@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPushButton>
+#include "Views/BorderedButton.h"
 
 /// A title with an angle before it that turns down while the button is checked and what it
 /// discloses is shown.
-class DisclosureButton final : public QPushButton
+class DisclosureButton final : public BorderedButton
 {
     Q_OBJECT
 

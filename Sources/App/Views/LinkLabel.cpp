@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Views/LinkLabel.h"
 
+#include "Views/ReturnKey.h"
+
 #include <QDesktopServices>
 #include <QEvent>
 #include <QKeyEvent>
@@ -17,6 +19,7 @@ LinkLabel::LinkLabel(TextStyle style, const QUrl& address)
     setOpenExternalLinks(true);
     setWordWrap(true);
     setFont(textFont(m_style));
+    leaveReturnToWindow(*this);
 }
 
 QSize LinkLabel::sizeHint() const
@@ -33,17 +36,10 @@ bool LinkLabel::event(QEvent* event)
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        event->ignore();
-        return;
-    case Qt::Key_Space:
+    if (event->key() == Qt::Key_Space)
         QDesktopServices::openUrl(m_address);
-        return;
-    default:
+    else
         QLabel::keyPressEvent(event);
-    }
 }
 
 void LinkLabel::focusInEvent(QFocusEvent* event)

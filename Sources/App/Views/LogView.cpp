@@ -30,7 +30,7 @@ LogView::LogView(AppModel& model)
     : m_log(model.log())
     , m_box(new TextBox(tr("Log"), boxHeight, boxTint))
     , m_edit(m_box->edit())
-    , m_copy(borderedButton(tr("Copy log")))
+    , m_copy(new BorderedButton(tr("Copy log")))
     , m_firstLine(m_log.firstLineNumber())
 {
     connect(m_copy, &QPushButton::clicked, &model, &AppModel::copyLog);

@@ -3,6 +3,7 @@
 
 #include "Views/ControlFace.h"
 #include "Views/Glyphs.h"
+#include "Views/ReturnKey.h"
 #include "Views/Stack.h"
 #include "Views/SystemColors.h"
 #include "Views/TypeScale.h"
@@ -31,6 +32,7 @@ PlayButton::PlayButton()
     setFont(systemFont(fontSize, QFont::Bold));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setDefault(true);
+    leaveReturnToWindow(*this);
 }
 
 QSize PlayButton::sizeHint() const

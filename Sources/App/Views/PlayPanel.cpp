@@ -102,8 +102,8 @@ QWidget* PlayPanel::progressBlock()
 QWidget* PlayPanel::buttonRow()
 {
     m_play = new PlayButton;
-    m_stop = borderedButton(tr("Stop"));
-    m_cancel = borderedButton(tr("Cancel"));
+    m_stop = new BorderedButton(tr("Stop"));
+    m_cancel = new BorderedButton(tr("Cancel"));
     connect(m_play, &QPushButton::clicked, &m_model, &AppModel::play);
     connect(m_stop, &QPushButton::clicked, &m_model, &AppModel::stopGame);
     connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelSetup);
@@ -119,7 +119,7 @@ QWidget* PlayPanel::failureBlock()
 void PlayPanel::fillFailureBlock()
 {
     m_failure = new TextBox(tr("Failure report"), failureHeight, failureTint);
-    auto* const copy = borderedButton(tr("Copy"));
+    auto* const copy = new BorderedButton(tr("Copy"));
     connect(copy, &QPushButton::clicked, &m_model, &AppModel::copyFailure);
     m_failureBlock->layout()->addWidget(m_failure);
     m_failureBlock->layout()->addWidget(

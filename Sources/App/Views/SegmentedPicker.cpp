@@ -2,6 +2,7 @@
 #include "Views/SegmentedPicker.h"
 
 #include "Views/ControlFace.h"
+#include "Views/ReturnKey.h"
 #include "Views/SystemColors.h"
 
 #include <QBoxLayout>
@@ -24,6 +25,7 @@ public:
         : QRadioButton(title)
     {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        leaveReturnToWindow(*this);
     }
 
     [[nodiscard]] QSize sizeHint() const override

@@ -5,6 +5,7 @@
 #include "Views/BorderedButton.h"
 #include "Views/DestructiveButton.h"
 #include "Views/Divider.h"
+#include "Views/ReturnKey.h"
 #include "Views/SegmentedPicker.h"
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
@@ -99,6 +100,7 @@ QWidget* SettingsView::resolutionPicker()
 {
     m_resolution = new QComboBox;
     m_resolution->setAccessibleName(tr("Resolution"));
+    leaveReturnToWindow(*m_resolution);
     for (const auto choice : allResolutionChoices)
         m_resolution->addItem(label(choice));
     connect(m_resolution, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -111,8 +113,8 @@ QWidget* SettingsView::resolutionPicker()
 
 QWidget* SettingsView::gameButtons()
 {
-    m_update = borderedButton(tr("Update the game"));
-    m_reinstall = borderedButton(tr("Reinstall"));
+    m_update = new BorderedButton(tr("Update the game"));
+    m_reinstall = new BorderedButton(tr("Reinstall"));
     connect(m_update, &QPushButton::clicked, this, [this] {
         m_model.updateGame();
         accept();
@@ -126,8 +128,8 @@ QWidget* SettingsView::gameButtons()
 
 QWidget* SettingsView::folderButtons()
 {
-    auto* const reveal = borderedButton(tr("Reveal in Finder"));
-    m_showSaves = borderedButton(tr("Show saves"));
+    auto* const reveal = new BorderedButton(tr("Reveal in Finder"));
+    m_showSaves = new BorderedButton(tr("Show saves"));
     connect(reveal, &QPushButton::clicked, &m_model, &AppModel::revealInFinder);
     connect(m_showSaves, &QPushButton::clicked, &m_model, &AppModel::showSaves);
     return horizontalStack(defaultSpacing, {reveal, m_showSaves, StackItem::spacer()});
@@ -135,8 +137,7 @@ QWidget* SettingsView::folderButtons()
 
 QWidget* SettingsView::removeRow()
 {
-    m_remove = new DestructiveButton;
-    m_remove->setAutoDefault(false);
+    m_remove = new DestructiveButton(QString());
     connect(m_remove, &QPushButton::clicked, &m_model, &AppModel::removeEverything);
     return horizontalStack(defaultSpacing, {m_remove, StackItem::spacer()});
 }

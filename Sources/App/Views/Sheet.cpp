@@ -27,7 +27,7 @@ Sheet::Sheet(const QString& title, QWidget* parent)
 
 QWidget* Sheet::doneRow()
 {
-    m_done = borderedButton(tr("Done"));
+    m_done = new BorderedButton(tr("Done"));
     m_done->setDefault(true);
     connect(m_done, &QPushButton::clicked, this, &QDialog::accept);
     return horizontalStack(defaultSpacing, {StackItem::spacer(), m_done});

@@ -2,7 +2,7 @@
 """Everything can be reached and used without a mouse. The log stays closed, as it is at first."""
 
 from rig.expect import expect_quit
-from rig.keyboard import press_keys
+from rig.keyboard import go_to, press_keys
 from rig.waiting import wait_for
 
 
@@ -20,13 +20,13 @@ def run(world):
         expect_focus(world, name)
     press_keys("shift+Tab")
     expect_focus(world, "About")
-    go_to(world, "Play")
+    go_to(world.launcher, "Play")
 
     press_keys("Return")
     launcher.wait_for_label("Starting…")
     wait_for("The game", launcher.children)
     press_keys("Escape")
-    go_to(world, "Stop")
+    go_to(world.launcher, "Stop")
     assert launcher.children(), "Escape ended the game."
     press_keys("space")
     launcher.wait_for_label("Ready")
@@ -41,7 +41,7 @@ def run(world):
 
 
 def open_settings(world):
-    go_to(world, "Settings…")
+    go_to(world.launcher, "Settings…")
     press_keys("space")
     return world.launcher.wait_for_settings()
 
@@ -56,7 +56,7 @@ def expect_sheet_closes(world, key):
 def expect_question_declined(world):
     before = world.home.snapshot()
     settings = open_settings(world)
-    go_to(world, settings.remove_button())
+    go_to(world.launcher, settings.remove_button())
     world.picture("settings")
     press_keys("space")
     alert = world.launcher.wait_for_alert()
@@ -65,7 +65,7 @@ def expect_question_declined(world):
     assert settings.is_open()
     assert world.home.snapshot() == before
     expect_focus(world, settings.remove_button())
-    go_to(world, "Done")
+    go_to(world.launcher, "Done")
     press_keys("space")
     settings.wait_until_closed()
     expect_focus(world, "Settings…")
@@ -73,15 +73,3 @@ def expect_question_declined(world):
 
 def expect_focus(world, name):
     wait_for(f"The focus on \"{name}\"", lambda: world.launcher.focused() == name)
-
-
-def go_to(world, name):
-    """Presses Tab until the focus is there."""
-    for _ in range(12):
-        focused = world.launcher.focused()
-        if focused == name:
-            return
-        press_keys("Tab")
-        wait_for(f"The focus elsewhere than on \"{focused}\"",
-                 lambda: world.launcher.focused() != focused)
-    raise AssertionError(f"\"{name}\" cannot be reached with Tab.")
