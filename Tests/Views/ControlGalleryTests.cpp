@@ -5,10 +5,13 @@
 #include "Views/Picture.h"
 
 #include "Views/AboutView.h"
+#include "Views/LogView.h"
+#include "Views/LongTextEdit.h"
 #include "Views/PlayButton.h"
 #include "Views/SettingsView.h"
 
 #include <QComboBox>
+#include <QMenu>
 #include <QTest>
 
 namespace {
@@ -83,6 +86,18 @@ TEST_P(ControlGallery, showsTheListOfResolutions)
     list.showPopup();
     save(*QApplication::activePopupWidget(), "resolutions");
     list.hidePopup();
+}
+
+TEST_P(ControlGallery, showsTheMenuOfTheLog)
+{
+    model().log().append(QStringLiteral("a line"));
+    model().setShowLog(true);
+    auto& log = only<LongTextEdit>(only<LogView>());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return log.lineCount() == 1; }, 20'000));
+    const std::unique_ptr<QMenu> menu(log.createStandardContextMenu());
+    menu->popup(QPoint(0, 0));
+    QTest::keyClick(menu.get(), Qt::Key_Down);
+    save(*menu, "menu");
 }
 
 TEST_P(ControlGallery, scrollsOnASmallScreen)

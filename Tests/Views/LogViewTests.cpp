@@ -5,6 +5,7 @@
 #include "Views/LongTextEdit.h"
 #include "Views/TextBox.h"
 
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -48,6 +49,21 @@ protected:
     /// The text at the top of the box.
     QString topLine() { return box().edit().cursorForPosition(QPoint(0, 2)).block().text(); }
 };
+
+TEST_F(LogViewTest, offersAMenuWithRoomForItsCommands)
+{
+    const std::unique_ptr<QMenu> menu(box().edit().createStandardContextMenu());
+    const auto actions = menu->actions();
+    ASSERT_FALSE(actions.isEmpty());
+    for (auto* const action : actions) {
+        const auto row = menu->actionGeometry(action);
+        if (action->isSeparator())
+            EXPECT_LT(row.height(), menu->fontMetrics().height());
+        else
+            EXPECT_GT(row.width(),
+                      menu->fontMetrics().size(Qt::TextShowMnemonic, action->text()).width() + 40);
+    }
+}
 
 TEST_F(LogViewTest, showsAnEmptyLogInABoxOfTheFullHeight)
 {

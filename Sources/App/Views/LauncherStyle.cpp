@@ -7,6 +7,7 @@
 #include "Views/ScrollBarFace.h"
 #include "Views/SystemColors.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QPainter>
 #include <QPainterPath>
@@ -56,6 +57,12 @@ bool isDefaultButton(const QStyleOption& option)
 {
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
     return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
+/// Whether a row of a menu is one of the choices of a pop-up button, and no command.
+bool isChoice(const QWidget* menu)
+{
+    return qobject_cast<const QComboBox*>(menu);
 }
 
 void paintPopUpArrows(QPainter& painter, const QRectF& place, const QColor& color)
@@ -163,7 +170,7 @@ void LauncherStyle::drawControl(ControlElement element, const QStyleOption* opti
                                 QPainter* painter, const QWidget* widget) const
 {
     if (const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-        item && element == CE_MenuItem) {
+        item && element == CE_MenuItem && isChoice(widget)) {
         MenuFace::paintItem(*painter, *item);
         return;
     }
@@ -231,10 +238,13 @@ QSize LauncherStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
     case CT_ComboBox:
         return {contents.width() + horizontalButtonPadding + popUpArrowWidth, std::max(height, 26)};
     case CT_MenuItem:
-        return {contents.width(), std::max(height, 26)};
+        if (isChoice(widget))
+            return {contents.width(), std::max(height, 26)};
+        break;
     default:
-        return QProxyStyle::sizeFromContents(type, option, contents, widget);
+        break;
     }
+    return QProxyStyle::sizeFromContents(type, option, contents, widget);
 }
 
 int LauncherStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -261,6 +271,7 @@ int LauncherStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
 {
     switch (hint) {
     case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
         return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
