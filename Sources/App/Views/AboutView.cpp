@@ -5,7 +5,6 @@
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
-#include <QLayout>
 #include <QUrl>
 
 namespace {
@@ -18,8 +17,6 @@ constexpr auto padding = 20;
 AboutView::AboutView(QWidget* parent)
     : Sheet(tr("About"), parent)
 {
-    auto* const link = new LinkLabel(
-        TextStyle::body, QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk")));
     stackVertically(
         *this, spacing, padding,
         {
@@ -31,7 +28,9 @@ AboutView::AboutView(QWidget* parent)
                    "is only a launcher that downloads it.")),
             new TextLabel(TextStyle::callout,
                           tr("Based on brindlework-demos/tetherwalk, MIT License.")),
-            link,
+            leading(new LinkLabel(
+                TextStyle::body,
+                QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk")))),
             new TextLabel(
                 TextStyle::body,
                 tr("The Godot engine is free software under the MIT License (godotengine.org). It "
@@ -44,5 +43,4 @@ AboutView::AboutView(QWidget* parent)
                 TextTone::secondary),
             doneRow(),
         });
-    layout()->setAlignment(link, Qt::AlignLeading | Qt::AlignTop);
 }

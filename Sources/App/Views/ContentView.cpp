@@ -53,6 +53,8 @@ constexpr std::array controls{
             QT_TRANSLATE_NOOP("ContentView", "Alt + R")},
 };
 
+/// What is done on the left, and with which key or button beside it. Both are set in the same size,
+/// so that their first baselines meet where their tops do.
 QWidget* controlRow(const Control& control)
 {
     auto* const action =
@@ -60,11 +62,15 @@ QWidget* controlRow(const Control& control)
     auto* const binding =
         new TextLabel(TextStyle::body, ContentView::tr(control.binding), TextTone::secondary);
     action->setFixedWidth(actionWidth);
-    auto* const row = horizontalStack(defaultSpacing, {action, binding});
-    // Both are set in the same size, so that their first baselines meet where their tops do.
-    row->layout()->setAlignment(action, Qt::AlignTop);
-    row->layout()->setAlignment(binding, Qt::AlignTop);
-    return row;
+    return horizontalStack(defaultSpacing, {top(action), top(binding)});
+}
+
+QList<StackItem> controlRows()
+{
+    QList<StackItem> rows;
+    for (const auto& control : controls)
+        rows.append(controlRow(control));
+    return rows;
 }
 
 /// A scroll area that is a window says so to assistive technology: a scroll area alone is only a
@@ -90,8 +96,8 @@ ContentView::ContentView(AppModel& model)
                         controlsBlock(),
                         m_panel = new PlayPanel(m_model),
                         sheetButtons(),
+                        spacer(),
                     });
-    static_cast<QBoxLayout*>(column->layout())->addStretch();
 
     setWidget(column);
     setWidgetResizable(true);
@@ -122,11 +128,7 @@ QWidget* ContentView::controlsBlock()
         controlsSpacing,
         {
             new TextLabel(TextStyle::headline, tr("Controls")),
-            controlRow(controls[0]),
-            controlRow(controls[1]),
-            controlRow(controls[2]),
-            controlRow(controls[3]),
-            controlRow(controls[4]),
+            verticalStack(controlsSpacing, controlRows()),
             new TextLabel(
                 TextStyle::caption,
                 tr("The README has no controls list (see README); these come from the game's "
@@ -143,7 +145,7 @@ QWidget* ContentView::sheetButtons()
             [this] { openSheet([this] { return new SettingsView(m_model, this); }); });
     connect(about, &QPushButton::clicked, this,
             [this] { openSheet([this] { return new AboutView(this); }); });
-    return horizontalStack(defaultSpacing, {settings, about, StackItem::spacer()});
+    return horizontalStack(defaultSpacing, {settings, about, spacer()});
 }
 
 template<typename Make>

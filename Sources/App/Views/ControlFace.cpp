@@ -33,7 +33,7 @@ void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPa
     const auto enabled = state.testFlag(QStyle::State_Enabled);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(SystemColors::withOpacity(text, enabled ? 0.22 : 0.12), 1));
+    painter.setPen(enabled ? SystemColors::edge(palette) : SystemColors::withOpacity(text, 0.12));
     painter.setBrush(inState(palette.color(QPalette::Active, QPalette::Button), state, text));
     painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.restore();

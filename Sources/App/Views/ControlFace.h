@@ -15,6 +15,11 @@ namespace ControlFace {
 /// The corner radius of every control of ordinary size.
 inline constexpr auto radius = 6.0;
 
+/// The room around the words of a control of ordinary size, and how high it is at least.
+inline constexpr auto horizontalPadding = 14;
+inline constexpr auto verticalPadding = 5;
+inline constexpr auto leastHeight = 26;
+
 /// A bordered face in the palette's button colour, with the ring when the keyboard is on it.
 void paint(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette);
 

@@ -12,6 +12,5 @@ Divider::Divider()
 
 void Divider::paintEvent(QPaintEvent*)
 {
-    QPainter(this).fillRect(rect(),
-                            SystemColors::withOpacity(palette().color(QPalette::WindowText), 0.14));
+    QPainter(this).fillRect(rect(), SystemColors::line(palette()));
 }

@@ -75,17 +75,13 @@ HeaderArt::HeaderArt()
     auto* const title = new TextLabel(titleSize, QFont::Bold, tr("Cavernyx Platformer"));
     auto* const subtitle =
         new TextLabel(TextStyle::subheadline, tr("A 2D grappling-hook adventure"));
-    auto* const foreground = horizontalStack(
-        foregroundSpacing, {
-                               m_symbolPlace,
-                               verticalStack(textSpacing,
-                                             {
-                                                 tinted(title, Qt::white),
-                                                 tinted(subtitle, QColor::fromRgbF(1, 1, 1, 0.85F)),
-                                             }),
-                           });
-    stackVertically(*this, 0, 0, {foreground});
-    layout()->setAlignment(foreground, Qt::AlignCenter);
+    auto* const texts =
+        verticalStack(textSpacing, {
+                                       tinted(title, Qt::white),
+                                       tinted(subtitle, QColor::fromRgbF(1, 1, 1, 0.85F)),
+                                   });
+    auto* const foreground = horizontalStack(foregroundSpacing, {m_symbolPlace, texts});
+    stackVertically(*this, 0, 0, {centred(foreground)});
     setFixedHeight(bannerHeight);
 }
 

@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr auto horizontalButtonPadding = 14;
-constexpr auto verticalButtonPadding = 5;
 constexpr auto popUpArrowWidth = 26;
 constexpr auto focusFrameMargin = 4;
 
@@ -82,9 +80,8 @@ void paintPopUpArrows(QPainter& painter, const QRectF& place, const QColor& colo
 
 void paintDialogEdge(QPainter& painter, const QStyleOption& option)
 {
-    const auto text = option.palette.color(QPalette::WindowText);
     const auto edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(SystemColors::withOpacity(text, 0.22));
+    painter.setPen(SystemColors::edge(option.palette));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(edge);
 }
@@ -215,8 +212,9 @@ QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionCo
 {
     const auto& rect = option->rect;
     if (control == CC_ComboBox && part == SC_ComboBoxEditField)
-        return visualRect(option->direction, rect,
-                          rect.adjusted(horizontalButtonPadding - 4, 1, -popUpArrowWidth, -1));
+        return visualRect(
+            option->direction, rect,
+            rect.adjusted(ControlFace::horizontalPadding - 4, 1, -popUpArrowWidth, -1));
     if (control == CC_ComboBox && part == SC_ComboBoxArrow) {
         return visualRect(
             option->direction, rect,
@@ -231,15 +229,18 @@ QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionCo
 QSize LauncherStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                       const QSize& contents, const QWidget* widget) const
 {
-    const auto height = option ? option->fontMetrics.height() + 2 * verticalButtonPadding : 0;
+    const auto height =
+        option ? option->fontMetrics.height() + 2 * ControlFace::verticalPadding : 0;
     switch (type) {
     case CT_PushButton:
-        return {contents.width() + 2 * horizontalButtonPadding, std::max(height, 26)};
+        return {contents.width() + 2 * ControlFace::horizontalPadding,
+                std::max(height, ControlFace::leastHeight)};
     case CT_ComboBox:
-        return {contents.width() + horizontalButtonPadding + popUpArrowWidth, std::max(height, 26)};
+        return {contents.width() + ControlFace::horizontalPadding + popUpArrowWidth,
+                std::max(height, ControlFace::leastHeight)};
     case CT_MenuItem:
         if (isChoice(widget))
-            return {contents.width(), std::max(height, 26)};
+            return {contents.width(), std::max(height, ControlFace::leastHeight)};
         break;
     default:
         break;

@@ -9,8 +9,6 @@
 #include "Views/SystemColors.h"
 #include "Views/TextBox.h"
 
-#include <QBoxLayout>
-
 #include <algorithm>
 
 namespace {
@@ -35,12 +33,7 @@ LogView::LogView(AppModel& model)
 {
     connect(m_copy, &QPushButton::clicked, &model, &AppModel::copyLog);
 
-    stackVertically(*this, spacing, 0,
-                    {
-                        m_box,
-                        horizontalStack(defaultSpacing, {m_copy, StackItem::spacer()}),
-                    });
-    layout()->setContentsMargins(0, topPadding, 0, 0);
+    stackVertically(*this, spacing, QMargins(0, topPadding, 0, 0), {m_box, leading(m_copy)});
 
     connect(&m_log, &LogStore::linesChanged, this, &LogView::catchUp);
     catchUp();

@@ -57,10 +57,9 @@ void paintItem(QPainter& painter, const QStyleOptionMenuItem& item)
 
 void paintFrame(QPainter& painter, const QStyleOption& option)
 {
-    const auto text = option.palette.color(QPalette::WindowText);
     const auto face = option.palette.color(QPalette::Button);
     painter.save();
-    painter.setPen(SystemColors::blended(SystemColors::withOpacity(text, 0.22), face));
+    painter.setPen(SystemColors::blended(SystemColors::edge(option.palette), face));
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter.restore();
 }

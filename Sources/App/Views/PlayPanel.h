@@ -4,13 +4,11 @@
 #include "Views/RoundedBox.h"
 
 class AppModel;
-class DisclosureButton;
-class LogView;
+class LogDisclosure;
 class PlayButton;
 class ProgressBar;
 class QPushButton;
 class StatusDot;
-class TextBox;
 class TextLabel;
 
 /// Where the player starts and follows everything: status, progress, Play with Stop and Cancel, the
@@ -37,20 +35,10 @@ Q_SIGNALS:
     void disclosed(QWidget* log);
 
 private:
-    [[nodiscard]] QWidget* statusRow();
-    [[nodiscard]] QWidget* progressBlock();
-    [[nodiscard]] QWidget* buttonRow();
-    [[nodiscard]] QWidget* failureBlock();
-    [[nodiscard]] QWidget* logDisclosure();
-    /// A block of text costs memory; most players never see this one.
-    void fillFailureBlock();
-
     void refresh();
     void refreshStatus();
     void refreshProgress();
     void refreshButtons();
-    void refreshFailure();
-    void refreshLog();
 
     AppModel& m_model;
     StatusDot* m_dot = nullptr;
@@ -62,11 +50,5 @@ private:
     PlayButton* m_play = nullptr;
     QPushButton* m_stop = nullptr;
     QPushButton* m_cancel = nullptr;
-    QWidget* m_failureBlock = nullptr;
-    /// There once a report has been shown.
-    TextBox* m_failure = nullptr;
-    DisclosureButton* m_showLog = nullptr;
-    QWidget* m_disclosed = nullptr;
-    /// There only while it is shown.
-    LogView* m_log = nullptr;
+    LogDisclosure* m_log = nullptr;
 };

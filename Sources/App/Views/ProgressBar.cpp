@@ -25,8 +25,9 @@ constexpr auto pieceLength = 0.3;
 
 } // namespace
 
-ProgressBar::ProgressBar()
+ProgressBar::ProgressBar(const QString& name)
 {
+    setAccessibleName(name);
     setTextVisible(false);
     setRange(0, 0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -60,7 +61,7 @@ void ProgressBar::paintEvent(QPaintEvent*)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(track, SystemColors::withOpacity(palette().color(QPalette::WindowText), 0.14));
+    painter.fillPath(track, SystemColors::line(palette()));
     if (to > from)
         painter.fillPath(track.intersected(filled), SystemColors::blue(palette()));
 }

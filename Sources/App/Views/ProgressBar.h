@@ -14,7 +14,8 @@ class ProgressBar final : public QProgressBar
     Q_OBJECT
 
 public:
-    ProgressBar();
+    /// `name` is what assistive technology calls it.
+    explicit ProgressBar(const QString& name);
 
     /// 0 to 1, or nothing when it is not known how far the work is.
     void setFraction(std::optional<double> fraction);

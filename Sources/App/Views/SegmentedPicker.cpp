@@ -14,9 +14,6 @@
 
 namespace {
 
-constexpr auto horizontalPadding = 14;
-constexpr auto verticalPadding = 5;
-
 /// One segment: a radio button that looks like a raised plate while it is chosen.
 class Segment final : public QRadioButton
 {
@@ -31,8 +28,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override
     {
         const auto label = fontMetrics().size(Qt::TextSingleLine, text());
-        return {label.width() + 2 * horizontalPadding,
-                std::max(label.height() + 2 * verticalPadding, 26)};
+        return {
+            label.width() + 2 * ControlFace::horizontalPadding,
+            std::max(label.height() + 2 * ControlFace::verticalPadding, ControlFace::leastHeight)};
     }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 

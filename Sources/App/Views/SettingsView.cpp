@@ -10,8 +10,9 @@
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
-#include <QBoxLayout>
 #include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
 
 #include <algorithm>
 
@@ -27,24 +28,24 @@ QString label(ResolutionChoice choice)
     return rawValue(choice).replace(u'x', QStringLiteral(" \u00d7 "));
 }
 
-/// A control with its label before it. The control takes the rest of the row.
-QWidget* labelled(const QString& text, QWidget* control)
+/// Controls under each other, each with its label before it. They take the rest of their rows.
+QWidget* labelledRows(std::initializer_list<std::pair<QString, QWidget*>> rows)
 {
-    auto* const title = new QLabel(text);
-    title->setBuddy(control);
-    auto* const row = horizontalStack(defaultSpacing, {title, control});
-    control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return row;
-}
-
-/// Gives the labels of two rows one width, so that their controls stand under each other.
-void alignLabels(const QWidget& one, const QWidget& other)
-{
-    auto* const first = one.findChild<QLabel*>();
-    auto* const second = other.findChild<QLabel*>();
-    const auto width = std::max(first->sizeHint().width(), second->sizeHint().width());
-    first->setMinimumWidth(width);
-    second->setMinimumWidth(width);
+    auto* const block = new QWidget;
+    auto* const grid = new QGridLayout(block);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(defaultSpacing);
+    grid->setVerticalSpacing(spacing);
+    auto row = 0;
+    for (const auto& [text, control] : rows) {
+        auto* const title = new QLabel(text);
+        title->setBuddy(control);
+        control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        grid->addWidget(title, row, 0);
+        grid->addWidget(control, row, 1);
+        ++row;
+    }
+    return block;
 }
 
 } // namespace
@@ -53,16 +54,11 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     : Sheet(tr("Settings"), parent)
     , m_model(model)
 {
-    auto* const window = windowPicker();
-    auto* const resolution = resolutionPicker();
-    alignLabels(*window, *resolution);
-
     stackVertically(
         *this, spacing, padding,
         {
             new TextLabel(TextStyle::title2, QFont::Bold, tr("Settings")),
-            window,
-            resolution,
+            labelledRows({{tr("Window"), windowPicker()}, {tr("Resolution"), resolutionPicker()}}),
             new TextLabel(TextStyle::caption, tr("Applies the next time you press Play."),
                           TextTone::secondary),
             new Divider,
@@ -76,7 +72,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
             m_noSaves = new TextLabel(TextStyle::caption,
                                       tr("No saves yet (Godot's user folder does not exist)."),
                                       TextTone::secondary),
-            removeRow(),
+            leading(removeButton()),
             doneRow(),
         });
 
@@ -93,7 +89,7 @@ QWidget* SettingsView::windowPicker()
         if (fullscreen != m_model.fullscreen())
             m_model.setFullscreen(fullscreen);
     });
-    return labelled(tr("Window"), m_window);
+    return m_window;
 }
 
 QWidget* SettingsView::resolutionPicker()
@@ -108,7 +104,7 @@ QWidget* SettingsView::resolutionPicker()
         if (choice != m_model.resolution())
             m_model.setResolution(choice);
     });
-    return labelled(tr("Resolution"), m_resolution);
+    return m_resolution;
 }
 
 QWidget* SettingsView::gameButtons()
@@ -123,7 +119,7 @@ QWidget* SettingsView::gameButtons()
         m_model.reinstall();
         accept();
     });
-    return horizontalStack(defaultSpacing, {m_update, m_reinstall, StackItem::spacer()});
+    return horizontalStack(defaultSpacing, {m_update, m_reinstall, spacer()});
 }
 
 QWidget* SettingsView::folderButtons()
@@ -132,14 +128,14 @@ QWidget* SettingsView::folderButtons()
     m_showSaves = new BorderedButton(tr("Show saves"));
     connect(reveal, &QPushButton::clicked, &m_model, &AppModel::revealInFinder);
     connect(m_showSaves, &QPushButton::clicked, &m_model, &AppModel::showSaves);
-    return horizontalStack(defaultSpacing, {reveal, m_showSaves, StackItem::spacer()});
+    return horizontalStack(defaultSpacing, {reveal, m_showSaves, spacer()});
 }
 
-QWidget* SettingsView::removeRow()
+QWidget* SettingsView::removeButton()
 {
     m_remove = new DestructiveButton(QString());
     connect(m_remove, &QPushButton::clicked, &m_model, &AppModel::removeEverything);
-    return horizontalStack(defaultSpacing, {m_remove, StackItem::spacer()});
+    return m_remove;
 }
 
 void SettingsView::refresh()

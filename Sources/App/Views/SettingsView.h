@@ -25,7 +25,7 @@ private:
     [[nodiscard]] QWidget* resolutionPicker();
     [[nodiscard]] QWidget* gameButtons();
     [[nodiscard]] QWidget* folderButtons();
-    [[nodiscard]] QWidget* removeRow();
+    [[nodiscard]] QWidget* removeButton();
     void refresh();
 
     AppModel& m_model;

@@ -30,7 +30,7 @@ QWidget* Sheet::doneRow()
     m_done = new BorderedButton(tr("Done"));
     m_done->setDefault(true);
     connect(m_done, &QPushButton::clicked, this, &QDialog::accept);
-    return horizontalStack(defaultSpacing, {StackItem::spacer(), m_done});
+    return horizontalStack(defaultSpacing, {spacer(), m_done});
 }
 
 void Sheet::showEvent(QShowEvent* event)

@@ -82,6 +82,22 @@ QColor secondaryText(const QPalette& palette)
     return text;
 }
 
+QColor panel(const QPalette& palette)
+{
+    const auto secondary = secondaryText(palette);
+    return withOpacity(secondary, secondary.alphaF() * panelOpacity);
+}
+
+QColor edge(const QPalette& palette)
+{
+    return withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.22);
+}
+
+QColor line(const QPalette& palette)
+{
+    return withOpacity(palette.color(QPalette::WindowText), 0.14);
+}
+
 QColor withOpacity(const QColor& color, double opacity)
 {
     auto result = color;

@@ -20,6 +20,15 @@ namespace SystemColors {
 /// panels that stand on it.
 [[nodiscard]] QColor secondaryText(const QPalette& palette);
 
+/// The tint of the panels that set off a part of the window: the secondary colour at 8 %.
+[[nodiscard]] QColor panel(const QPalette& palette);
+
+/// The line around a control, a menu or a dialog.
+[[nodiscard]] QColor edge(const QPalette& palette);
+
+/// The line between two parts, and the track of what moves along one.
+[[nodiscard]] QColor line(const QPalette& palette);
+
 /// `color` at `opacity`, 0 to 1.
 [[nodiscard]] QColor withOpacity(const QColor& color, double opacity);
 
