@@ -2,6 +2,7 @@
 #include "Views/ViewTest.h"
 
 #include "Views/AboutView.h"
+#include "Views/LauncherStyle.h"
 #include "Views/LinkLabel.h"
 
 #include <QDesktopServices>
@@ -87,6 +88,52 @@ TEST_F(AboutViewTest, opensTheLinkWithTheSpaceBar)
     QTest::keyClick(&link, Qt::Key_Space);
     EXPECT_EQ(browser.opened,
               QList<QUrl>{QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk"))});
+}
+
+TEST_F(AboutViewTest, opensTheLinkWithAClick)
+{
+    auto& link = only<LinkLabel>(sheet());
+    Browser browser;
+    QTest::mouseClick(&link, Qt::LeftButton, {}, QPoint(link.width() / 4, link.height() / 2));
+    EXPECT_EQ(browser.opened,
+              QList<QUrl>{QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk"))});
+}
+
+TEST_F(AboutViewTest, putsTheLinkBetweenTheGamesLineAndTheEngines)
+{
+    const auto link = place(only<LinkLabel>(sheet()));
+    const auto* const above =
+        label(sheet(), QStringLiteral("Based on brindlework-demos/tetherwalk, MIT License."));
+    EXPECT_EQ(link.top() - place(*above).bottom() - 1, 10);
+    EXPECT_EQ(link.left(), 20);
+}
+
+TEST_F(AboutViewTest, showsTheLinkInTheLinkColorOfTheMoment)
+{
+    auto& link = only<LinkLabel>(sheet());
+    for (const auto& palette : {LauncherStyle::lightPalette(), LauncherStyle::darkPalette(),
+                                LauncherStyle::lightPalette()}) {
+        QApplication::setPalette(palette);
+        settle();
+        const auto picture = link.grab().toImage();
+        auto found = 0;
+        for (auto x = 0; x < picture.width(); ++x) {
+            for (auto y = 0; y < picture.height(); ++y)
+                found += picture.pixel(x, y) == palette.color(QPalette::Link).rgb() ? 1 : 0;
+        }
+        EXPECT_GT(found, 20);
+    }
+}
+
+TEST_F(AboutViewTest, opensAtItsFullHeightInTheMiddleOfTheWindow)
+{
+    button(QStringLiteral("About"))->click();
+    const auto& opened = only<AboutView>(window());
+    const auto height = opened.height();
+    const auto middle = opened.frameGeometry().center().y();
+    settle();
+    EXPECT_EQ(opened.height(), height);
+    EXPECT_NEAR(middle, window().frameGeometry().center().y(), 2);
 }
 
 TEST_F(AboutViewTest, startsWithTheFocusOnDone)

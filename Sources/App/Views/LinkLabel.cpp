@@ -11,9 +11,8 @@ LinkLabel::LinkLabel(TextStyle style, const QUrl& address)
     : m_style(style)
     , m_address(address)
 {
-    const auto text = address.toString(QUrl::FullyEncoded).toHtmlEscaped();
     setTextFormat(Qt::RichText);
-    setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(text));
+    showAddress();
     setAccessibleName(address.toString());
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setOpenExternalLinks(true);
@@ -31,7 +30,17 @@ bool LinkLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ApplicationFontChange)
         setFont(textFont(m_style));
+    else if (event->type() == QEvent::PaletteChange)
+        showAddress();
     return QLabel::event(event);
+}
+
+void LinkLabel::showAddress()
+{
+    const auto text = m_address.toString(QUrl::FullyEncoded).toHtmlEscaped();
+    // The colour is taken from the palette when the text is set, and only when it is another one.
+    setText({});
+    setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(text));
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event)

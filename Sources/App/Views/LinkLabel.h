@@ -28,6 +28,9 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    /// Shows the address in the link colour of the moment.
+    void showAddress();
+
     TextStyle m_style;
     QUrl m_address;
     /// Belongs to the parent, as what lies around this widget does.

@@ -25,6 +25,12 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     setFixedWidth(sheetWidth);
 }
 
+QSize Sheet::sizeHint() const
+{
+    // The content wraps, so its height follows from the fixed width and has to be asked for.
+    return {sheetWidth, layout() ? layout()->totalHeightForWidth(sheetWidth) : 0};
+}
+
 QWidget* Sheet::doneRow()
 {
     m_done = new BorderedButton(tr("Done"));
@@ -46,8 +52,7 @@ bool Sheet::event(QEvent* event)
     const auto handled = QDialog::event(event);
     passOnFontChange(*this, *event);
     standBackWhileBlocked(*this, *event);
-    // The content wraps, so its height follows from the fixed width and has to be asked for.
-    if (event->type() == QEvent::LayoutRequest && layout())
-        setFixedHeight(layout()->heightForWidth(sheetWidth));
+    if (event->type() == QEvent::LayoutRequest)
+        setFixedHeight(sizeHint().height());
     return handled;
 }

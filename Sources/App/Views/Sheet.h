@@ -15,6 +15,9 @@ public:
     /// `parent` is the window the sheet hangs on and blocks while it is open.
     Sheet(const QString& title, QWidget* parent);
 
+    /// As wide as every sheet, and as high as its content is at that width.
+    [[nodiscard]] QSize sizeHint() const override;
+
 protected:
     /// The last row of every sheet.
     [[nodiscard]] QWidget* doneRow();
