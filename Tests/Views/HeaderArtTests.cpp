@@ -171,9 +171,20 @@ TEST_F(HeaderArtTest, putsItsNameBesideTheSymbolInTheMiddle)
     EXPECT_EQ(place(title).left() - symbol().right() - 1, 14);
     EXPECT_EQ(place(subtitle).left(), place(title).left());
     EXPECT_EQ(place(subtitle).top() - place(title).bottom() - 1, 2);
+    for (const auto* const line : {&title, &subtitle})
+        EXPECT_EQ(line->height(), line->sizeHint().height()) << "no room around the words";
     const auto all = symbol().united(place(title)).united(place(subtitle));
     EXPECT_NEAR(all.center().x(), width / 2, 1);
     EXPECT_NEAR(all.center().y(), height / 2, 1);
+}
+
+TEST_F(HeaderArtTest, leadsFromTheRightWhereTextDoes)
+{
+    art.setLayoutDirection(Qt::RightToLeft);
+    const auto mirrored = drawn(1, {});
+    for (const auto& at : {QPoint(60, 60), QPoint(520, 40), QPoint(60, height - 5)})
+        expectNear(mirrored.pixelColor(width - 1 - at.x(), at.y()), background.pixelColor(at));
+    EXPECT_NE(mirrored.pixelColor(60, 60), background.pixelColor(60, 60));
 }
 
 TEST_F(HeaderArtTest, isDrawnInTheFinerPixelsOfADenseScreen)

@@ -60,6 +60,49 @@ TEST_F(PlayPanelTest, turnsTheBarDeterminateWithoutMovingTheBlock)
     EXPECT_EQ(place(progress()), before);
 }
 
+TEST_F(PlayPanelTest, paintsTheBarFromTheFirstBytesOn)
+{
+    class Paints final : public QObject
+    {
+    public:
+        int count = 0;
+
+    protected:
+        bool eventFilter(QObject* object, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return QObject::eventFilter(object, event);
+        }
+    };
+    enter(Phase::downloading());
+    AppModelAccess::applyProgress(model(), {100, 10'000, 10});
+    settle();
+    Paints paints;
+    progress().installEventFilter(&paints);
+    AppModelAccess::applyProgress(model(), {110, 10'000, 10});
+    settle();
+    EXPECT_GT(paints.count, 0);
+    paints.count = 0;
+    AppModelAccess::applyProgress(model(), {110, 10'000, 12});
+    settle();
+    EXPECT_EQ(paints.count, 0) << "only another speed";
+}
+
+TEST_F(PlayPanelTest, fillsTheBarFromTheRightWhereTextRunsLikeThat)
+{
+    enter(Phase::downloading());
+    AppModelAccess::applyProgress(model(), {250, 1000, 10});
+    settle();
+    const auto filled = [this](double along) {
+        const auto picture = progress().grab().toImage();
+        return picture.pixelColor(int(picture.width() * along), picture.height() / 2) ==
+               SystemColors::blue(progress().palette());
+    };
+    EXPECT_TRUE(filled(0.1) && !filled(0.9));
+    progress().setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(filled(0.9) && !filled(0.1));
+}
+
 TEST_F(PlayPanelTest, leavesNoBlankLineUnderTheBarWithoutAText)
 {
     enter(Phase::settingUp());

@@ -3,6 +3,7 @@
 
 #include "Views/ContinuousCorners.h"
 #include "Views/Glyphs.h"
+#include "Views/Mirroring.h"
 #include "Views/SoftShadow.h"
 #include "Views/Stack.h"
 #include "Views/SystemColors.h"
@@ -80,7 +81,7 @@ HeaderArt::HeaderArt()
                                        tinted(title, Qt::white),
                                        tinted(subtitle, QColor::fromRgbF(1, 1, 1, 0.85F)),
                                    });
-    auto* const foreground = horizontalStack(foregroundSpacing, {m_symbolPlace, texts});
+    auto* const foreground = horizontalStack(foregroundSpacing, {m_symbolPlace, centred(texts)});
     stackVertically(*this, 0, 0, {centred(foreground)});
     setFixedHeight(bannerHeight);
 }
@@ -98,10 +99,14 @@ void HeaderArt::paintEvent(QPaintEvent*)
     const auto banner = continuousRoundedRect(rect(), bannerRadius);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.save();
+    if (isRightToLeft())
+        mirror(painter, width());
     painter.fillPath(banner, background(rect()));
     // Too narrow a banner would let the outer platforms reach past its corners.
     painter.fillPath(silhouette(rect()).intersected(banner),
                      SystemColors::withOpacity(Qt::black, 0.25));
+    painter.restore();
     paintSymbol(painter);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Views/ProgressBar.h"
 
+#include "Views/Mirroring.h"
 #include "Views/SystemColors.h"
 
 #include <QPainter>
@@ -39,8 +40,17 @@ void ProgressBar::setFraction(std::optional<double> fraction)
     if (maximum() != range)
         setRange(0, range);
     if (fraction)
-        setValue(static_cast<int>(std::lround(std::clamp(*fraction, 0.0, 1.0) * steps)));
+        fillTo(static_cast<int>(std::lround(std::clamp(*fraction, 0.0, 1.0) * steps)));
     updateAnimation();
+}
+
+void ProgressBar::fillTo(int step)
+{
+    if (step == value())
+        return;
+    setValue(step);
+    // The base class leaves out what would not move a bar of its own look.
+    update();
 }
 
 QSize ProgressBar::sizeHint() const
@@ -60,6 +70,8 @@ void ProgressBar::paintEvent(QPaintEvent*)
                           radius, radius);
 
     QPainter painter(this);
+    if (isRightToLeft())
+        mirror(painter, width());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(track, SystemColors::line(palette()));
     if (to > from)

@@ -36,6 +36,7 @@ private:
     [[nodiscard]] bool isIndeterminate() const { return minimum() == maximum(); }
     /// Where the filled part lies, 0 to 1 along the bar.
     [[nodiscard]] std::pair<double, double> filledPart() const;
+    void fillTo(int step);
     void updateAnimation();
 
     QBasicTimer m_animation;
