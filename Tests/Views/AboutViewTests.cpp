@@ -5,6 +5,7 @@
 #include "Views/LauncherStyle.h"
 #include "Views/LinkLabel.h"
 
+#include <QAccessible>
 #include <QDesktopServices>
 #include <QLayout>
 #include <QPointer>
@@ -97,6 +98,15 @@ TEST_F(AboutViewTest, opensTheLinkWithAClick)
     QTest::mouseClick(&link, Qt::LeftButton, {}, QPoint(link.width() / 4, link.height() / 2));
     EXPECT_EQ(browser.opened,
               QList<QUrl>{QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk"))});
+}
+
+TEST_F(AboutViewTest, opensTheLinkForAssistiveTechnology)
+{
+    auto& link = *QAccessible::queryAccessibleInterface(&only<LinkLabel>(sheet()));
+    Browser browser;
+    ASSERT_TRUE(link.actionInterface());
+    link.actionInterface()->doAction(link.actionInterface()->actionNames().constFirst());
+    EXPECT_EQ(browser.opened.size(), 1);
 }
 
 TEST_F(AboutViewTest, putsTheLinkBetweenTheGamesLineAndTheEngines)

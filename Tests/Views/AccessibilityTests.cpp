@@ -137,6 +137,7 @@ TEST_F(AccessibilityTest, namesEveryControlOfTheSettingsWithItsChoice)
 
     auto& windowed = *button(sheet, QStringLiteral("Windowed"));
     auto& fullscreen = *button(sheet, QStringLiteral("Fullscreen"));
+    EXPECT_EQ(read(*windowed.parentWidget()).role(), QAccessible::Grouping);
     EXPECT_EQ(name(*windowed.parentWidget()), QStringLiteral("Window"));
     for (auto* const segment : {&windowed, &fullscreen}) {
         EXPECT_EQ(read(*segment).role(), QAccessible::RadioButton);
@@ -167,6 +168,7 @@ TEST_F(AccessibilityTest, readsTheAboutSheet)
     EXPECT_EQ(read(sheet).role(), QAccessible::Dialog);
     EXPECT_EQ(name(sheet), QStringLiteral("About"));
     auto& link = only<LinkLabel>(sheet);
+    EXPECT_EQ(read(link).role(), QAccessible::Link);
     EXPECT_EQ(name(link), QStringLiteral("https://github.com/brindlework-demos/tetherwalk"));
     EXPECT_TRUE(read(link).state().focusable);
 }

@@ -3,6 +3,7 @@
 
 #include "AppModel.h"
 #include "Views/AboutView.h"
+#include "Views/AccessibleRoles.h"
 #include "Views/BorderedButton.h"
 #include "Views/FontChange.h"
 #include "Views/HeaderArt.h"
@@ -13,7 +14,6 @@
 #include "Views/Stack.h"
 #include "Views/TextLabel.h"
 
-#include <QAccessibleWidget>
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -73,21 +73,12 @@ QList<StackItem> controlRows()
     return rows;
 }
 
-/// A scroll area that is a window says so to assistive technology: a scroll area alone is only a
-/// nameless container there.
-QAccessibleInterface* windowInterface(const QString& className, QObject* object)
-{
-    if (className != QLatin1String("ContentView"))
-        return nullptr;
-    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
-}
-
 } // namespace
 
 ContentView::ContentView(AppModel& model)
     : m_model(model)
 {
-    QAccessible::installFactory(windowInterface);
+    installAccessibleRoles();
     auto* const column = new QWidget;
     stackVertically(*column, spacing, padding,
                     {

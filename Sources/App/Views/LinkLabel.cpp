@@ -46,9 +46,14 @@ void LinkLabel::showAddress()
 void LinkLabel::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space)
-        QDesktopServices::openUrl(m_address);
+        open();
     else
         QLabel::keyPressEvent(event);
+}
+
+void LinkLabel::open() const
+{
+    QDesktopServices::openUrl(m_address);
 }
 
 void LinkLabel::focusInEvent(QFocusEvent* event)

@@ -17,6 +17,9 @@ class LinkLabel final : public QLabel
 public:
     LinkLabel(TextStyle style, const QUrl& address);
 
+    /// Opens the address in the player's browser.
+    void open() const;
+
     /// As wide as the address on one line, so that the focus ring goes around nothing else.
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -1,26 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Views/StatusDot.h"
 
-#include <QAccessibleWidget>
+#include <QAccessible>
 #include <QPainter>
-
-namespace {
-
-/// To assistive technology the dot is a notice: of all roles the one that is read out whenever it
-/// shows, wherever the keyboard is.
-QAccessibleInterface* noticeInterface(const QString& className, QObject* object)
-{
-    if (className != QLatin1String("StatusDot"))
-        return nullptr;
-    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Notification);
-}
-
-} // namespace
 
 StatusDot::StatusDot(Color initial)
     : m_color(initial)
 {
-    QAccessible::installFactory(noticeInterface);
     setFixedSize(10, 10);
 }
 

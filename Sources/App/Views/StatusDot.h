@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QColor>
-#include <QLabel>
+#include <QWidget>
 
 /// A small disc that shows the launcher's status as a colour. To assistive technology it is a
 /// notice that says the status in words and is read out when they change.
-class StatusDot final : public QLabel
+class StatusDot final : public QWidget
 {
     Q_OBJECT
 
