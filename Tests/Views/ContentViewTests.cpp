@@ -142,10 +142,15 @@ TEST_F(ContentViewTest, showsTheFactsWithLicenceAndAuthor)
 
 TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
 {
+    auto* const summary = label(model().facts().summary);
     AppModelAccess::setFacts(model(), {QString(), QString(), QString()});
     settle();
-    EXPECT_TRUE(label(QString()));
-    EXPECT_TRUE(label(QStringLiteral(" \u00b7 ")));
+    EXPECT_EQ(summary->text(), QString());
+    EXPECT_TRUE(summary->isVisible());
+    EXPECT_GE(summary->height(), summary->fontMetrics().height()) << "an empty line";
+    auto* const credits = label(QStringLiteral(" \u00b7 "));
+    ASSERT_TRUE(credits);
+    EXPECT_EQ(place(*credits).top() - place(*summary).bottom() - 1, 6);
 }
 
 TEST_F(ContentViewTest, listsTheFiveControlsInOrder)

@@ -2,6 +2,7 @@
 #include "Support/AppModelAccess.h"
 #include "Views/ViewTest.h"
 
+#include "Views/Divider.h"
 #include "Views/SegmentedPicker.h"
 #include "Views/SettingsView.h"
 
@@ -138,6 +139,52 @@ TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
     control(QStringLiteral("Show saves")).click();
     EXPECT_EQ(desktop.opened.size(), 1);
     EXPECT_TRUE(sheet().isVisible());
+}
+
+TEST_F(SettingsViewTest, measuresAnewWhenItOpens)
+{
+    ASSERT_TRUE(QDir().mkpath(root()));
+    QFile file(root(QStringLiteral("more")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(3'000'000, 'x'));
+    file.close();
+    ASSERT_EQ(model().installedSize(), QString());
+    sheet();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return removal().text() == QStringLiteral("Remove everything (frees 3 MB)"); },
+        20'000))
+        << qPrintable(removal().text());
+}
+
+TEST_F(SettingsViewTest, keepsItsControlsInLineWhenTheFontGrows)
+{
+    const auto font = QApplication::font();
+    const auto expectInLine = [this] {
+        EXPECT_EQ(place(only<SegmentedPicker>(sheet())).left(), place(resolution()).left());
+        EXPECT_EQ(place(resolution()).right(), 440 - 20 - 1);
+        EXPECT_EQ(place(resolution()).left() -
+                      place(*label(sheet(), QStringLiteral("Resolution"))).right() - 1,
+                  8);
+        EXPECT_EQ(place(resolution()).top() - place(only<SegmentedPicker>(sheet())).bottom() - 1,
+                  14);
+    };
+    expectInLine();
+    auto larger = font;
+    larger.setPointSizeF(font.pointSizeF() * 4 / 3);
+    QApplication::setFont(larger);
+    settle();
+    expectInLine();
+    QApplication::setFont(font);
+}
+
+TEST_F(SettingsViewTest, setsTheMaintenanceOffWithALine)
+{
+    const auto divider = place(only<Divider>(sheet()));
+    const auto* const above =
+        label(sheet(), QStringLiteral("Applies the next time you press Play."));
+    EXPECT_EQ(divider.top() - place(*above).bottom() - 1, 14);
+    EXPECT_EQ(place(control(QStringLiteral("Update the game"))).top() - divider.bottom() - 1, 14);
+    EXPECT_EQ(divider.size(), QSize(400, 1));
 }
 
 TEST_F(SettingsViewTest, namesWhatRemovingFrees)
