@@ -48,6 +48,20 @@ TEST_F(ContentViewTest, fitsWithItsFrameOnAScreenThatIsSmaller)
     EXPECT_GT(window().verticalScrollBar()->maximum(), 0);
 }
 
+TEST_F(ContentViewTest, fitsAnewWhenTheRoomOnItsScreenChanges)
+{
+    auto& screen = *window().screen();
+    window().setMinimumSize(100, 100);
+    Q_EMIT screen.availableGeometryChanged(screen.availableGeometry());
+    EXPECT_EQ(window().minimumSize(), QSize(620, 760));
+
+    window().windowHandle()->setScreen(QGuiApplication::screens().constLast());
+    settle();
+    window().setMinimumSize(100, 100);
+    Q_EMIT screen.availableGeometryChanged(screen.availableGeometry());
+    EXPECT_EQ(window().minimumSize(), QSize(100, 100)) << "it is on another screen now";
+}
+
 TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindow)
 {
     auto& bar = *window().verticalScrollBar();

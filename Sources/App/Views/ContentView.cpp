@@ -9,6 +9,7 @@
 #include "Views/HeaderArt.h"
 #include "Views/PlayButton.h"
 #include "Views/PlayPanel.h"
+#include "Views/ScreenFit.h"
 #include "Views/SettingsView.h"
 #include "Views/Shade.h"
 #include "Views/Stack.h"
@@ -18,10 +19,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
-#include <QWindow>
 
 #include <array>
 
@@ -95,7 +94,7 @@ ContentView::ContentView(AppModel& model)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWindowTitle(tr("Cavernyx Platformer"));
-    fitToScreen();
+    new ScreenFit(*this, leastSize);
     m_panel->playButton().setFocus();
 
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ContentView::keepColumnInPlace);
@@ -201,30 +200,4 @@ void ContentView::keyPressEvent(QKeyEvent* event)
     default:
         QScrollArea::keyPressEvent(event);
     }
-}
-
-void ContentView::showEvent(QShowEvent* event)
-{
-    QScrollArea::showEvent(event);
-    connect(windowHandle(), &QWindow::screenChanged, this, &ContentView::fitToScreen,
-            Qt::UniqueConnection);
-}
-
-void ContentView::moveEvent(QMoveEvent* event)
-{
-    QScrollArea::moveEvent(event);
-    // The desktop puts its frame around the window only after it has been shown.
-    fitToScreen();
-}
-
-void ContentView::fitToScreen()
-{
-    const auto frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-    const auto least = leastSize.boundedTo(screen()->availableSize().shrunkBy(frame));
-    if (least == minimumSize())
-        return;
-    const auto isLeast = size() == minimumSize();
-    setMinimumSize(least);
-    if (isLeast)
-        resize(least);
 }

@@ -25,8 +25,6 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
     [[nodiscard]] QSize sizeHint() const override { return leastSize; }
 
 private:
@@ -35,7 +33,6 @@ private:
     [[nodiscard]] QWidget* sheetButtons();
 
     void refreshFacts();
-    void fitToScreen();
     /// Scrolls to what a press has just added, as far as the window is too small for it.
     void bringIntoView(QWidget* disclosed);
     /// Puts the scroll bar into the padding, so that nothing wraps anew when it comes and goes.
