@@ -154,6 +154,14 @@ TEST_F(ContentViewTest, showsTheFactsWithLicenceAndAuthor)
     EXPECT_EQ(place(*credits).top() - place(*summary).bottom() - 1, 6);
 }
 
+TEST_F(ContentViewTest, shortensAFactThatIsFarTooLong)
+{
+    const QString endless(4'000'000, u'x');
+    AppModelAccess::setFacts(model(), {endless, QStringLiteral("L"), QStringLiteral("A")});
+    settle();
+    EXPECT_TRUE(label(endless.left(2000) + QChar(u'\u2026')));
+}
+
 TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
 {
     auto* const summary = label(model().facts().summary);

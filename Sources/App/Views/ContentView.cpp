@@ -72,6 +72,14 @@ QList<StackItem> controlRows()
     return rows;
 }
 
+/// A label lays out all of its text at once, on which a file that says far too much could hold up
+/// the window.
+QString shortened(const QString& fact)
+{
+    constexpr auto longestFact = 2000;
+    return fact.size() <= longestFact ? fact : fact.left(longestFact) + QChar(u'\u2026');
+}
+
 } // namespace
 
 ContentView::ContentView(AppModel& model)
@@ -150,8 +158,9 @@ void ContentView::openSheet(Make make)
 void ContentView::refreshFacts()
 {
     const auto& facts = m_model.facts();
-    m_summary->setText(facts.summary);
-    m_credits->setText(facts.license + QStringLiteral(" \u00b7 ") + facts.author);
+    m_summary->setText(shortened(facts.summary));
+    m_credits->setText(shortened(facts.license) + QStringLiteral(" \u00b7 ") +
+                       shortened(facts.author));
 }
 
 void ContentView::bringIntoView(QWidget* disclosed)
