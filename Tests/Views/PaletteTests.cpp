@@ -73,6 +73,8 @@ TEST_F(PaletteTest, tintsTheReportRedAndTheLogDarkWithCornersOfRadius6)
             expectColor(*box, {3, 40}, SystemColors::blended(tint, panelColor));
             expectColor(*box, {3, 3}, SystemColors::blended(tint, panelColor));
             expectColor(*box, {0, 0}, panelColor);
+            if (!SystemColors::isDark(palette))
+                expectColor(*box, {0, 40}, SystemColors::blended(tint, panelColor));
         }
     }
 }

@@ -65,7 +65,9 @@ void TextBox::paintEvent(QPaintEvent* event)
         ControlFace::paintFocusRing(painter, rect(), cornerRadius, SystemColors::blue(palette()));
         return;
     }
-    // On a dark panel the tint alone would hardly tell where the box ends.
+    if (!SystemColors::isDark(palette()))
+        return;
+    // There the tint alone would hardly tell where the box ends.
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(SystemColors::withOpacity(palette().color(QPalette::WindowText), 0.08));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
