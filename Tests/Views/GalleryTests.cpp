@@ -7,6 +7,7 @@
 #include "Views/AboutView.h"
 #include "Views/SettingsView.h"
 
+#include <QTest>
 #include <QThreadPool>
 
 #include <ostream>
@@ -87,7 +88,8 @@ protected:
 TEST_P(Gallery, showsTheState)
 {
     state().enter(model());
-    settle();
+    auto& log = model().log();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return log.lines() == log.newest(2000); }, 20'000));
     showAll();
     save(window(), state().name);
 }
