@@ -3,16 +3,6 @@
 
 #include <QCoreApplication>
 
-namespace {
-
-void endThread(ServiceThread& thread)
-{
-    thread.quit();
-    thread.wait();
-}
-
-} // namespace
-
 ServiceThread::ServiceThread(const QString& name)
 {
     setObjectName(name);
@@ -20,10 +10,17 @@ ServiceThread::ServiceThread(const QString& name)
     start();
 }
 
+ServiceThread::~ServiceThread()
+{
+    // Otherwise a program that ends by exit(), as Qt has it do when the display is lost, would be
+    // aborted here: nobody has destroyed the application then, and so ended the thread.
+    end();
+}
+
 ServiceThread& ServiceThread::network()
 {
     static ServiceThread thread(QStringLiteral("network"));
-    static const bool registered = (qAddPostRoutine([] { endThread(network()); }), true);
+    static const bool registered = (qAddPostRoutine([] { network().end(); }), true);
     Q_UNUSED(registered)
     return thread;
 }
@@ -31,7 +28,13 @@ ServiceThread& ServiceThread::network()
 ServiceThread& ServiceThread::children()
 {
     static ServiceThread thread(QStringLiteral("children"));
-    static const bool registered = (qAddPostRoutine([] { endThread(children()); }), true);
+    static const bool registered = (qAddPostRoutine([] { children().end(); }), true);
     Q_UNUSED(registered)
     return thread;
+}
+
+void ServiceThread::end()
+{
+    quit();
+    wait();
 }
