@@ -153,7 +153,8 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
 
 int CavernyxPlatformerApp::run()
 {
-    SingleInstance instance(session(), SingleInstance::addressOf(sessionLockFile()));
+    auto& lock = session(); // It makes the folder that the address is derived from.
+    SingleInstance instance(lock, SingleInstance::addressOf(sessionLockFile()));
     switch (instance.start(m_activationToken)) {
     case SingleInstance::Start::First:
         return runFirst(instance);

@@ -5,6 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
+#include <QFileInfo>
 #include <QLocalSocket>
 
 #include <algorithm>
@@ -56,7 +57,11 @@ SingleInstance::SingleInstance(SessionLock& lock, QString name)
 
 QString SingleInstance::addressOf(const QString& lockFile)
 {
-    const auto key = QCryptographicHash::hash(lockFile.toUtf8(), QCryptographicHash::Sha256);
+    // The lock is one file however its folder is spelled, and so must be the address.
+    const QFileInfo file(lockFile);
+    const auto folder = QFileInfo(file.path()).canonicalFilePath();
+    const auto path = folder.isEmpty() ? lockFile : folder + u'/' + file.fileName();
+    const auto key = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256);
     return QStringLiteral("cavernyx-platformer-%1-%2")
         .arg(::geteuid())
         .arg(QString::fromLatin1(key.toHex().first(16)));

@@ -34,7 +34,8 @@ public:
     /// `lock` must outlive this. `name` tells installations apart, see addressOf().
     SingleInstance(SessionLock& lock, QString name);
 
-    /// The name by which the launchers of one user and one lock file find each other.
+    /// The name by which the launchers of one user and one lock file find each other, whatever
+    /// symbolic links lead to its folder. That has to exist.
     static QString addressOf(const QString& lockFile);
 
     /// Becomes the first launcher, or hands over to it, passing on `activationToken`, by which the

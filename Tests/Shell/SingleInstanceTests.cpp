@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 
@@ -93,6 +94,17 @@ TEST_F(SingleInstanceTest, knowsInstallationsApart)
     ASSERT_EQ(first.nextLine(), "first");
     Start other(m_folder.path(QStringLiteral("another lock")), {});
     EXPECT_EQ(other.nextLine(), "first");
+}
+
+TEST_F(SingleInstanceTest, knowsAnInstallationByEveryPathThatLeadsToIt)
+{
+    const auto folder = m_folder.makeFolder(QStringLiteral("folder"));
+    const auto link = m_folder.path(QStringLiteral("link"));
+    ASSERT_TRUE(QFile::link(folder, link));
+    Start first(folder + QStringLiteral("/lock"), {});
+    ASSERT_EQ(first.nextLine(), "first");
+    Start second(link + QStringLiteral("/lock"), {}, 1000);
+    EXPECT_EQ(second.nextLine(), "handed over");
 }
 
 TEST_F(SingleInstanceTest, isNotHeldUpByALauncherThatWasKilled)
