@@ -124,7 +124,8 @@ TEST_F(SingleInstanceTest, succeedsALauncherThatIsAboutToEnd)
     first.stopListening();
     Start second(m_lock, {});
     second.waitUntilItBegins();
-    QTest::qWait(300);
+    Start impatient(m_lock, {}, 300);
+    ASSERT_EQ(impatient.nextLine(), "no answer");
     EXPECT_FALSE(second.hasLine()) << "It does not wait.";
     first.end();
     EXPECT_EQ(second.nextLine(), "first");
