@@ -21,17 +21,26 @@ class Desktop:
         self.environment = environment
         self._output = output
         self._taken = 0
-        # A display that starts anew when its last client leaves turns away who comes just then.
-        environment["DISPLAY"] = ":" + self._start_telling(
-            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"])
+        self._start_display()
         bus = f"unix:path={environment['XDG_RUNTIME_DIR']}/bus"
-        environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
+        _, environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
             ["dbus-daemon", "--session", "--nofork", f"--address={bus}", "--print-address={}"])
         environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         os.environ.clear()
         os.environ.update(environment)
         self._start_accessibility_bus()
         window_manager.start(output / "window-manager.txt")
+
+    def lose_display(self) -> None:
+        """Ends the display as a crash of its server would."""
+        self._display.kill()
+        self._display.wait()
+
+    def replace_display(self) -> None:
+        """Starts another display after one that was lost."""
+        self._start_display()
+        os.environ["DISPLAY"] = self.environment["DISPLAY"]
+        window_manager.start(self._output / "window-manager.txt")
 
     def windows(self) -> dict[str, tuple[int, int]]:
         """The sizes of the windows that can be seen on the display, by their titles."""
@@ -112,16 +121,22 @@ class Desktop:
         """What xdotool answers: nothing about a window that has gone meanwhile."""
         return subprocess.run(["xdotool", *question], capture_output=True, text=True).stdout
 
-    def _start_telling(self, command: list[str]) -> str:
+    def _start_display(self) -> None:
+        # A display that starts anew when its last client leaves turns away who comes just then.
+        self._display, number = self._start_telling(
+            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"])
+        self.environment["DISPLAY"] = f":{number}"
+
+    def _start_telling(self, command: list[str]) -> tuple[subprocess.Popen, str]:
         """Starts a server that writes where it can be reached to a descriptor whose number
-        replaces the "{}" of its command, and returns that."""
+        replaces the "{}" of its command, and returns it and that."""
         reader, writer = os.pipe()
         log = (self._output / f"{command[0]}.txt").open("w")
-        subprocess.Popen([part.format(writer) for part in command], pass_fds=[writer],
-                         env=self.environment, stdout=log, stderr=log)
+        server = subprocess.Popen([part.format(writer) for part in command], pass_fds=[writer],
+                                  env=self.environment, stdout=log, stderr=log)
         os.close(writer)
         with os.fdopen(reader) as told:
-            return told.readline().strip()
+            return server, told.readline().strip()
 
     def _start_accessibility_bus(self) -> None:
         """The session bus starts it when somebody asks for its address."""
