@@ -13,6 +13,8 @@
 
 #include <QFile>
 
+#include <stop_token>
+
 namespace {
 
 const auto uuid = QStringLiteral("01234567-89AB-CDEF-0123-456789ABCDEF");
@@ -111,6 +113,19 @@ TEST_F(LeftoversTest, stayWithoutTheClaimOrWhileAGameRuns)
     game.kill();
     clear();
     EXPECT_FALSE(home.exists(staging));
+}
+
+TEST_F(LeftoversTest, stayForTheNextStartOnceItIsToStop)
+{
+    const auto staging = inRoot(QStringLiteral("Game.new-") + uuid + QStringLiteral("/file"));
+    const auto temporaryFile = QStringLiteral("tmp/CavernyxPlatformer-%1/file").arg(uuid);
+    home.write(staging);
+    home.write(temporaryFile);
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_FALSE(Leftovers::clear(session, stop.get_token()).result());
+    EXPECT_TRUE(home.exists(staging));
+    EXPECT_TRUE(home.exists(temporaryFile));
 }
 
 TEST_F(LeftoversTest, areNotTheFoldersThatAreJustBeingMade)

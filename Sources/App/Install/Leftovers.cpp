@@ -23,16 +23,24 @@ QStringList abandonedStagingFolders(const SessionLock& session)
 
 } // namespace
 
-QFuture<bool> Leftovers::clear(const SessionLock& session)
+QFuture<bool> Leftovers::clear(const SessionLock& session, const std::stop_token& stop)
 {
     // The staging folders are listed at once: what appears later is this program's own. The
     // temporary ones have their locks.
-    return offThread([stagingFolders = abandonedStagingFolders(session)] {
-        for (const auto& folder : stagingFolders)
+    return offThread([stagingFolders = abandonedStagingFolders(session), stop] {
+        bool anyRemoved = false;
+        for (const auto& folder : stagingFolders) {
+            if (stop.stop_requested())
+                return anyRemoved;
             FileTree::removeQuietly(folder);
+            anyRemoved = true;
+        }
         const auto temporaryFolders = Paths::tempDirs();
-        for (const auto& folder : temporaryFolders)
+        for (const auto& folder : temporaryFolders) {
+            if (stop.stop_requested())
+                return anyRemoved;
             TemporaryFolder::removeIfAbandoned(folder);
-        return !stagingFolders.isEmpty();
+        }
+        return anyRemoved;
     });
 }

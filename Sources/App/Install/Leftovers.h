@@ -3,6 +3,8 @@
 
 #include <QFuture>
 
+#include <stop_token>
+
 class SessionLock;
 
 /// What launchers that were killed have left behind: the folders they were putting together or
@@ -14,6 +16,8 @@ namespace Leftovers {
 ///
 /// Staging folders are nobody's, and go, when `session` is claimed and no game runs. Of the
 /// temporary folders those of this user go whose owner is gone.
-QFuture<bool> clear(const SessionLock& session);
+///
+/// Once `stop` is requested, no further folder is begun with; the next start goes on.
+QFuture<bool> clear(const SessionLock& session, const std::stop_token& stop = {});
 
 } // namespace Leftovers
