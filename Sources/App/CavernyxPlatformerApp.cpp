@@ -19,11 +19,13 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QThreadPool>
 #include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
+#include <stop_token>
 #include <utility>
 
 namespace {
@@ -106,10 +108,21 @@ QString sessionLockFile()
     }
 }
 
+/// Never destroyed: a program that ends without having released it keeps the claim until it is
+/// gone, and with it all that still works on the files.
 SessionLock& session()
 {
-    static SessionLock lock(sessionLockFile());
+    static auto& lock = *new SessionLock(sessionLockFile());
     return lock;
+}
+
+/// Lets the next start go on at once. The application's own end can take long: it waits until the
+/// system has given up on host names that nobody knows.
+void leaveInstallation()
+{
+    // The children have ended by now; every other change to the installation is this pool's work.
+    QThreadPool::globalInstance()->waitForDone();
+    session().release();
 }
 
 void sayThatAnotherDoesNotAnswer()
@@ -156,8 +169,11 @@ int CavernyxPlatformerApp::run()
     auto& lock = session(); // It makes the folder that the address is derived from.
     SingleInstance instance(lock, SingleInstance::addressOf(sessionLockFile()));
     switch (instance.start(m_activationToken)) {
-    case SingleInstance::Start::First:
-        return runFirst(instance);
+    case SingleInstance::Start::First: {
+        const auto status = runFirst(instance);
+        leaveInstallation();
+        return status;
+    }
     case SingleInstance::Start::HandedOver:
         return EXIT_SUCCESS;
     case SingleInstance::Start::NoAnswer:
@@ -169,7 +185,8 @@ int CavernyxPlatformerApp::run()
 
 int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
 {
-    auto clearing = Leftovers::clear(session());
+    std::stop_source end;
+    auto clearing = Leftovers::clear(session(), end.get_token());
     auto& model = AppModel::shared();
     clearing.then(&model, [&model](bool anyRemoved) {
         if (anyRemoved)
@@ -189,7 +206,9 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
                      &AppDelegate::expectSessionEnd, Qt::DirectConnection);
 
     delegate.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const auto status = QApplication::exec();
+    end.request_stop();
+    return status;
 }
 
 void CavernyxPlatformerApp::loadTranslation()

@@ -140,6 +140,28 @@ TEST_F(SessionLockTest, leavesNoFileBehind)
     EXPECT_FALSE(m_folder.exists(QStringLiteral("new folder/lock")));
 }
 
+TEST_F(SessionLockTest, canBeReleasedBeforeItsEnd)
+{
+    SessionLock lock(m_path);
+    ASSERT_TRUE(lock.claim());
+    OtherProcess waiting([this](int answer, int orders) {
+        SessionLock others(m_path);
+        say(answer, others.claim() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        say(answer, others.claim() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(waiting.answer(), "refused");
+    lock.release();
+    EXPECT_FALSE(lock.isClaimed());
+    EXPECT_FALSE(QFile::exists(m_path));
+    waiting.order();
+    EXPECT_EQ(waiting.answer(), "claimed");
+    lock.release();
+    EXPECT_TRUE(QFile::exists(m_path)) << "it is the next launcher's";
+}
+
 TEST_F(SessionLockTest, leavesTheFileOfAnotherLauncherAlone)
 {
     {

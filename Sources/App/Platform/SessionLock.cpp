@@ -44,10 +44,17 @@ SessionLock::SessionLock(const QString& path)
 
 SessionLock::~SessionLock()
 {
+    release();
+}
+
+void SessionLock::release()
+{
     // The file goes before the lock does: whoever waits for the lock finds it gone then, and makes
     // a new one.
     if (m_isClaimed && isStillThere() && !isGameRunning())
         QFile::remove(m_path);
+    m_file.close();
+    m_isClaimed = false;
 }
 
 void SessionLock::open()

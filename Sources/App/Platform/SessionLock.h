@@ -19,7 +19,7 @@ class SessionLock final
 public:
     /// Creates the file at `path`, with missing parents.
     explicit SessionLock(const QString& path);
-    /// Ends this launcher's claim and removes the file, unless a game still uses it.
+    /// As release() does.
     ~SessionLock();
 
     SessionLock(const SessionLock&) = delete;
@@ -27,6 +27,9 @@ public:
 
     /// Makes this process the launcher. False exactly when another process is.
     bool claim();
+    /// Ends this launcher's claim and removes the file, unless a game still uses it. From then on
+    /// this knows of nobody, as where locks do not work.
+    void release();
     /// Whether this process has become the launcher, so that what is left behind by earlier ones
     /// is nobody's. False where locks do not work.
     [[nodiscard]] bool isClaimed() const { return m_isClaimed; }

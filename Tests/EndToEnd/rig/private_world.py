@@ -7,6 +7,7 @@ import ctypes
 import os
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -68,6 +69,17 @@ def disconnect(scratch: Path) -> None:
     """From now on no name leads anywhere, and no address can be reached."""
     (scratch / HOSTS_FILE).write_text("127.0.0.1 localhost\n")
     subprocess.run(["ip", "link", "set", "lo", "down"], check=True)
+
+
+def silence_names(scratch: Path) -> socket.socket:
+    """From now on a name server is asked for every name, and none answers: a look-up takes a minute
+    to fail. Returns what has to be kept for as long as that is to be so."""
+    server = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+    server.bind(("127.0.0.1", 53))
+    (scratch / "resolv.conf").write_text(
+        "nameserver 127.0.0.1\noptions timeout:30 attempts:2\n")
+    (scratch / HOSTS_FILE).write_text("127.0.0.1 localhost\n")
+    return server
 
 
 def end_descendants() -> None:

@@ -67,6 +67,9 @@ class World:
     def disconnect(self) -> None:
         private_world.disconnect(self._scratch)
 
+    def silence_names(self) -> None:
+        self._silent_server = private_world.silence_names(self._scratch)
+
     def open_launcher(self, **environment: str | None) -> Launcher:
         """Starts the launcher and opens its log, to the right of where games open. One that was
         open before has to have ended."""

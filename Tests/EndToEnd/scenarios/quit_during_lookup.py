@@ -1,0 +1,26 @@
+# SPDX-License-Identifier: MIT
+"""Quitting while a host's name is looked up, which nothing can end before the system gives up: the
+next start need not wait for that."""
+
+from rig import setup
+from rig.launcher import TITLE
+from rig.waiting import wait_for
+
+
+def run(world):
+    setup.offer(world)
+    world.silence_names()
+    first = world.open_launcher()
+    first.press("Play")
+    first.wait_for_label(setup.GAME)
+    wait_for("The temporary folder of the download",
+             lambda: any(world.home.temporary.iterdir()))
+    world.desktop.close(TITLE)
+    wait_for("The end of the window", lambda: TITLE not in world.desktop.windows())
+
+    second = world.open_launcher()
+    second.wait_for_label("Not downloaded")
+    assert first.is_running(), "The look-up has ended too soon to be in anybody's way."
+    world.home.expect_nothing_left_over()
+    second.signal(15)
+    assert second.wait_for_end() == 0
