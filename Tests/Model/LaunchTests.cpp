@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "Support/Await.h"
 #include "Support/ModelTest.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-#include <signal.h>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -37,6 +34,12 @@ protected:
             if (titles.isEmpty() || titles.last() != title)
                 titles.append(title);
         });
+    }
+
+    /// Waits for the word of an engine that says so.
+    void waitUntilItIsUp()
+    {
+        ASSERT_TRUE(waitUntil([this] { return logged().contains(QStringLiteral("up")); }));
     }
 
     QStringList titles;
@@ -118,7 +121,7 @@ TEST_F(Launch, tellsAStopByThePlayerFromACrash)
 {
     startReady("echo up; exec sleep 60");
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    waitUntilItIsUp();
     model().stopGame();
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::ready());
@@ -146,7 +149,7 @@ TEST_F(Launch, killsAGameThatIgnoresTheRequestToStop)
 {
     startReady("trap '' TERM; echo up; while :; do sleep 0.05; done");
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    waitUntilItIsUp();
     model().stopGame();
     waitForFlow();
     EXPECT_EQ(logged().last(), u"Game stopped by you.");
@@ -184,7 +187,7 @@ TEST_F(Launch, judgesACancelDuringPlayByTheOutcomeAndSaysCancelled)
 {
     startReady("echo up; exec sleep 60");
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    waitUntilItIsUp();
     model().cancelSetup();
     waitForFlow();
     EXPECT_EQ(logged().last(), u"Cancelled.");
@@ -195,7 +198,7 @@ TEST_F(Launch, asksBeforeQuittingAndStaysWhenDeclined)
 {
     startReady("echo up; exec sleep 60");
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }));
+    waitUntilItIsUp();
     desktop.answer = false;
     EXPECT_FALSE(model().confirmQuit());
     ASSERT_EQ(desktop.questions.size(), 1);

@@ -14,6 +14,31 @@ class Maintenance : public ModelTest
 {
 };
 
+/// Permissions bind only an ordinary user: the administrator is one for as long as this lives.
+class OrdinaryUserScope final
+{
+public:
+    OrdinaryUserScope()
+    {
+        if (m_wasPrivileged) {
+            EXPECT_EQ(::seteuid(nobody), 0);
+        }
+    }
+    ~OrdinaryUserScope()
+    {
+        if (m_wasPrivileged) {
+            EXPECT_EQ(::seteuid(0), 0);
+        }
+    }
+
+    OrdinaryUserScope(const OrdinaryUserScope&) = delete;
+    OrdinaryUserScope& operator=(const OrdinaryUserScope&) = delete;
+
+private:
+    static constexpr uid_t nobody = 65534;
+    const bool m_wasPrivileged = ::geteuid() == 0;
+};
+
 TEST_F(Maintenance, copiesTheFailureReportWhenThereIsOne)
 {
     startModel().copyFailure();
@@ -155,15 +180,10 @@ TEST_F(Maintenance, saysWhatCouldNotBeRemovedAndKeepsTheLog)
     const auto locked = root(QStringLiteral("Game/tetherwalk-master")).toUtf8();
     ASSERT_EQ(::chmod(home.path().toUtf8().constData(), 0755), 0);
     ASSERT_EQ(::chmod(locked.constData(), 0555), 0);
-    // Permissions bind only an ordinary user.
-    const auto privileged = ::geteuid() == 0;
-    if (privileged) {
-        ASSERT_EQ(::seteuid(65534), 0);
-    }
-    model().removeEverything();
-    waitForFlow();
-    if (privileged) {
-        ASSERT_EQ(::seteuid(0), 0);
+    {
+        const OrdinaryUserScope ordinary;
+        model().removeEverything();
+        waitForFlow();
     }
 
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
