@@ -80,10 +80,10 @@ public:
     void setFullscreen(bool fullscreen);
     void setResolution(ResolutionChoice resolution);
 
-    /// Whether Play and the maintenance actions are refused: a busy phase, or a flow that is still
-    /// looking at what is already there.
-    [[nodiscard]] bool isBusy() const { return m_phase.isBusy() || isFlowRunning(); }
-    /// From a press of Play until all that it started has ended.
+    /// Whether Play and the maintenance actions are refused: a busy phase, a flow that is still
+    /// looking at what is already there, or a program that is about to quit.
+    [[nodiscard]] bool isBusy() const { return m_phase.isBusy() || isFlowRunning() || m_quitting; }
+    /// From the start of a flow until all that it started has ended.
     [[nodiscard]] bool isFlowRunning() const { return m_flowRunning; }
 
     /// Starts the setup flow, which skips what is done and ends with the game. Returns at once;
@@ -109,8 +109,8 @@ public:
     /// Whether the program may quit: asks while the game runs, and unless the player declines ends
     /// what runs, as endForQuit() does.
     bool confirmQuit();
-    /// Closes the running game as the player's own wish, or cancels a setup, without asking. The
-    /// caller waits for flowEnded() while isFlowRunning().
+    /// Closes the running game as the player's own wish, or cancels a setup, without asking. From
+    /// then on nothing new begins. The caller waits for flowEnded() while isFlowRunning().
     void endForQuit();
 
     /// Derives info, facts and phase from the disk anew and clears the progress.
@@ -190,6 +190,7 @@ private:
     bool m_userStopped = false;
     bool m_cancelled = false;
     bool m_forceGameDownload = false;
+    bool m_quitting = false;
 
     /// Measuring never keeps the flow waiting for a thread: it has one of its own.
     QThreadPool m_sizePool;

@@ -176,9 +176,11 @@ bool AppModel::confirmQuit()
 
 void AppModel::endForQuit()
 {
+    // Whoever comes afterwards, with a question that was answered in the same instant, is too late.
+    m_quitting = true;
     if (m_phase == Phase::Kind::playing)
         stopGame();
-    else if (isBusy())
+    else if (isFlowRunning())
         cancelSetup();
     m_sizeStop.request_stop(); // Nobody waits for that number any more.
 }

@@ -213,6 +213,22 @@ TEST_F(Launch, asksBeforeQuittingAndStaysWhenDeclined)
     EXPECT_EQ(logged().last(), u"Game stopped by you.");
 }
 
+TEST_F(Launch, quitsOrStaysAsAnsweredWhenTheGameEndsWhileTheQuestionStands)
+{
+    startReady("sleep 0.5");
+    desktop.whileAsking = [this] { waitForFlow(); };
+    for (const auto answer : {false, true}) {
+        model().play();
+        waitForPhase(Phase::Kind::playing);
+        desktop.answer = answer;
+        EXPECT_EQ(model().confirmQuit(), answer);
+        EXPECT_EQ(model().phase(), Phase::ready());
+        EXPECT_EQ(logged().last(), u"Game closed normally.");
+    }
+    EXPECT_EQ(desktop.questions.size(), 2);
+    EXPECT_FALSE(model().isFlowRunning());
+}
+
 TEST_F(Launch, quitsWithoutAQuestionWhenNothingRuns)
 {
     startReady("exit 0");
