@@ -160,6 +160,7 @@ private:
     void concludePlay(const PlayOutcome& outcome);
 
     // Maintenance.
+    bool mayChangeInstallation(const QString& title, const QString& message, const QString& button);
     QCoro::Task<> deleteAndSetUp(std::stop_token stop);
     QCoro::Task<> deleteEverything(std::stop_token stop);
 

@@ -50,16 +50,21 @@ void removeInstallation(const QString& root)
 
 } // namespace
 
-void AppModel::updateGame()
+bool AppModel::mayChangeInstallation(const QString& title, const QString& message,
+                                     const QString& button)
 {
     if (isBusy() || refuseWhileGameStillRuns())
-        return;
-    if (!m_desktop.confirm(
+        return false;
+    // While a question stands the program goes on, and may have begun something else.
+    return m_desktop.confirm(title, message, button) && !isBusy();
+}
+
+void AppModel::updateGame()
+{
+    if (!mayChangeInstallation(
             tr("Update the game?"),
             tr("The game is downloaded again from GitHub. Your save files are kept."),
             tr("Update")))
-        return;
-    if (isBusy())
         return;
     m_forceGameDownload = true;
     if (m_info)
@@ -69,17 +74,12 @@ void AppModel::updateGame()
 
 void AppModel::reinstall()
 {
-    if (isBusy() || refuseWhileGameStillRuns())
-        return;
-    if (!m_desktop.confirm(
+    if (mayChangeInstallation(
             tr("Reinstall everything?"),
             tr("The game and the engine are deleted and downloaded again. Your save files are "
                "kept."),
             tr("Reinstall")))
-        return;
-    if (isBusy())
-        return;
-    startFlow(&AppModel::deleteAndSetUp);
+        startFlow(&AppModel::deleteAndSetUp);
 }
 
 QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
@@ -98,19 +98,14 @@ QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 
 void AppModel::removeEverything()
 {
-    if (isBusy() || refuseWhileGameStillRuns())
-        return;
     const auto size = m_installedSize.isEmpty() ? tr("all downloaded files") : m_installedSize;
-    if (!m_desktop.confirm(
+    if (mayChangeInstallation(
             tr("Remove everything?"),
             tr("This deletes the downloaded game and engine and frees %1. Your save files in "
                "Godot's folder are not touched.")
                 .arg(size),
             tr("Remove")))
-        return;
-    if (isBusy())
-        return;
-    startFlow(&AppModel::deleteEverything);
+        startFlow(&AppModel::deleteEverything);
 }
 
 QCoro::Task<> AppModel::deleteEverything(std::stop_token)
