@@ -32,9 +32,12 @@ class SessionLock;
 /// it alone turns the errors of the layers under it into state. Everything runs on the main thread,
 /// which nothing here blocks: downloads, child processes and walks of folders report back to it.
 ///
-/// Four source files: AppModel.cpp holds the state, AppModelSetup.cpp the four steps from nothing
-/// to the installed game, AppModelLaunch.cpp the supervision of the game, AppModelMaintenance.cpp
-/// the housekeeping.
+/// Whatever takes its time - a press of Play, a housekeeping action - is a flow, and there is one
+/// at a time.
+///
+/// Five source files: AppModel.cpp holds the state, AppModelFlow.cpp what all flows have in common,
+/// AppModelSetup.cpp the four steps from nothing to the installed game, AppModelLaunch.cpp the
+/// supervision of the game, AppModelMaintenance.cpp the housekeeping.
 class AppModel final : public QObject
 {
     Q_OBJECT
@@ -89,7 +92,7 @@ public:
     /// Starts the setup flow, which skips what is done and ends with the game. Returns at once;
     /// does nothing while busy.
     void play();
-    /// Ends the setup flow with "Cancelled.". Returns at once; flowEnded() follows.
+    /// Ends the flow with "Cancelled.". Returns at once; flowEnded() follows.
     void cancelSetup();
     /// Closes the running game as the player's own wish. Returns at once; flowEnded() follows.
     void stopGame();
@@ -143,6 +146,9 @@ private:
     bool refuseWhileGameStillRuns();
     void startFlow(Flow flow);
     QCoro::Task<> runFlow(Flow flow, std::stop_token stop);
+    void concludeCancelled();
+    void concludeFailed(const QString& description);
+    void fail(const QString& message);
 
     // Setup.
     QCoro::Task<> setUpAndPlay(std::stop_token stop);
@@ -150,9 +156,6 @@ private:
     QCoro::Task<ProjectInfo> readProject(QString project);
     QCoro::Task<QString> getEngine(ProjectInfo info, std::stop_token stop);
     QCoro::Task<> importAssets(QString engine, ProjectInfo info, std::stop_token stop);
-    void fail(const QString& message);
-    void concludeCancelled();
-    void concludeFailed(const QString& description);
 
     // Launch.
     QCoro::Task<> launch(QString engine, QString project);

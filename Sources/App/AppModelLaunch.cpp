@@ -6,10 +6,8 @@
 
 #include "AppError.h"
 #include "Install/EngineManager.h"
-#include "Install/Paths.h"
 #include "Platform/SessionLock.h"
 #include "PlayOutcome.h"
-#include "ProgressRelay.h"
 
 #include <QCoroFuture>
 #include <QFile>

@@ -5,14 +5,12 @@
 
 #include "Desktop.h"
 #include "Install/EngineManager.h"
-#include "Install/FileDownloader.h"
 #include "Install/Paths.h"
 #include "Platform/Cancelled.h"
 #include "Platform/FileTree.h"
 #include "Platform/HostPlatform.h"
 #include "Platform/OffThread.h"
 #include "Platform/PlatformError.h"
-#include "ProgressRelay.h"
 
 #include <QCoroFuture>
 #include <QFile>

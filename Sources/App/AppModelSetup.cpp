@@ -7,13 +7,10 @@
 
 #include "AppError.h"
 #include "Install/EngineManager.h"
-#include "Install/FileDownloader.h"
 #include "Install/Paths.h"
 #include "Install/RepoDownloader.h"
 #include "Platform/Cancelled.h"
 #include "Platform/OffThread.h"
-#include "Platform/SessionLock.h"
-#include "ProgressRelay.h"
 #include "Project/ImportChecker.h"
 #include "Project/ProjectInspector.h"
 
@@ -23,7 +20,6 @@
 namespace {
 
 constexpr int newestGodot3ConfigVersion = 4;
-constexpr int reportedLogLines = 30;
 
 QString projectLine(const ProjectInfo& info)
 {
@@ -57,54 +53,6 @@ void AppModel::play()
     if (refuseWhileGameStillRuns())
         return;
     startFlow(&AppModel::setUpAndPlay);
-}
-
-bool AppModel::refuseWhileGameStillRuns()
-{
-    // It was left running by a launcher that was killed. Its files must not change under it, and a
-    // second one would write to the same saves.
-    if (!m_session.isGameRunning())
-        return false;
-    concludeFailed(
-        QStringLiteral("The game is still running from an earlier start. Close it first."));
-    return true;
-}
-
-void AppModel::startFlow(Flow flow)
-{
-    m_userStopped = false;
-    m_cancelled = false;
-    m_flowStop = std::stop_source();
-    m_flowRunning = true;
-    Q_EMIT changed();
-    m_flowTask = runFlow(flow, m_flowStop.get_token());
-}
-
-void AppModel::cancelSetup()
-{
-    // First of all, so that whatever error the interrupted step throws is known for a cancel.
-    m_cancelled = true;
-    m_flowStop.request_stop();
-    if (m_downloader)
-        m_downloader->cancel();
-    m_runner.terminateCurrent();
-}
-
-QCoro::Task<> AppModel::runFlow(Flow flow, std::stop_token stop)
-{
-    try {
-        co_await (this->*flow)(stop);
-    } catch (const Cancelled&) {
-        concludeCancelled();
-    } catch (const std::exception& error) {
-        if (m_cancelled)
-            concludeCancelled();
-        else
-            concludeFailed(QString::fromUtf8(error.what()));
-    }
-    m_flowRunning = false;
-    Q_EMIT changed();
-    Q_EMIT flowEnded();
 }
 
 QCoro::Task<> AppModel::setUpAndPlay(std::stop_token stop)
@@ -205,28 +153,4 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
                            .arg(status));
     }
     createEmptyFile(manager.markerFile());
-}
-
-void AppModel::concludeCancelled()
-{
-    m_log.append(QStringLiteral("Cancelled."));
-    refreshState();
-}
-
-void AppModel::concludeFailed(const QString& description)
-{
-    m_log.append(QStringLiteral("Error: ") + description);
-    fail(description);
-    updateSize();
-}
-
-void AppModel::fail(const QString& message)
-{
-    m_failureText = QStringLiteral("What happened: ") + message +
-                    QStringLiteral("\n\nLast log lines:\n") +
-                    m_log.newest(reportedLogLines).join(u'\n');
-    clearProgress();
-    m_stillStarting = false;
-    m_phase = Phase::needs(message);
-    Q_EMIT changed();
 }
