@@ -4,6 +4,7 @@
 #include "AppDelegate.h"
 #include "AppModel.h"
 #include "ColorScheme.h"
+#include "DisplayCheck.h"
 #include "Install/Leftovers.h"
 #include "Install/Paths.h"
 #include "Platform/PlatformError.h"
@@ -24,45 +25,9 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <mutex>
 #include <stop_token>
-#include <utility>
 
 namespace {
-
-std::mutex lockOfMessages;
-QStringList messagesAtStart;
-
-/// While the application starts, Qt's own words for a display that cannot be opened, and its abort,
-/// are replaced by one sentence. Whatever the cause is - no display, no permission, no plug-in for
-/// it - Qt alone knows, and only so late. What it says without giving up is passed on afterwards.
-class DisplayCheck final
-{
-public:
-    DisplayCheck() { qInstallMessageHandler(handle); }
-    ~DisplayCheck()
-    {
-        qInstallMessageHandler(nullptr);
-        for (const auto& message : std::exchange(messagesAtStart, {}))
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    }
-
-    DisplayCheck(const DisplayCheck&) = delete;
-    DisplayCheck& operator=(const DisplayCheck&) = delete;
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext&, const QString& message)
-    {
-        const std::lock_guard guard(lockOfMessages);
-        messagesAtStart.append(message);
-        if (type != QtFatalMsg)
-            return;
-        std::fputs(
-            "Cavernyx Platformer needs a graphical desktop, and no display could be opened.\n",
-            stderr);
-        std::_Exit(EXIT_FAILURE);
-    }
-};
 
 /// Names and settings that have to be known before the application is made.
 void prepare()
