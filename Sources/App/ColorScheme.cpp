@@ -49,8 +49,7 @@ uint unwrapped(QVariant value)
 
 } // namespace
 
-ColorScheme::ColorScheme(QObject* parent)
-    : QObject(parent)
+ColorScheme::ColorScheme()
 {
     usePlatformPalette();
     auto bus = QDBusConnection::sessionBus();

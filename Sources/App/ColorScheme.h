@@ -16,7 +16,7 @@ class ColorScheme final : public QObject
     Q_OBJECT
 
 public:
-    explicit ColorScheme(QObject* parent = nullptr);
+    ColorScheme();
 
 private Q_SLOTS:
     /// The whole message, since Qt 6.4 connects no signal to a slot that takes a variant of the

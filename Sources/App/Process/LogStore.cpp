@@ -26,9 +26,8 @@ qsizetype countLineFeeds(QByteArrayView bytes)
 
 } // namespace
 
-LogStore::LogStore(int maxLines, std::chrono::milliseconds publicationDelay, QObject* parent)
-    : QObject(parent)
-    , m_maxLines(maxLines)
+LogStore::LogStore(int maxLines, std::chrono::milliseconds publicationDelay)
+    : m_maxLines(maxLines)
     , m_publicationDelay(publicationDelay)
 {
 }

@@ -24,8 +24,7 @@ class LogStore final : public QObject
 public:
     /// Keeps at most `maxLines` lines. Belongs to the thread that creates it, the main thread.
     explicit LogStore(int maxLines = 2000,
-                      std::chrono::milliseconds publicationDelay = Durations().logPublication,
-                      QObject* parent = nullptr);
+                      std::chrono::milliseconds publicationDelay = Durations().logPublication);
 
     /// Adds the lines of `text`, split at every line feed, empty pieces included. Any thread.
     void append(const QString& text);
