@@ -97,6 +97,8 @@ void AppModel::setShowLog(bool show)
 
 void AppModel::setFullscreen(bool fullscreen)
 {
+    if (m_fullscreen == fullscreen)
+        return;
     m_fullscreen = fullscreen;
     QSettings().setValue(fullscreenKey, fullscreen);
     Q_EMIT changed();
@@ -104,6 +106,8 @@ void AppModel::setFullscreen(bool fullscreen)
 
 void AppModel::setResolution(ResolutionChoice resolution)
 {
+    if (m_resolution == resolution)
+        return;
     m_resolution = resolution;
     QSettings().setValue(resolutionKey, rawValue(resolution));
     Q_EMIT changed();

@@ -2,6 +2,7 @@
 #include "Support/ModelTest.h"
 
 #include <QSettings>
+#include <QSignalSpy>
 
 namespace {
 
@@ -49,6 +50,19 @@ TEST_F(Settings, storeTheGamesOwnSizeAsTheEmptyText)
     model().setResolution(ResolutionChoice::gameDefault);
     EXPECT_TRUE(QSettings().contains(QStringLiteral("resolution")));
     EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), QString());
+}
+
+TEST_F(Settings, areNeitherStoredNorAnnouncedWhenNothingChanges)
+{
+    startModel();
+    const QSignalSpy changed(&model(), &AppModel::changed);
+    model().setFullscreen(false);
+    model().setResolution(ResolutionChoice::gameDefault);
+    EXPECT_EQ(changed.size(), 0);
+    EXPECT_TRUE(QSettings().allKeys().isEmpty()) << "a later default would not be followed";
+    model().setFullscreen(true);
+    model().setResolution(ResolutionChoice::r900);
+    EXPECT_EQ(changed.size(), 2);
 }
 
 } // namespace
