@@ -105,6 +105,8 @@ public:
     /// The folder with the game's saves, if the game is known and has saved anything.
     [[nodiscard]] std::optional<QString> savesFolder() const;
     void showSaves();
+    /// Shows the install folder in the file browser. One set of names and texts serves every
+    /// platform, so it is the Finder here too.
     void revealInFinder();
     void copyFailure();
     void copyLog();

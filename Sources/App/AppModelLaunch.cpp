@@ -55,8 +55,8 @@ void AppModel::concludePlay(const PlayOutcome& outcome)
         refreshState();
         return;
     case PlayOutcome::Kind::closedTooSoon:
-        // The next Play imports once more. Always the name of the standard edition: the marker of
-        // a C# game stays.
+        // The next Play imports once more. Always the name of the standard edition, deliberately:
+        // a C# game keeps its marker, and is not imported anew because it closed at once.
         QFile::remove(EngineManager{.mono = false}.markerFile());
         throw AppError(outcome.sentence());
     case PlayOutcome::Kind::stoppedUnexpectedly:

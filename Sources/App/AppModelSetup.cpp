@@ -137,6 +137,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     QFile::remove(manager.markerFile());
     enterSettingUp(
         QStringLiteral("Step 3 of 4 · First-time setup, this can take a minute or more"));
+    // One wording for good: the run itself is given no "--quit", its watcher ends it.
     m_log.append(QStringLiteral("Importing the game's assets (Godot 3 has no --headless flag; "
                                 "using --editor --no-window --quit)."));
     const auto log = m_log.callback();
