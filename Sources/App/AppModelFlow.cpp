@@ -20,8 +20,7 @@ bool AppModel::refuseWhileGameStillRuns()
     // second one would write to the same saves.
     if (!m_session.isGameRunning())
         return false;
-    concludeFailed(
-        QStringLiteral("The game is still running from an earlier start. Close it first."));
+    concludeFailed(tr("The game is still running from an earlier start. Close it first."));
     return true;
 }
 
@@ -77,9 +76,8 @@ void AppModel::concludeFailed(const QString& description)
 
 void AppModel::fail(const QString& message)
 {
-    m_failureText = QStringLiteral("What happened: ") + message +
-                    QStringLiteral("\n\nLast log lines:\n") +
-                    m_log.newest(reportedLogLines).join(u'\n');
+    m_failureText = tr("What happened: %1\n\nLast log lines:\n%2")
+                        .arg(message, m_log.newest(reportedLogLines).join(u'\n'));
     clearProgress();
     m_stillStarting = false;
     m_phase = Phase::needs(message);

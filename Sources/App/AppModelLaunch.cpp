@@ -20,7 +20,7 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 {
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(QStringLiteral("Step 4 of 4 · Starting: Godot ") + arguments.join(u' '));
-    enterPlaying(QStringLiteral("Step 4 of 4 · Play"));
+    enterPlaying(tr("Step 4 of 4 · Play"));
 
     const auto start = std::chrono::steady_clock::now();
     const auto status = co_await runGame(engine, arguments);

@@ -112,7 +112,7 @@ QCoro::Task<> AppModel::deleteEverything(std::stop_token)
         const auto removal = offThread([root = Paths::root()] { removeInstallation(root); });
         co_await removal;
     } catch (const std::exception& error) {
-        fail(QStringLiteral("Could not remove the files: ") + QString::fromUtf8(error.what()));
+        fail(tr("Could not remove the files: %1").arg(QString::fromUtf8(error.what())));
         updateSize();
         co_return;
     }

@@ -76,7 +76,7 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
     }
     throwIfCancelled(stop);
     m_forceGameDownload = false;
-    enterDownloading(QStringLiteral("Step 1 of 4 · Downloading the game"));
+    enterDownloading(tr("Step 1 of 4 · Downloading the game"));
     m_downloader = makeDownloader();
     const auto log = m_log.callback();
     const auto project = co_await RepoDownloader::fetch(m_downloader, log, stop);
@@ -89,7 +89,7 @@ QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
     const auto reading = offThread([project] { return ProjectInspector::inspect(project); });
     const auto info = co_await reading;
     if (!info)
-        throw AppError(QStringLiteral("The downloaded folder has no readable project.godot."));
+        throw AppError(tr("The downloaded folder has no readable project.godot."));
     const auto gathering = offThread(
         [project, game = Paths::game()] { return ProjectInspector::facts(project, game); });
     m_facts = co_await gathering;
@@ -97,8 +97,8 @@ QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
     Q_EMIT changed();
     m_log.append(projectLine(*info));
     if (info->configVersion > newestGodot3ConfigVersion)
-        throw AppError(QStringLiteral("This game is made for Godot 4, but this app only knows how "
-                                      "to install Godot 3."));
+        throw AppError(tr("This game is made for Godot 4, but this app only knows how "
+                          "to install Godot 3."));
     co_return *info;
 }
 
@@ -112,7 +112,7 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
     } else {
         throwIfCancelled(stop);
         const auto edition = manager.mono ? QStringLiteral("-mono") : QString();
-        enterDownloading(QStringLiteral("Step 2 of 4 · Downloading the Godot engine (%1%2)")
+        enterDownloading(tr("Step 2 of 4 · Downloading the Godot engine (%1%2)")
                              .arg(EngineManager::version(), edition));
         m_downloader = makeDownloader();
         const auto log = m_log.callback();
@@ -120,7 +120,7 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
     }
     throwIfCancelled(stop);
     if (!engine)
-        throw AppError(QStringLiteral("The Godot engine is missing."));
+        throw AppError(tr("The Godot engine is missing."));
     co_return *engine;
 }
 
@@ -135,8 +135,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
         co_return;
     }
     QFile::remove(manager.markerFile());
-    enterSettingUp(
-        QStringLiteral("Step 3 of 4 · First-time setup, this can take a minute or more"));
+    enterSettingUp(tr("Step 3 of 4 · First-time setup, this can take a minute or more"));
     // One wording for good: the run itself is given no "--quit", its watcher ends it.
     m_log.append(QStringLiteral("Importing the game's assets (Godot 3 has no --headless flag; "
                                 "using --editor --no-window --quit)."));
@@ -148,8 +147,8 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     const auto after = co_await secondCount;
     throwIfCancelled(stop);
     if (after >= 1) {
-        throw AppError(QStringLiteral("The first-time setup did not finish: %1 game assets were "
-                                      "not imported (engine exit code %2).")
+        throw AppError(tr("The first-time setup did not finish: %1 game assets were "
+                          "not imported (engine exit code %2).")
                            .arg(after)
                            .arg(status));
     }

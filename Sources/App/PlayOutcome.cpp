@@ -17,14 +17,14 @@ QString PlayOutcome::sentence() const
     case Kind::stoppedByPlayer:
         return QStringLiteral("Game stopped by you.");
     case Kind::closedTooSoon:
-        return QStringLiteral("The game closed after %1 seconds (exit code %2), so it did not "
-                              "start properly.")
+        return tr("The game closed after %1 seconds (exit code %2), so it did not "
+                  "start properly.")
             .arg(m_elapsed.count())
             .arg(m_exitStatus);
     case Kind::closedNormally:
         return QStringLiteral("Game closed normally.");
     case Kind::stoppedUnexpectedly:
-        return QStringLiteral("The game stopped unexpectedly (exit code %1).").arg(m_exitStatus);
+        return tr("The game stopped unexpectedly (exit code %1).").arg(m_exitStatus);
     }
     Q_UNREACHABLE();
 }

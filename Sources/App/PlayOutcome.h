@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <chrono>
@@ -8,6 +9,8 @@
 /// How a play run ended, judged from what is known of it. A pure value: no clock, no state.
 class PlayOutcome final
 {
+    Q_DECLARE_TR_FUNCTIONS(PlayOutcome)
+
 public:
     enum class Kind {
         /// The player stopped the game; how it ended then does not matter.
@@ -24,7 +27,8 @@ public:
                              std::chrono::nanoseconds startUpWatch);
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    /// The sentence about it: a log line for an end as it should be, else the failure.
+    /// The sentence about it: a log line for an end as it should be, else the failure, in the
+    /// player's language.
     [[nodiscard]] QString sentence() const;
 
 private:

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "Support/AppModelAccess.h"
+#include "Support/ModelTest.h"
+
+#include <QTranslator>
+
+namespace {
+
+/// A language in which every text is the English one between marks.
+class MarkedLanguage final : public QTranslator
+{
+public:
+    MarkedLanguage() { QCoreApplication::installTranslator(this); }
+    ~MarkedLanguage() override { QCoreApplication::removeTranslator(this); }
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*,
+                                    int) const override
+    {
+        return u'<' + QString::fromUtf8(source) + u'>';
+    }
+};
+
+class ModelTranslation : public ModelTest
+{
+protected:
+    AppModel& startReady(const QByteArray& engine)
+    {
+        installGame();
+        installEngine(engine);
+        writeMarker();
+        return startModel();
+    }
+
+private:
+    const MarkedLanguage m_language;
+};
+
+TEST_F(ModelTranslation, reachesTheFailureAndTheStepAndLeavesTheLogAsItIs)
+{
+    startReady("exit 7").play();
+    waitForFlow();
+    const auto sentence = QStringLiteral(
+        "<The game closed after 0 seconds (exit code 7), so it did not start properly.>");
+    EXPECT_EQ(model().phase(), Phase::needs(sentence));
+    EXPECT_EQ(model().stepText(), u"<Step 4 of 4 · Play>");
+    EXPECT_EQ(logged().first(), u"Step 1 of 4 · Game already downloaded, skipping.");
+    EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
+    EXPECT_EQ(*model().failureText(), QStringLiteral("<What happened: %1\n\nLast log lines:\n%2>")
+                                          .arg(sentence, logged().join(u'\n')));
+}
+
+TEST_F(ModelTranslation, reachesTheStepsAndTheFailureOfASetup)
+{
+    QStringList steps;
+    startReady("exit 3");
+    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
+    QObject::connect(&model(), &AppModel::changed, &model(),
+                     [&] { steps.append(model().stepText()); });
+    model().play();
+    waitForFlow();
+    EXPECT_TRUE(steps.contains(
+        QStringLiteral("<Step 3 of 4 · First-time setup, this can take a minute or more>")));
+    EXPECT_EQ(model().phase(), Phase::needs(QStringLiteral(
+                                   "<The first-time setup did not finish: 1 game assets were not "
+                                   "imported (engine exit code 3).>")));
+}
+
+TEST_F(ModelTranslation, reachesTheStepsOfTheDownloads)
+{
+    startModel().play(); // There is no server.
+    waitForFlow();
+    EXPECT_EQ(model().stepText(), u"<Step 1 of 4 · Downloading the game>");
+    installGame();
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(model().stepText(), u"<Step 2 of 4 · Downloading the Godot engine (3.5.3-stable)>");
+}
+
+TEST_F(ModelTranslation, reachesTheRefusalOfAGameThatCannotBePlayed)
+{
+    installGame();
+    const auto project =
+        QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/project.godot");
+    home.write(project, "config_version=5\n");
+    startModel().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase().message(),
+              u"<This game is made for Godot 4, but this app only knows how to install Godot 3.>");
+    home.write(project, "config_version=abc\n");
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase().message(), u"<The downloaded folder has no readable project.godot.>");
+}
+
+} // namespace
