@@ -17,6 +17,7 @@
 
 #include <QIcon>
 #include <QImageReader>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
@@ -178,10 +179,17 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
 
 void CavernyxPlatformerApp::loadTranslation()
 {
-    auto* const translator = new QTranslator(&m_application);
     const auto folder = QCoreApplication::applicationDirPath() +
                         QStringLiteral("/../share/cavernyx-platformer/translations");
-    if (translator->load(QLocale(), QStringLiteral("cavernyx-platformer"), QStringLiteral("_"),
-                         folder))
-        QCoreApplication::installTranslator(translator);
+    // What Qt says by itself, as in the menu of a selectable text, is in the same language as ours.
+    if (installTranslation(QStringLiteral("cavernyx-platformer"), folder))
+        installTranslation(QStringLiteral("qtbase"),
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+}
+
+bool CavernyxPlatformerApp::installTranslation(const QString& name, const QString& folder)
+{
+    auto* const translator = new QTranslator(&m_application);
+    return translator->load(QLocale(), name, QStringLiteral("_"), folder) &&
+           QCoreApplication::installTranslator(translator);
 }

@@ -22,6 +22,7 @@ public:
 private:
     int runFirst(SingleInstance& instance);
     void loadTranslation();
+    bool installTranslation(const QString& name, const QString& folder);
 
     int m_argumentCount = 1;
     char* m_arguments[2];
