@@ -15,6 +15,9 @@ AppDelegate::AppDelegate(AppModel& model, QWidget& window)
 {
     qApp->installEventFilter(this);
     connect(&m_model, &AppModel::flowEnded, this, &AppDelegate::quitWhenIdle);
+    // Directly, as the signal asks for: when it returns, the session goes on to end the program.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::expectSessionEnd,
+            Qt::DirectConnection);
 
     auto* const quit = new QAction(&m_window);
     quit->setShortcuts({QKeySequence::Quit, QKeySequence::Close});

@@ -24,9 +24,6 @@ public:
     bool applicationShouldTerminate();
     /// Begins to quit without a question: the system wants the program gone.
     void terminate();
-    /// The session is about to end, unless another program keeps it from that. When the application
-    /// is told to quit then, it is the session's end, and no question is asked.
-    void expectSessionEnd();
     /// Brings the window to the front, as another start of the program asks. By `activationToken`,
     /// if it gave one, a Wayland desktop knows that the player wanted this; another desktop may
     /// only mark the window as wanting attention.
@@ -40,6 +37,9 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    /// The session is about to end, unless another program keeps it from that. When the application
+    /// is told to quit then, it is the session's end, and no question is asked.
+    void expectSessionEnd();
     void beginToQuit();
     void quitWhenIdle();
 

@@ -168,8 +168,6 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
                      &SingleInstance::stopListening);
     QObject::connect(&terminationSignals, &TerminationSignals::received, &delegate,
                      &AppDelegate::terminate);
-    QObject::connect(&m_application, &QGuiApplication::commitDataRequest, &delegate,
-                     &AppDelegate::expectSessionEnd, Qt::DirectConnection);
 
     delegate.applicationDidFinishLaunching();
     const auto status = QApplication::exec();

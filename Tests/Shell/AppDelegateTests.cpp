@@ -3,6 +3,8 @@
 #include "Support/AppModelAccess.h"
 #include "Support/ModelTest.h"
 
+#include <QApplication>
+#include <QSessionManager>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -149,7 +151,9 @@ TEST_F(AppDelegateTest, asksNothingWhenTheApplicationIsToldToQuitAtTheSessionsEn
 {
     AppModelAccess::setPhase(model(), Phase::playing());
     desktop.answer = false;
-    delegate.expectSessionEnd();
+    auto* const manager = qApp->findChild<QSessionManager*>();
+    ASSERT_TRUE(manager) << "the application makes it";
+    Q_EMIT qApp->commitDataRequest(*manager);
     EXPECT_TRUE(goesOn()) << "another program may have kept the session from ending";
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_TRUE(ends([] { QCoreApplication::quit(); }));
