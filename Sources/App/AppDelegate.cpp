@@ -75,13 +75,17 @@ void AppDelegate::activate(const QByteArray& activationToken)
 {
     if (m_quitting)
         return;
-    // This is where Qt looks for it, and only there. No program started later may inherit it.
+    // This is where Qt looks for it on Wayland, and only there. No program started later may
+    // inherit it, and elsewhere the environment, which other threads read, is better left alone.
     constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
-    if (!activationToken.isEmpty())
+    const auto isPassedOn = !activationToken.isEmpty() &&
+                            QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    if (isPassedOn)
         qputenv(tokenVariable, activationToken);
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     applicationDidFinishLaunching();
-    qunsetenv(tokenVariable);
+    if (isPassedOn)
+        qunsetenv(tokenVariable);
 }
 
 bool AppDelegate::eventFilter(QObject* object, QEvent* event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppDelegate.h"
 #include "Support/AppModelAccess.h"
+#include "Support/EnvironmentScope.h"
 #include "Support/ModelTest.h"
 
 #include <QApplication>
@@ -166,7 +167,13 @@ TEST_F(AppDelegateTest, bringsTheWindowBackWhenTheProgramIsStartedAgain)
     delegate.activate("a token");
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.isMinimized());
-    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN")) << "the game would inherit it";
+}
+
+TEST_F(AppDelegateTest, leavesTheEnvironmentAloneWhereNoTokenIsLookedForInIt)
+{
+    const EnvironmentScope variable("XDG_ACTIVATION_TOKEN", "somebody else's");
+    delegate.activate("a token");
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "somebody else's");
 }
 
 TEST_F(AppDelegateTest, staysHiddenWhenItIsStartedAgainWhileItQuits)
