@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Support/AppModelAccess.h"
 #include "Support/BusyPool.h"
 #include "Support/HttpServer.h"
 #include "Support/ModelTest.h"
@@ -7,6 +8,7 @@
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -308,17 +310,18 @@ TEST_F(Setup, cancelsDuringTheGamesDownload)
 
 TEST_F(Setup, showsNoProgressOnceTheDownloadHasEnded)
 {
-    server.on(gamePath, [](const HttpServer::Connection& connection) {
-        connection.send(HttpServer::head(200, "Content-Length: 1000\n") + QByteArray(10, 'x'));
-        connection.waitForHangUp();
-    });
+    server.on(gamePath, HttpServer::silence());
     model().play();
-    // The report that comes with the first bytes is still on its way to the window here.
-    ASSERT_TRUE(QTest::qWaitFor([this] { return requestsOf(gamePath) > 0; }));
-    QTest::qWait(20);
+    waitForPhase(Phase::Kind::downloading);
+    const DownloadProgress report{.received = 10, .total = 1000, .bytesPerSecond = 1};
+    AppModelAccess::progressRelay(model()).report(report);
     model().cancelSetup();
     waitForFlow();
-    QTest::qWait(120);
+    // What was on its way then would come before what is sent now.
+    ProgressRelay later;
+    const QSignalSpy delivered(&later, &ProgressRelay::progressed);
+    later.report(report);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return delivered.size() == 1; }));
     EXPECT_TRUE(model().progressText().isEmpty()) << model().progressText().toStdString();
     EXPECT_FALSE(model().progress());
 }

@@ -30,7 +30,7 @@ TEST_F(State, isNotDownloadedWithNothingOnDisk)
     EXPECT_FALSE(model().showLog());
     EXPECT_FALSE(model().stillStarting());
     EXPECT_FALSE(model().progress());
-    QTest::qWait(50);
+    AppModelAccess::finishMeasuring(model());
     EXPECT_TRUE(model().installedSize().isEmpty());
     EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
 }

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "AppModel.h"
+#include "ProgressRelay.h"
+
+#include <QCoreApplication>
 
 /// Puts a model into a state without living through it, for tests of what is shown then.
 class AppModelAccess final
@@ -57,5 +60,13 @@ public:
     {
         model.applySize(measurement, bytes);
     }
+    /// Waits until every measurement so far has ended and been applied.
+    static void finishMeasuring(AppModel& model)
+    {
+        model.m_sizePool.waitForDone();
+        QCoreApplication::processEvents();
+    }
+    /// What carries the progress of the download that is going on.
+    static ProgressRelay& progressRelay(AppModel& model) { return *model.m_progressRelay; }
     static GameRunner& runner(AppModel& model) { return model.m_runner; }
 };
