@@ -3,14 +3,19 @@
 #include "Support/ForkedProcess.h"
 #include "Support/ModelTest.h"
 
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <functional>
+#include <optional>
 #include <ostream>
 
 #include <sys/stat.h>
 #include <unistd.h>
+#if defined(Q_OS_LINUX)
+#include <sys/mount.h>
+#endif
 
 namespace {
 
@@ -42,6 +47,32 @@ private:
     static constexpr uid_t nobody = 65534;
     const bool m_wasPrivileged = ::geteuid() == 0;
 };
+
+#if defined(Q_OS_LINUX)
+
+constexpr auto ownMounts = "CAVERNYX_TEST_HAS_OWN_MOUNTS";
+
+/// Runs the current test once more, in a process with mounts of its own, which nobody else sees,
+/// and gives its exit status; nothing where the system lets nobody here have them.
+std::optional<int> runAgainWithOwnMounts()
+{
+    const auto& test = *testing::UnitTest::GetInstance()->current_test_info();
+    const auto filter =
+        QStringLiteral("--gtest_filter=%1.%2")
+            .arg(QString::fromUtf8(test.test_suite_name()), QString::fromUtf8(test.name()));
+    QStringList arguments{QStringLiteral("--mount"), QStringLiteral("--propagation"),
+                          QStringLiteral("private")};
+    if (::geteuid() != 0)
+        arguments.append(QStringLiteral("--map-root-user"));
+    const auto unshare = QStringLiteral("unshare");
+    if (QProcess::execute(unshare, arguments + QStringList{QStringLiteral("true")}) != 0)
+        return std::nullopt;
+    const EnvironmentScope inside(ownMounts, "yes");
+    return QProcess::execute(
+        unshare, arguments + QStringList{QCoreApplication::applicationFilePath(), filter});
+}
+
+#endif
 
 TEST_F(Maintenance, copiesTheFailureReportWhenThereIsOne)
 {
@@ -274,6 +305,56 @@ TEST_F(Maintenance, removesOnlyTheLinkOfARootThatIsALink)
     EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
     EXPECT_TRUE(QFile::exists(elsewhere));
 }
+
+TEST_F(Maintenance, removesOnlyTheLinkOfAGameThatIsALink)
+{
+    const auto elsewhere = home.write(QStringLiteral("elsewhere/project.godot"), "x");
+    home.makeFolder(QStringLiteral("data/Cavernyx Platformer"));
+    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), root(QStringLiteral("Game"))));
+    startModel().removeEverything();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_TRUE(QFile::exists(elsewhere));
+}
+
+#if defined(Q_OS_LINUX)
+
+TEST_F(Maintenance, leavesAFolderThatIsMountedIntoTheGameAloneAndSaysSo)
+{
+    if (!qEnvironmentVariableIsSet(ownMounts)) {
+        const auto status = runAgainWithOwnMounts();
+        if (!status)
+            GTEST_SKIP() << "This system lets nobody here mount anything.";
+        EXPECT_EQ(*status, 0);
+        return;
+    }
+    installGame();
+    const auto kept = home.write(QStringLiteral("elsewhere/kept"));
+    const auto place =
+        home.makeFolder(QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/mounted"));
+    ASSERT_EQ(::mount(QFile::encodeName(home.path(QStringLiteral("elsewhere"))).constData(),
+                      QFile::encodeName(place).constData(), nullptr, MS_BIND, nullptr),
+              0);
+    startModel().removeEverything();
+    waitForFlow();
+    EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
+        << model().statusDetail().toStdString();
+    EXPECT_TRUE(model().phase().message().contains(u"another file system is mounted there"));
+    EXPECT_TRUE(QFile::exists(kept));
+
+    const auto left = home.names(QStringLiteral("data/Cavernyx Platformer"));
+    ASSERT_EQ(left.size(), 1);
+    const auto placeNow = root(left.constFirst() + QStringLiteral("/tetherwalk-master/mounted"));
+    ASSERT_EQ(::umount(QFile::encodeName(placeNow).constData()), 0);
+    model().removeEverything();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_TRUE(QFile::exists(kept));
+}
+
+#endif
 
 TEST_F(Maintenance, refusesEverythingWhileADeletionIsUnderWay)
 {

@@ -7,6 +7,7 @@
 #include "Support/ZipWriter.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
@@ -185,18 +186,22 @@ TEST_F(Setup, importsAgainWhenAnAssetIsMissingThoughTheMarkerIsThere)
 
 TEST_F(Setup, refusesAGameForGodot4BeforeAnyEngineDownload)
 {
-    serveGame("config_version=6\nconfig/name=\"Next\"\n");
-    playToTheEnd();
     const auto sentence = QStringLiteral(
         "This game is made for Godot 4, but this app only knows how to install Godot 3.");
-    EXPECT_EQ(model().phase(), Phase::needs(sentence));
-    EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
-    EXPECT_TRUE(logged().contains(
-        QStringLiteral("project.godot: config_version=6 → Godot 4.x, C#: no, main scene: ")));
+    for (const auto version : {5, 6}) {
+        serveGame("config_version=" + QByteArray::number(version) + "\nconfig/name=\"Next\"\n");
+        playToTheEnd();
+        EXPECT_EQ(model().phase(), Phase::needs(sentence));
+        EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
+        EXPECT_TRUE(logged().contains(
+            QStringLiteral("project.godot: config_version=%1 → Godot 4.x, C#: no, main scene: ")
+                .arg(version)));
+        ASSERT_TRUE(model().info());
+        EXPECT_EQ(model().info()->name, u"Next");
+        EXPECT_EQ(model().facts().summary, u"A tiny game.");
+        ASSERT_TRUE(QDir(root(QStringLiteral("Game"))).removeRecursively());
+    }
     EXPECT_EQ(requestsOf(releasePath), 0);
-    ASSERT_TRUE(model().info());
-    EXPECT_EQ(model().info()->name, u"Next");
-    EXPECT_EQ(model().facts().summary, u"A tiny game.");
 }
 
 TEST_F(Setup, refusesAGameWithoutAReadableProject)
