@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Support/ForkedProcess.h"
 #include "Support/ModelTest.h"
 
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <functional>
 #include <optional>
@@ -121,7 +121,7 @@ class GameLeftRunning : public ModelTest
 protected:
     GameLeftRunning()
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return session.isGameRunning(); }));
+        EXPECT_TRUE(waitUntil([this] { return session.isGameRunning(); }));
         installGame();
         installEngine("exit 0");
         writeMarker();
@@ -166,7 +166,7 @@ TEST_F(Maintenance, knowsItsOwnGameWhileItRunsAndNotAfterwards)
     writeMarker();
     startModel().play();
     waitForPhase(Phase::Kind::playing);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return session.isGameRunning(); }))
+    EXPECT_TRUE(waitUntil([this] { return session.isGameRunning(); }))
         << "for another launcher to see, should this one be killed";
     model().stopGame();
     waitForFlow();
@@ -253,7 +253,7 @@ TEST_F(Maintenance, removesEverythingAndEmptiesTheLog)
     installGame();
     startModel();
     model().log().append(QStringLiteral("a line"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !model().installedSize().isEmpty(); }));
+    ASSERT_TRUE(waitUntil([this] { return !model().installedSize().isEmpty(); }));
     const auto size = model().installedSize();
     model().removeEverything();
     ASSERT_EQ(desktop.questions.size(), 1);
@@ -266,7 +266,7 @@ TEST_F(Maintenance, removesEverythingAndEmptiesTheLog)
     EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_TRUE(logged().isEmpty());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return model().installedSize().isEmpty(); }));
+    EXPECT_TRUE(waitUntil([this] { return model().installedSize().isEmpty(); }));
 }
 
 TEST_F(Maintenance, saysWhatCouldNotBeRemovedAndKeepsTheLog)

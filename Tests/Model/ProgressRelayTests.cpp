@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ProgressRelay.h"
+#include "Support/Await.h"
 
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 #include <thread>
@@ -37,16 +37,16 @@ TEST_F(ProgressRelayTest, passesOnOnlyTheNewestOfManyReports)
 {
     reportFromAnotherThread(1, 10'000);
     EXPECT_TRUE(received.isEmpty());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !received.isEmpty(); }));
+    ASSERT_TRUE(waitUntil([this] { return !received.isEmpty(); }));
     EXPECT_EQ(received, QList<qint64>{10'000});
 }
 
 TEST_F(ProgressRelayTest, passesOnWhatIsReportedAfterADelivery)
 {
     reportFromAnotherThread(1, 1);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.size() == 1; }));
+    ASSERT_TRUE(waitUntil([this] { return received.size() == 1; }));
     reportFromAnotherThread(2, 2);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return received.size() == 2; }));
+    ASSERT_TRUE(waitUntil([this] { return received.size() == 2; }));
     EXPECT_EQ(received.last(), 2);
 }
 
@@ -57,7 +57,7 @@ TEST_F(ProgressRelayTest, dropsWhatIsWaitingWhenItIsDeleted)
     ProgressRelay next;
     const QSignalSpy delivered(&next, &ProgressRelay::progressed);
     next.report({.received = 2, .total = 2, .bytesPerSecond = 1});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return delivered.size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return delivered.size() == 1; }));
     EXPECT_TRUE(received.isEmpty()) << "it would have come before the next one's";
 }
 

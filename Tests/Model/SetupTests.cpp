@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Support/BusyPool.h"
 #include "Support/HttpServer.h"
 #include "Support/ModelTest.h"
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <algorithm>
 
@@ -305,7 +305,7 @@ TEST_F(Setup, cancelsDuringTheGamesDownload)
     });
     model().play();
     waitForPhase(Phase::Kind::downloading);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !model().progressText().isEmpty(); }));
+    ASSERT_TRUE(waitUntil([this] { return !model().progressText().isEmpty(); }));
     EXPECT_EQ(model().progress(), 0.01);
     model().cancelSetup();
     waitForFlow();
@@ -326,7 +326,7 @@ TEST_F(Setup, showsNoProgressOnceTheDownloadHasEnded)
     ProgressRelay later;
     const QSignalSpy delivered(&later, &ProgressRelay::progressed);
     later.report(report);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return delivered.size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return delivered.size() == 1; }));
     EXPECT_TRUE(model().progressText().isEmpty()) << model().progressText().toStdString();
     EXPECT_FALSE(model().progress());
 }
@@ -339,8 +339,7 @@ TEST_F(Setup, removesTheMarkerBeforeAnImport)
     installEngine("echo up; exec sleep 60");
     ASSERT_TRUE(QFile::remove(root(QStringLiteral("Engine/3.5.3-stable/") + engineName)));
     model().play();
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return logged().contains(QStringLiteral("up")); }, 20'000));
+    ASSERT_TRUE(waitUntil([this] { return logged().contains(QStringLiteral("up")); }));
     model().cancelSetup();
     waitForFlow();
     EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
@@ -364,8 +363,7 @@ TEST_F(Setup, cancelsDuringTheChecksumList)
 {
     server.on(releasePath + QStringLiteral("SHA512-SUMS.txt"), HttpServer::silence());
     model().play();
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return requestsOf(QStringLiteral("SHA512-SUMS.txt")) > 0; }));
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(QStringLiteral("SHA512-SUMS.txt")) > 0; }));
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
@@ -376,7 +374,7 @@ TEST_F(Setup, cancelsDuringTheEnginesDownload)
 {
     server.on(releasePath + engineName + QStringLiteral(".zip"), HttpServer::silence());
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return requestsOf(engineName) > 0; }));
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(engineName) > 0; }));
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
@@ -387,8 +385,7 @@ TEST_F(Setup, cancelsDuringTheImportAndEndsTheEngine)
 {
     serveEngine("echo up $$; exec sleep 60");
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return !logged().filter(QStringLiteral("up ")).isEmpty(); }, 20'000));
+    ASSERT_TRUE(waitUntil([this] { return !logged().filter(QStringLiteral("up ")).isEmpty(); }));
     const auto engine = logged().filter(QStringLiteral("up ")).first().mid(3);
     model().cancelSetup();
     waitForFlow();
@@ -429,7 +426,7 @@ TEST_F(Setup, ignoresFurtherPressesWhileBusy)
     model().play();
     waitForPhase(Phase::Kind::downloading);
     model().play();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !server.requests().isEmpty(); }, 20'000));
+    ASSERT_TRUE(waitUntil([this] { return !server.requests().isEmpty(); }));
     EXPECT_EQ(logged().filter(QStringLiteral("Downloading the game source")).size(), 1);
     EXPECT_EQ(server.requests().size(), 1);
     model().cancelSetup();

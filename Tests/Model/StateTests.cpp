@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Support/ModelTest.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -12,7 +12,7 @@ class State : public ModelTest
 protected:
     void waitForSize(bool empty)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return model().installedSize().isEmpty() == empty; }));
+        EXPECT_TRUE(waitUntil([&] { return model().installedSize().isEmpty() == empty; }));
     }
 };
 
