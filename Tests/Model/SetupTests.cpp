@@ -452,6 +452,31 @@ TEST_F(Setup, updatesTheGameAndImportsItAnew)
     EXPECT_EQ(leftovers(), QStringList());
 }
 
+TEST_F(Setup, completesASwapThatIsUnderWayWhenItIsCancelled)
+{
+    playToTheEnd();
+    // The deletion of the former game is the last part of the swap, and the only long one. It may
+    // still be over before it is seen.
+    const auto former = QStringLiteral("data/Cavernyx Platformer/Game/former/");
+    auto isUnderWay = false;
+    for (int attempt = 0; attempt < 10 && !isUnderWay; ++attempt) {
+        for (int file = 0; file < 10'000; ++file)
+            home.write(former + QString::number(file));
+        const auto news = QStringLiteral("tetherwalk-master/news-%1").arg(attempt);
+        serveGame("config_version=4\n", news.toUtf8());
+        model().updateGame();
+        while (model().isFlowRunning() && !exists(QStringLiteral("Game/") + news))
+            QCoreApplication::processEvents();
+        isUnderWay = !leftovers().filter(QStringLiteral("Game.new-")).isEmpty();
+        model().cancelSetup();
+        waitForFlow();
+    }
+    ASSERT_TRUE(isUnderWay);
+    EXPECT_TRUE(exists(QStringLiteral("Game/tetherwalk-master/project.godot")));
+    EXPECT_FALSE(exists(QStringLiteral("Game/former")));
+    expectNothingInstalled();
+}
+
 TEST_F(Setup, keepsTheInstalledGameWhenItsUpdateFails)
 {
     playToTheEnd();
