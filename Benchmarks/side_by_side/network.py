@@ -2,7 +2,8 @@
 """The rows about downloads: the launcher's client and curl fetch from nginx over HTTPS.
 
 All three stand in a network of their own, whose only trusted authority is one made for the run.
-Both clients are whole programs and write to the disk.
+Both clients are whole programs and write to the disk, and both are left with HTTP/1.1, which is all
+that the launcher speaks.
 """
 
 import os
@@ -17,7 +18,7 @@ from .disk import MEBIBYTE, flat_memory
 from .runs import Run, fresh_folder, in_turn, median, run
 from .table import Line
 
-HTTP1_PORT, HTTP2_PORT = 8441, 8442
+PORT = 8441
 
 NGINX = """
 {user}
@@ -35,8 +36,7 @@ http {{
     scgi_temp_path {folder}/scgi;
     ssl_certificate {folder}/site.pem;
     ssl_certificate_key {folder}/key.pem;
-    server {{ listen 127.0.0.1:{http1} ssl; root {folder}/files; }}
-    server {{ listen 127.0.0.1:{http2} ssl http2; root {folder}/files; }}
+    server {{ listen 127.0.0.1:{port} ssl; root {folder}/files; }}
 }}
 """
 
@@ -59,8 +59,7 @@ class PrivateSite:
             NGINX.format(
                 user="user root;" if as_root else "",
                 folder=folder,
-                http1=HTTP1_PORT,
-                http2=HTTP2_PORT,
+                port=PORT,
             ),
         )
         self.unshare = ["unshare", "--mount", "--net"]
@@ -113,17 +112,12 @@ def download(bench: Bench) -> list[Line]:
         size = bench.sized(1024, 128)
         material.random_file(f"{site.files}/large", size * MEBIBYTE)
         material.random_file(f"{site.files}/small", 10 * MEBIBYTE)
-        return [
-            *download_over(bench, site, "HTTP/1.1", HTTP1_PORT, size),
-            *download_over(bench, site, "HTTP/2", HTTP2_PORT, size),
-        ]
+        return download_from(bench, site, size)
 
 
-def download_over(
-    bench: Bench, site: PrivateSite, protocol: str, port: int, size: int
-) -> list[Line]:
+def download_from(bench: Bench, site: PrivateSite, size: int) -> list[Line]:
     target = f"{bench.disk}/target"
-    address = f"https://localhost:{port}"
+    address = f"https://localhost:{PORT}"
 
     def clear_target() -> None:
         fresh_folder(target)
@@ -143,6 +137,6 @@ def download_over(
     small_peak = median(ours("small").report["peak_kib"] for _ in range(bench.rounds))
     shutil.rmtree(target)
     return [
-        against_fastest(f"download of {size} MiB over HTTPS, {protocol}", runs, 1.05),
+        against_fastest(f"download of {size} MiB over HTTPS", runs, 1.05),
         flat_memory(f"its memory, {size} MiB", peak, "10 MiB", small_peak),
     ]
