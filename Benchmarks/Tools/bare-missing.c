@@ -22,12 +22,12 @@ enum { MOST = 1 << 16 };
 
 static int project;
 
-static int is_importable(const char *name)
+static int is_importable(const char* name)
 {
-    static const char *const extensions[] = {"png", "jpg", "jpeg", "svg",  "webp", "bmp",
-                                             "tga", "ogg", "wav",  "mp3",  "obj",  "glb",
-                                             "gltf", "dds", "hdr", "exr"};
-    const char *dot = strrchr(name, '.');
+    static const char* const extensions[] = {"png",  "jpg", "jpeg", "svg", "webp", "bmp",
+                                             "tga",  "ogg", "wav",  "mp3", "obj",  "glb",
+                                             "gltf", "dds", "hdr",  "exr"};
+    const char* dot = strrchr(name, '.');
     if (!dot)
         return 0;
     for (size_t i = 0; i < sizeof extensions / sizeof *extensions; ++i)
@@ -37,11 +37,11 @@ static int is_importable(const char *name)
 }
 
 /* Whether a companion's text names converted files of which none exists. */
-static int lacks_its_files(char *text)
+static int lacks_its_files(char* text)
 {
     int named = 0;
-    char *rest = text;
-    for (char *line; (line = strsep(&rest, "\n"));) {
+    char* rest = text;
+    for (char* line; (line = strsep(&rest, "\n"));) {
         while (*line == ' ' || *line == '\t')
             ++line;
         if (strncmp(line, "path", 4) != 0 || !(line = strchr(line, '=')))
@@ -60,7 +60,7 @@ static int lacks_its_files(char *text)
     return named;
 }
 
-static int is_missing(int folder, const char *name)
+static int is_missing(int folder, const char* name)
 {
     char companion[NAME_MAX + 8];
     static char text[MOST];
@@ -82,10 +82,10 @@ static int is_missing(int folder, const char *name)
 static long long missing_below(int folder)
 {
     long long count = 0;
-    DIR *list = fdopendir(folder);
+    DIR* list = fdopendir(folder);
     if (!list)
         return 0;
-    for (struct dirent *entry; (entry = readdir(list));) {
+    for (struct dirent* entry; (entry = readdir(list));) {
         if (entry->d_name[0] == '.')
             continue;
         if (is_importable(entry->d_name))
@@ -107,7 +107,7 @@ static double seconds(clockid_t clock)
     return (double)time.tv_sec + (double)time.tv_nsec / 1e9;
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     if (argc != 2) {
         fprintf(stderr, "usage: bare-missing FOLDER\n");

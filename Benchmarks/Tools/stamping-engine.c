@@ -13,8 +13,8 @@ int main(void)
 {
     struct timespec now;
     clock_gettime(CLOCK_MONOTONIC, &now);
-    const char *path = getenv("CAVERNYX_STAMPS");
-    FILE *stamps = path ? fopen(path, "a") : NULL;
+    const char* path = getenv("CAVERNYX_STAMPS");
+    FILE* stamps = path ? fopen(path, "a") : NULL;
     if (!stamps)
         return 1;
     fprintf(stamps, "%lld %d\n", (long long)now.tv_sec * 1000000000LL + now.tv_nsec, (int)getpid());
