@@ -4,14 +4,12 @@
 #include "AppError.h"
 #include "Platform/Cancelled.h"
 #include "Platform/PlatformError.h"
-
-#include <gtest/gtest.h>
+#include "Support/Await.h"
 
 #include <QCoroTask>
 #include <QFuture>
 #include <QPromise>
 #include <QString>
-#include <QTest>
 
 #include <memory>
 #include <optional>
@@ -33,10 +31,8 @@ template<typename Value>
 Outcome<Value> eventually(QFuture<Value> future)
 {
     Outcome<Value> outcome;
-    if (!QTest::qWaitFor([&] { return future.isFinished(); }, 20'000)) {
-        ADD_FAILURE() << "The operation did not end.";
+    if (!waitUntil([&future] { return future.isFinished(); }))
         return outcome;
-    }
     try {
         outcome.value = future.result();
     } catch (const AppError& error) {
