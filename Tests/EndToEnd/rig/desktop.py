@@ -123,8 +123,10 @@ class Desktop:
 
     def _start_display(self) -> None:
         # A display that starts anew when its last client leaves turns away who comes just then.
+        # It makes no socket file, which would lie in the machine's own temporary folder.
         self._display, number = self._start_telling(
-            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset"])
+            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN,
+             "-nolisten", "tcp", "-nolisten", "unix", "-noreset"])
         self.environment["DISPLAY"] = f":{number}"
 
     def _start_telling(self, command: list[str]) -> tuple[subprocess.Popen, str]:

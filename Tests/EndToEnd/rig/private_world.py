@@ -54,15 +54,14 @@ def redirect_hosts(scratch: Path, authority: Path, hosts: list[str]) -> None:
         _mount_over("/etc/resolv.conf", servers)
 
 
-def separate_displays(scratch: Path) -> None:
-    """Gives the display servers of this namespace a folder of sockets of their own: their numbers
-    are told apart by the network namespace, but the sockets are files that all would share."""
-    shared = Path("/tmp/.X11-unix")
-    shared.mkdir(mode=0o1777, exist_ok=True)
-    sockets = scratch / "displays"
-    sockets.mkdir()
-    sockets.chmod(0o1777)
-    _mount_over(str(shared), sockets)
+def hide_displays(scratch: Path) -> None:
+    """Covers the files by which the machine's own displays are reached, where it has any. The
+    displays of this namespace have none: their names belong to its network."""
+    sockets = Path("/tmp/.X11-unix")
+    if sockets.exists():
+        nothing = scratch / "displays"
+        nothing.mkdir()
+        _mount_over(str(sockets), nothing)
 
 
 def disconnect(scratch: Path) -> None:

@@ -25,7 +25,7 @@ class World:
         self.home = Home(scratch / "home")
         authority = Authority(scratch / "authority", web_host.NAMES)
         private_world.redirect_hosts(scratch, authority.certificate, web_host.NAMES)
-        private_world.separate_displays(scratch)
+        private_world.hide_displays(scratch)
         self.web = WebHost(scratch / "web", authority)
         self.opener = Opener(self.home.programs)
         self.desktop = Desktop(self.home.environment(), output)
