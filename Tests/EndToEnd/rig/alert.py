@@ -1,10 +1,9 @@
 # SPDX-License-Identifier: MIT
 """A question of the launcher's that has to be answered before anything else."""
 
+from rig import product
 from rig.controls import Controls
 from rig.waiting import wait_for
-
-TITLE = "Cavernyx Platformer"
 
 
 class Alert:
@@ -12,7 +11,7 @@ class Alert:
 
     def __init__(self, controls: Controls):
         self._controls = controls
-        self._alert = wait_for("An alert", lambda: controls.active(TITLE, "ALERT"))
+        self._alert = wait_for("An alert", lambda: controls.active(product.NAME, "ALERT"))
 
     def texts(self) -> list[str]:
         """Its title and its message."""

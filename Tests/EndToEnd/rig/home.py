@@ -4,9 +4,7 @@
 import os
 from pathlib import Path
 
-from rig import engine, sample_game
-
-NAME = "Cavernyx Platformer"
+from rig import engine, product, sample_game
 
 
 class Home:
@@ -18,12 +16,12 @@ class Home:
         for made in (folder, self.temporary, self._runtime, self.programs):
             made.mkdir(mode=0o700)
         data = folder / ".local" / "share"
-        self.root = data / NAME
+        self.root = data / product.NAME
         self.saves = data / "godot" / "app_userdata" / sample_game.NAME
         self.game = self.root / "Game"
         self.project = self.game / sample_game.ARCHIVE_FOLDER / sample_game.PROJECT_FOLDER
         self.engines = self.root / "Engine"
-        self._settings = folder / ".config" / NAME / f"{NAME}.conf"
+        self._settings = folder / ".config" / product.NAME / f"{product.NAME}.conf"
 
     def environment(self) -> dict[str, str]:
         """An environment of a session, with nothing in it of whoever runs the tests."""

@@ -3,13 +3,14 @@
 
 from pathlib import Path
 
+from rig import product
 from rig.alert import Alert
 from rig.controls import Controls
 from rig.program import Program
 from rig.settings_sheet import SettingsSheet
 from rig.waiting import wait_for
 
-TITLE = "Cavernyx Platformer"
+TITLE = product.NAME
 
 
 class Launcher(Program):

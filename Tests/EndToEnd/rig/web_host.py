@@ -16,9 +16,6 @@ BRANCHES = "codeload.github.com"
 RELEASES = "objects.githubusercontent.com"
 NAMES = [ENTRY, BRANCHES, RELEASES]
 
-GAME_PATH = "/brindlework-demos/tetherwalk/archive/refs/heads/master.zip"
-RELEASE_PATH = "/godotengine/godot/releases/download/3.5.3-stable/"
-
 CONFIGURATION = """
 daemon off;
 user root;

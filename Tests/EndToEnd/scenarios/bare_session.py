@@ -3,6 +3,8 @@
 sentence, without a session bus or a writable place for its settings it still opens, and without a
 file browser it says where the folder is."""
 
+import signal
+
 from rig.launcher import TITLE
 from rig.waiting import wait_for
 
@@ -21,7 +23,7 @@ def run(world):
         DBUS_SESSION_BUS_ADDRESS="unix:path=/nowhere", XDG_RUNTIME_DIR=None)
     wait_for("The window", lambda: TITLE in world.desktop.windows())
     world.picture("no-session-bus")
-    launcher.signal(15)
+    launcher.signal(signal.SIGTERM)
     assert launcher.wait_for_end() == 0
 
     launcher = world.open_launcher(PATH="/nowhere")
