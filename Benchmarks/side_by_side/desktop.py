@@ -85,6 +85,10 @@ def probe(bench: Bench, environment: dict[str, str], *words: str) -> dict:
 
 def press_over_accessibility(environment: dict[str, str], pid: int, name: str) -> None:
     """Presses the control `name` of the program `pid`, as assistive technology does."""
-    script = os.path.join(os.path.dirname(__file__), "press.py")
     # The system's own interpreter is the one that the accessibility library's bindings are for.
-    subprocess.run(["/usr/bin/python3", script, str(pid), name], env=environment, check=True)
+    subprocess.run(
+        ["/usr/bin/python3", "-m", "side_by_side.press", str(pid), name],
+        cwd=os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
+        env=environment,
+        check=True,
+    )

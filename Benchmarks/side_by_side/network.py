@@ -11,6 +11,9 @@ import shutil
 import signal
 import subprocess
 import time
+from pathlib import Path
+
+from rig.authority import Authority
 
 from . import material
 from .bench import Bench, against_fastest
@@ -34,8 +37,8 @@ http {{
     fastcgi_temp_path {folder}/fastcgi;
     uwsgi_temp_path {folder}/uwsgi;
     scgi_temp_path {folder}/scgi;
-    ssl_certificate {folder}/site.pem;
-    ssl_certificate_key {folder}/key.pem;
+    ssl_certificate {certificate};
+    ssl_certificate_key {key};
     server {{ listen 127.0.0.1:{port} ssl; root {folder}/files; }}
 }}
 """
@@ -52,7 +55,8 @@ class PrivateSite:
         self.files = f"{folder}/files"
         os.makedirs(self.files)
         os.makedirs(f"{folder}/trust")
-        self.make_certificate()
+        authority = Authority(Path(f"{folder}/authority"), ["localhost"])
+        self.trust(authority)
         as_root = os.geteuid() == 0
         material.write(
             f"{folder}/nginx.conf",
@@ -60,6 +64,8 @@ class PrivateSite:
                 user="user root;" if as_root else "",
                 folder=folder,
                 port=PORT,
+                certificate=authority.host_certificate,
+                key=authority.host_key,
             ),
         )
         self.unshare = ["unshare", "--mount", "--net"]
@@ -68,19 +74,10 @@ class PrivateSite:
             self.unshare += ["--map-root-user"]
             self.enter += ["--user", "--preserve-credentials"]
 
-    def make_certificate(self) -> None:
-        """One certificate that is both the site's and, as its own issuer, the authority's."""
-        site, trust = f"{self.folder}/site.pem", f"{self.folder}/trust"
-        subprocess.run(
-            ["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2"]
-            + ["-subj", "/CN=localhost", "-addext", "subjectAltName=DNS:localhost"]
-            + ["-keyout", f"{self.folder}/key.pem", "-out", site],
-            check=True,
-            stderr=subprocess.DEVNULL,
-        )
-        name = subprocess.check_output(["openssl", "x509", "-hash", "-noout", "-in", site])
-        shutil.copy(site, f"{trust}/{name.decode().strip()}.0")
-        shutil.copy(site, f"{trust}/ca-certificates.crt")
+    def trust(self, authority: Authority) -> None:
+        """Fills the folder of trusted certificates: the hashed folder and the list of all."""
+        shutil.copy(authority.certificate, f"{self.folder}/trust/ca-certificates.crt")
+        subprocess.run(["openssl", "rehash", f"{self.folder}/trust"], check=True)
 
     def __enter__(self) -> "PrivateSite":
         script = f"mount --bind {self.folder}/trust /etc/ssl/certs && ip link set lo up"
