@@ -84,11 +84,8 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
 QWidget* SettingsView::windowPicker()
 {
     m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
-    connect(m_window, &SegmentedPicker::currentChanged, this, [this](int index) {
-        const auto fullscreen = index == 1;
-        if (fullscreen != m_model.fullscreen())
-            m_model.setFullscreen(fullscreen);
-    });
+    connect(m_window, &SegmentedPicker::currentChanged, this,
+            [this](int index) { m_model.setFullscreen(index == 1); });
     return m_window;
 }
 
@@ -100,9 +97,7 @@ QWidget* SettingsView::resolutionPicker()
     for (const auto choice : allResolutionChoices)
         m_resolution->addItem(label(choice));
     connect(m_resolution, &QComboBox::currentIndexChanged, this, [this](int index) {
-        const auto choice = allResolutionChoices.at(static_cast<size_t>(index));
-        if (choice != m_model.resolution())
-            m_model.setResolution(choice);
+        m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
     });
     return m_resolution;
 }
