@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Support/Await.h"
 #include "Views/PlayPanelTest.h"
 
 #include "Views/AboutView.h"
@@ -109,7 +110,7 @@ TEST_F(AccessibilityTest, readsTheLogAndTheReportAsTexts)
     AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
     enter(Phase::needs(QStringLiteral("It broke.")));
     auto& log = only<TextBox>(only<LogView>()).edit();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return log.text() == QStringLiteral("one\ntwo"); }));
+    EXPECT_TRUE(waitUntil([&] { return log.text() == QStringLiteral("one\ntwo"); }));
 
     for (const auto& [edit, title, text] :
          {std::tuple(&log, QStringLiteral("Log"), QStringLiteral("one\ntwo")),

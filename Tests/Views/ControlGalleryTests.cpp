@@ -2,6 +2,7 @@
 // What answers to the pointer and to the keyboard, and the window in unusual surroundings.
 
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Views/Picture.h"
 
 #include "Views/AboutView.h"
@@ -93,7 +94,7 @@ TEST_P(ControlGallery, showsTheMenuOfTheLog)
     model().log().append(QStringLiteral("a line"));
     model().setShowLog(true);
     auto& log = only<LongTextEdit>(only<LogView>());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return log.lineCount() == 1; }, 20'000));
+    ASSERT_TRUE(waitUntil([&] { return log.lineCount() == 1; }));
     const std::unique_ptr<QMenu> menu(log.createStandardContextMenu());
     menu->popup(QPoint(0, 0));
     QTest::keyClick(menu.get(), Qt::Key_Down);

@@ -2,6 +2,7 @@
 // Every state of the window and of its sheets.
 
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Views/Picture.h"
 
 #include "Views/AboutView.h"
@@ -89,7 +90,7 @@ TEST_P(Gallery, showsTheState)
 {
     state().enter(model());
     auto& log = model().log();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return log.lines() == log.newest(2000); }, 20'000));
+    ASSERT_TRUE(waitUntil([&] { return log.lines() == log.newest(2000); }));
     showAll();
     save(window(), state().name);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Support/Await.h"
 #include "Views/ViewTest.h"
 
 #include "Views/LogView.h"
@@ -34,7 +35,7 @@ protected:
     }
     void waitUntilShown()
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] {
+        EXPECT_TRUE(waitUntil([this] {
             return model().log().lines() == model().log().newest(2000) &&
                    text() == model().log().lines().join(u'\n');
         }));
@@ -85,7 +86,7 @@ TEST_F(LogViewTest, joinsTheLinesAndCopiesThem)
 TEST_F(LogViewTest, keepsOneParagraphForEachLine)
 {
     model().log().append(QStringLiteral("10 %\r20 %\r\nnext"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return box().edit().blockCount() == 2; }));
+    EXPECT_TRUE(waitUntil([this] { return box().edit().blockCount() == 2; }));
     EXPECT_EQ(box().edit().document()->lastBlock().text(), QStringLiteral("next"));
 }
 

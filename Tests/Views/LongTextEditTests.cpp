@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Support/Await.h"
 #include "Views/LongTextEdit.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +29,7 @@ protected:
     {
         expected += lines;
         edit.appendLines(lines);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return edit.text() == expected.join(u'\n'); }, 20'000))
+        EXPECT_TRUE(waitUntil([this] { return edit.text() == expected.join(u'\n'); }))
             << edit.text().size() << " characters";
     }
     void removeFirst(qsizetype count)
@@ -71,7 +72,7 @@ TEST_F(LongTextEditTest, answersBetweenTheSlicesOfAVeryLongLine)
     EXPECT_LT(edit.text().size(), line.size() / 2) << "the rest waits for its turn";
     QCoreApplication::processEvents();
     EXPECT_LT(edit.text().size(), line.size());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return edit.text() == line; }, 20'000));
+    EXPECT_TRUE(waitUntil([&] { return edit.text() == line; }));
 }
 
 TEST_F(LongTextEditTest, cutsAVeryLongLineBetweenWords)
@@ -140,7 +141,7 @@ TEST_F(LongTextEditTest, removesALineThatIsStillBeingTakenOver)
     ASSERT_FALSE(edit.text().contains(QStringLiteral("after")));
     edit.removeFirstLines(2);
     EXPECT_EQ(edit.lineCount(), 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return edit.text() == QStringLiteral("after"); }));
+    EXPECT_TRUE(waitUntil([&] { return edit.text() == QStringLiteral("after"); }));
 }
 
 TEST_F(LongTextEditTest, keepsWhatIsReadInViewWhenAVeryLongLineGoes)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a press of the mouse on each button of the window and its sheets does.
 
+#include "Support/Await.h"
 #include "Views/PlayPanelTest.h"
 
 #include "Views/AboutView.h"
@@ -36,7 +37,7 @@ protected:
     }
     bool waitForLine(const QString& line)
     {
-        return QTest::qWaitFor([&] { return logged().contains(line); }, 20'000);
+        return waitUntil([&] { return logged().contains(line); });
     }
 };
 
@@ -119,9 +120,8 @@ TEST_F(PressingTest, removesEverythingAndLeavesTheSheetOpen)
     });
     ASSERT_NE(removal, buttons.end());
     press(*removal);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !QDir(root()).exists(); }, 20'000));
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return model().phase() == Phase::Kind::notDownloaded; }, 20'000));
+    EXPECT_TRUE(waitUntil([this] { return !QDir(root()).exists(); }));
+    EXPECT_TRUE(waitUntil([this] { return model().phase() == Phase::Kind::notDownloaded; }));
     EXPECT_TRUE(sheet && sheet->isVisible());
 }
 

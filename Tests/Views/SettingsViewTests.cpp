@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Views/ViewTest.h"
 
 #include "Views/Divider.h"
@@ -150,10 +151,9 @@ TEST_F(SettingsViewTest, measuresAnewWhenItOpens)
     file.close();
     ASSERT_EQ(model().installedSize(), QString());
     sheet();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return removal().text() == QStringLiteral("Remove everything (frees 3 MB)"); },
-        20'000))
-        << qPrintable(removal().text());
+    EXPECT_TRUE(waitUntil([this] {
+        return removal().text() == QStringLiteral("Remove everything (frees 3 MB)");
+    })) << qPrintable(removal().text());
 }
 
 TEST_F(SettingsViewTest, keepsItsControlsInLineWhenTheFontGrows)

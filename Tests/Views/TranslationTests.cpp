@@ -2,6 +2,7 @@
 #include "Views/ViewTest.h"
 
 #include "Support/AppModelAccess.h"
+#include "Support/Await.h"
 #include "Views/AboutView.h"
 #include "Views/LinkLabel.h"
 #include "Views/LogView.h"
@@ -107,7 +108,7 @@ TEST_F(TranslationTest, leavesTheFactsTheLogAndTheReportAsTheyAre)
     EXPECT_TRUE(label(QStringLiteral("It broke.")));
     EXPECT_EQ(only<TextBox>().edit().text(), QStringLiteral("What happened"));
     auto& log = only<TextBox>(only<LogView>()).edit();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return log.text() == QStringLiteral("a line of the log"); }));
+    EXPECT_TRUE(waitUntil([&] { return log.text() == QStringLiteral("a line of the log"); }));
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
