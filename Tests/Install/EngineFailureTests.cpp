@@ -161,7 +161,7 @@ TEST_F(EngineFailureTest, reportsADownloadThatCannotBeReadForItsDigest)
     expectOldEngine();
 }
 
-TEST_F(EngineFailureTest, reportsAnOldEngineThatCannotBeRemoved)
+TEST_F(EngineFailureTest, keepsAnOldEngineThatCannotBeReplaced)
 {
     installOldEngine();
     serve(engineArchive());
@@ -172,8 +172,8 @@ TEST_F(EngineFailureTest, reportsAnOldEngineThatCannotBeRemoved)
     const auto outcome = install();
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_EQ(
-        outcome.sentence,
-        QStringLiteral("Could not remove “%1”: Operation not permitted.").arg(engine.folder()));
+    EXPECT_TRUE(outcome.sentence.endsWith(
+        QStringLiteral(" and “%1”: Operation not permitted.").arg(engine.folder())))
+        << outcome.sentence.toStdString();
     expectOldEngine();
 }

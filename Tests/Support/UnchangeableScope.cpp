@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Support/UnchangeableScope.h"
 
-#include "Platform/FileDescriptor.h"
-
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -14,7 +12,7 @@
 #endif
 
 UnchangeableScope::UnchangeableScope(const QString& path)
-    : m_path(path)
+    : m_file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
     , m_isInForce(set(true))
 {
 }
@@ -27,12 +25,11 @@ UnchangeableScope::~UnchangeableScope()
 bool UnchangeableScope::set([[maybe_unused]] bool isUnchangeable)
 {
 #if defined(Q_OS_LINUX)
-    const FileDescriptor file(::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_CLOEXEC));
     int flags = 0;
-    if (::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
+    if (::ioctl(m_file.get(), FS_IOC_GETFLAGS, &flags) != 0)
         return false;
     flags = isUnchangeable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
-    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
+    return ::ioctl(m_file.get(), FS_IOC_SETFLAGS, &flags) == 0;
 #else
     return false;
 #endif

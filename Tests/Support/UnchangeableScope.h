@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/FileDescriptor.h"
+
 #include <QString>
 
-/// A file or folder that nobody may change or remove, the administrator included, while this lives.
-/// Only the administrator can make one, and not on every system.
+/// A file or folder that nobody may change or remove, the administrator included, while this lives,
+/// also when a folder above is moved. Only the administrator can make one, and not on every system.
 class UnchangeableScope final
 {
 public:
@@ -20,6 +22,6 @@ public:
 private:
     bool set(bool isUnchangeable);
 
-    const QString m_path;
+    const FileDescriptor m_file;
     const bool m_isInForce;
 };

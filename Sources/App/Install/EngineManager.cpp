@@ -52,7 +52,8 @@ QString putInPlace(const EngineManager& manager, const QString& staging,
     if (const auto program = HostPlatform::findEngineProgram(staging))
         makeExecutable(*program);
     throwIfCancelled(stop);
-    FileTree::replace(manager.folder(), staging);
+    const auto target = manager.folder();
+    FileTree::replace(target, staging, Paths::newStagingFolder(target));
     const auto program = manager.executable();
     if (!program)
         throw AppError(QStringLiteral("The engine was unpacked but its program was not found."));

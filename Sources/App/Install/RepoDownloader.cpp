@@ -29,8 +29,9 @@ QString putInPlace(const QString& staging, const std::stop_token& stop)
         throw AppError(
             QStringLiteral("The downloaded game does not contain a project.godot file."));
     throwIfCancelled(stop);
-    FileTree::replace(Paths::game(), staging);
-    const auto project = ProjectInspector::findProject(Paths::game());
+    const auto game = Paths::game();
+    FileTree::replace(game, staging, Paths::newStagingFolder(game));
+    const auto project = ProjectInspector::findProject(game);
     if (!project)
         throw AppError(
             QStringLiteral("The game folder was unpacked but project.godot was not found."));

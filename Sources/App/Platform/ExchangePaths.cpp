@@ -1,20 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/ExchangePaths.h"
 
+#include "Platform/PlatformError.h"
+
 #include <QFile>
 
+#include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 
+namespace {
+
+int exchange([[maybe_unused]] const char* first, [[maybe_unused]] const char* second)
+{
+#if defined(Q_OS_MACOS)
+    return ::renamex_np(first, second, RENAME_SWAP);
+#elif defined(Q_OS_LINUX)
+    return ::renameat2(AT_FDCWD, first, AT_FDCWD, second, RENAME_EXCHANGE);
+#else
+    errno = ENOSYS;
+    return -1;
+#endif
+}
+
+/// Whether the step was not even tried, so that moving one path after the other may still succeed.
+bool isImpossible(int error)
+{
+    return error == ENOENT || error == EINVAL || error == ENOSYS || error == EOPNOTSUPP ||
+           error == ENOTSUP;
+}
+
+} // namespace
+
 bool exchangePaths(const QString& first, const QString& second)
 {
-    const auto a = QFile::encodeName(first);
-    const auto b = QFile::encodeName(second);
-#if defined(Q_OS_MACOS)
-    return ::renamex_np(a.constData(), b.constData(), RENAME_SWAP) == 0;
-#elif defined(Q_OS_LINUX)
-    return ::renameat2(AT_FDCWD, a.constData(), AT_FDCWD, b.constData(), RENAME_EXCHANGE) == 0;
-#else
-    return false;
-#endif
+    if (exchange(QFile::encodeName(first).constData(), QFile::encodeName(second).constData()) == 0)
+        return true;
+    const auto error = errno;
+    if (isImpossible(error))
+        return false;
+    throw PlatformError::fromErrno(QStringLiteral("exchange “%1” and “%2”").arg(first, second),
+                                   error);
 }

@@ -14,11 +14,32 @@
 
 namespace {
 
+/// Not QFile::rename: it copies, slowly and in part, where the file systems differ.
+bool rename(const QString& from, const QString& to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
 void move(const QString& from, const QString& to)
 {
-    // Not QFile::rename: it copies, slowly and in part, where the file systems differ.
-    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+    if (!rename(from, to))
         throw PlatformError::fromErrno(QStringLiteral("move “%1” to “%2”").arg(from, to), errno);
+}
+
+/// Leaves the old folder at `aside`, or on failure where it was.
+void replaceInTwoSteps(const QString& target, const QString& staging, const QString& aside)
+{
+    const auto isOldAside = rename(target, aside);
+    if (!isOldAside && errno != ENOENT)
+        throw PlatformError::fromErrno(QStringLiteral("move “%1” to “%2”").arg(target, aside),
+                                       errno);
+    try {
+        move(staging, target);
+    } catch (const PlatformError&) {
+        if (isOldAside)
+            rename(aside, target);
+        throw;
+    }
 }
 
 } // namespace
@@ -38,9 +59,7 @@ void FileTree::remove(const QString& path)
 
 void FileTree::removeAtOnce(const QString& path, const QString& aside)
 {
-    const auto moved =
-        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0;
-    remove(moved ? aside : path);
+    remove(rename(path, aside) ? aside : path);
 }
 
 void FileTree::removeQuietly(const QString& path) noexcept
@@ -48,14 +67,14 @@ void FileTree::removeQuietly(const QString& path) noexcept
     TreeRemoval::remove(path);
 }
 
-void FileTree::replace(const QString& target, const QString& staging)
+void FileTree::replace(const QString& target, const QString& staging, const QString& aside)
 {
+    // The new folder stands then, and the old one has a staging name. A part of it that cannot be
+    // deleted is no reason to call the replacement failed.
     if (exchangePaths(staging, target)) {
-        // The new folder stands; the old one now has the staging name. A part of it that cannot
-        // be deleted is no reason to call the replacement failed.
         removeQuietly(staging);
-        return;
+    } else {
+        replaceInTwoSteps(target, staging, aside);
+        removeQuietly(aside);
     }
-    remove(target);
-    move(staging, target);
 }

@@ -25,8 +25,11 @@ void removeQuietly(const QString& path) noexcept;
 /// Puts the folder `staging` at `target`, replacing what is there.
 ///
 /// Where the file system can exchange two folders in one step, `target` is at every instant a
-/// complete old or a complete new folder; elsewhere the old one is deleted and the new one moved.
-/// Throws PlatformError; `staging` then still exists and is the caller's to delete.
-void replace(const QString& target, const QString& staging);
+/// complete old or a complete new folder. Elsewhere the old one is moved to `aside`, a free name in
+/// the same folder, and the new one to `target`; between the two steps nothing is there, and never
+/// a part of something. The old folder is deleted last; a part of it that cannot be deleted stays
+/// at `staging` or `aside`. Throws PlatformError; the old folder is then whole at `target`, and
+/// `staging` still exists and is the caller's to delete.
+void replace(const QString& target, const QString& staging, const QString& aside);
 
 } // namespace FileTree
