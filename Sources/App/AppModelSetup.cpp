@@ -10,12 +10,14 @@
 #include "Install/Paths.h"
 #include "Install/RepoDownloader.h"
 #include "Platform/Cancelled.h"
+#include "Platform/MakeDurable.h"
 #include "Platform/OffThread.h"
 #include "Project/ImportChecker.h"
 #include "Project/ProjectInspector.h"
 
 #include <QCoroFuture>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -36,9 +38,12 @@ QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
     return offThread([project, stop] { return ImportChecker::missingCount(project, stop); });
 }
 
-/// A marker that cannot be written only means that the next Play imports once more.
-void createEmptyFile(const QString& path)
+/// Vouches for the assets in the folder of `path`, which have to be on the disk before that. A
+/// marker that cannot be written only means that the next Play imports once more. Blocks. Throws
+/// PlatformError when the disk did not keep the assets.
+void createMarker(const QString& path)
 {
+    makeDurable(QFileInfo(path).path());
     QFile file(path);
     static_cast<void>(file.open(QIODevice::WriteOnly));
 }
@@ -152,5 +157,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
                            .arg(after)
                            .arg(status));
     }
-    createEmptyFile(manager.markerFile());
+    const auto marking = offThread([path = manager.markerFile()] { createMarker(path); });
+    co_await marking;
+    throwIfCancelled(stop);
 }

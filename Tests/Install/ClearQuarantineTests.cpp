@@ -109,7 +109,7 @@ TEST_F(ClearQuarantineTest, isFollowedByASwapThatKeepsTheOldEngineWhenItFails)
     const auto outcome = installWith("mv \"$2\" \"$2.taken\" && rm -r \"$2.taken\"");
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("Could not move “")))
+    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("Could not write “")))
         << outcome.sentence.toStdString();
     expectOldEngine();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/FileTree.h"
 
+#include "Platform/Cancelled.h"
 #include "Platform/ExchangePaths.h"
 #include "Platform/PlatformError.h"
 #include "Support/TestFolder.h"
@@ -11,18 +12,16 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <array>
 #include <cerrno>
-#include <cstddef>
 #include <functional>
+#include <stop_token>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #if defined(Q_OS_LINUX)
-#include <linux/filter.h>
-#include <linux/seccomp.h>
-#include <sys/prctl.h>
+#include "Support/WithoutSystemCall.h"
+
 #include <sys/syscall.h>
 #endif
 
@@ -152,6 +151,17 @@ TEST_F(FileTreeTest, replacesALinkAndNotWhatItPointsTo)
     EXPECT_EQ(m_folder.names(), QStringList{QStringLiteral("Game")});
 }
 
+TEST_F(FileTreeTest, replacesNothingWhenCancelled)
+{
+    m_folder.write(QStringLiteral("Game/old"));
+    m_folder.write(QStringLiteral("Game.new/new"));
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(FileTree::replace(m_target, m_staging, m_aside, stop.get_token()), Cancelled);
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game")), QStringList{QStringLiteral("old")});
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game.new")), QStringList{QStringLiteral("new")});
+}
+
 TEST_F(FileTreeTest, reportsAReplacementThatFailsAndKeepsTheStagingFolder)
 {
     m_folder.write(QStringLiteral("Game.new/new"));
@@ -168,49 +178,6 @@ TEST_F(FileTreeTest, reportsAReplacementThatFailsAndKeepsTheStagingFolder)
 }
 
 #if defined(Q_OS_LINUX)
-/// From here on, has the system refuse one of its calls to this process with the given error.
-bool forbid(unsigned systemCall, unsigned error)
-{
-    std::array filter{
-        sock_filter BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-        sock_filter BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, systemCall, 0, 1),
-        sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | error),
-        sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
-    };
-    const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
-    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
-}
-
-/// Does `action` in a process of its own, to which the system refuses the call, and gives the
-/// sentence that it throws. It is empty when it throws nothing.
-QString sentenceWithout(unsigned systemCall, unsigned error, const std::function<void()>& action)
-{
-    std::array<int, 2> pipe = {};
-    EXPECT_EQ(::pipe(pipe.data()), 0);
-    const auto child = ::fork();
-    if (child == 0) {
-        try {
-            if (!forbid(systemCall, error))
-                ::_exit(1);
-            action();
-        } catch (const PlatformError& thrown) {
-            const auto sentence = thrown.message().toUtf8();
-            const auto size = static_cast<std::size_t>(sentence.size());
-            ::_exit(::write(pipe[1], sentence.constData(), size) == sentence.size() ? 0 : 2);
-        }
-        ::_exit(0);
-    }
-    ::close(pipe[1]);
-    QFile output;
-    EXPECT_TRUE(output.open(pipe[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
-    const auto sentence = QString::fromUtf8(output.readAll());
-    int status = -1;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-    return sentence;
-}
-
 QString sentenceWithoutExchange(const std::function<void()>& action)
 {
     return sentenceWithout(SYS_renameat2, EINVAL, action);
@@ -263,6 +230,19 @@ TEST_F(FileTreeTest, putsTheOldFolderBackWhenTheNewOneCannotBeMoved)
         << sentence.toStdString();
     EXPECT_EQ(m_folder.names(), (QStringList{QStringLiteral("Game"), QStringLiteral("Game.new")}));
     EXPECT_EQ(m_folder.names(QStringLiteral("Game")), QStringList{QStringLiteral("old")});
+}
+
+TEST_F(FileTreeTest, writesTheNewFolderToTheDiskBeforeItTouchesTheOldOne)
+{
+    m_folder.write(QStringLiteral("Game/old"));
+    m_folder.write(QStringLiteral("Game.new/new"));
+    const auto sentence = sentenceWithout(
+        SYS_syncfs, EIO, [this] { FileTree::replace(m_target, m_staging, m_aside); });
+    EXPECT_EQ(
+        sentence,
+        QStringLiteral("Could not write “%1” to the disk: Input/output error.").arg(m_staging));
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game")), QStringList{QStringLiteral("old")});
+    EXPECT_EQ(m_folder.names(QStringLiteral("Game.new")), QStringList{QStringLiteral("new")});
 }
 
 TEST_F(FileTreeTest, touchesNothingWhenTheExchangeIsRefused)

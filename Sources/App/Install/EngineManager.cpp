@@ -51,9 +51,8 @@ QString putInPlace(const EngineManager& manager, const QString& staging,
 {
     if (const auto program = HostPlatform::findEngineProgram(staging))
         makeExecutable(*program);
-    throwIfCancelled(stop);
     const auto target = manager.folder();
-    FileTree::replace(target, staging, Paths::newStagingFolder(target));
+    FileTree::replace(target, staging, Paths::newStagingFolder(target), stop);
     const auto program = manager.executable();
     if (!program)
         throw AppError(QStringLiteral("The engine was unpacked but its program was not found."));

@@ -28,9 +28,8 @@ QString putInPlace(const QString& staging, const std::stop_token& stop)
     if (!ProjectInspector::findProject(staging))
         throw AppError(
             QStringLiteral("The downloaded game does not contain a project.godot file."));
-    throwIfCancelled(stop);
     const auto game = Paths::game();
-    FileTree::replace(game, staging, Paths::newStagingFolder(game));
+    FileTree::replace(game, staging, Paths::newStagingFolder(game), stop);
     const auto project = ProjectInspector::findProject(game);
     if (!project)
         throw AppError(

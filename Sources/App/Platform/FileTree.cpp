@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/FileTree.h"
 
+#include "Platform/Cancelled.h"
 #include "Platform/ExchangePaths.h"
+#include "Platform/MakeDurable.h"
 #include "Platform/PlatformError.h"
 #include "Platform/TreeRemoval.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
@@ -67,14 +70,18 @@ void FileTree::removeQuietly(const QString& path) noexcept
     TreeRemoval::remove(path);
 }
 
-void FileTree::replace(const QString& target, const QString& staging, const QString& aside)
+void FileTree::replace(const QString& target, const QString& staging, const QString& aside,
+                       const std::stop_token& stop)
 {
+    throwIfCancelled(stop);
+    makeDurable(staging);
+    throwIfCancelled(stop);
     // The new folder stands then, and the old one has a staging name. A part of it that cannot be
     // deleted is no reason to call the replacement failed.
-    if (exchangePaths(staging, target)) {
-        removeQuietly(staging);
-    } else {
+    const auto isExchanged = exchangePaths(staging, target);
+    if (!isExchanged)
         replaceInTwoSteps(target, staging, aside);
-        removeQuietly(aside);
-    }
+    // The old one goes only when a power cut can no longer bring it back to its place.
+    makeNamesDurable(QFileInfo(target).path());
+    removeQuietly(isExchanged ? staging : aside);
 }

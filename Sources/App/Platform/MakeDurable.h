@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// Waits until all that was written below the folder at `path`, and the names there, would outlive
+/// a power cut. A file system may otherwise commit a later rename before the content of the files.
+///
+/// Blocks, for as long as the disk takes, and so belongs off the main thread. Throws PlatformError
+/// when the folder cannot be opened or the disk could not keep what was written.
+void makeDurable(const QString& path);
+
+/// The same file by file, for systems that know no other way. Links are not followed. It goes on to
+/// the end when something fails and then throws the first failure.
+void makeEachDurable(const QString& path);
+
+/// Waits until the names in the folder at `path` would outlive a power cut, as far as the file
+/// system can promise it: a failure is ignored. Blocks.
+void makeNamesDurable(const QString& path) noexcept;
