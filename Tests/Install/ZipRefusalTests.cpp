@@ -83,6 +83,54 @@ TEST_F(ZipRefusalTest, refusesLinksThatGoRoundInCircles)
                   refusal(QStringLiteral("l"), QStringLiteral("leads through too many links")));
 }
 
+TEST_F(ZipRefusalTest, refusesLinksThatLeadNowhere)
+{
+    const auto reason = QStringLiteral("leads nowhere");
+    expectRefusal(linkEntry("l", ""), refusal(QStringLiteral("l"), reason));
+    expectRefusal(linkEntry("l", QByteArray(2049, 'n')), refusal(QStringLiteral("l"), reason));
+}
+
+TEST_F(ZipRefusalTest, refusesLinksThatLeadAlongTooLongAPath)
+{
+    // Each of the targets is short enough by itself.
+    const auto half = QByteArray("n").repeated(250) + '/';
+    const auto target = half.repeated(5);
+    ZipWriter zip;
+    zip.addLink(target + "again", target).addLink("l", target + "again/" + half);
+    EXPECT_EQ(extract(zip), 1);
+    ASSERT_EQ(log.size(), 1);
+    EXPECT_TRUE(log.first().endsWith(QStringLiteral("leads along too long a path.")))
+        << log.first().toStdString();
+    EXPECT_TRUE(folder.names(QStringLiteral("un packed")).isEmpty());
+}
+
+TEST_F(ZipRefusalTest, refusesNamesThatImplyTooManyFolders)
+{
+    // A name of 256 bytes implies 127 folders, so that 4,000 small entries make 508,000.
+    ZipWriter zip;
+    for (int i = 0; i < 4'000; ++i)
+        zip.addFile(QByteArray::number(i) + QByteArray("/d").repeated(126) + "/f");
+
+    EXPECT_EQ(extract(zip), 1);
+
+    EXPECT_EQ(log, QStringList{QStringLiteral("The archive has too many files and folders.")});
+    EXPECT_TRUE(folder.names(QStringLiteral("un packed")).isEmpty());
+}
+
+TEST_F(ZipRefusalTest, refusesNamesThatImplyFoldersWithTooLongNames)
+{
+    // As each folder is remembered by its path, a name of 2 KB takes 130 KB.
+    ZipWriter zip;
+    for (int i = 0; i < 2'200; ++i)
+        zip.addFile(QByteArray::number(10'000 + i) + "/a-folder-of-16/" +
+                    QByteArray("a-folder-of-16b/").repeated(125) + "f");
+
+    EXPECT_EQ(extract(zip), 1);
+
+    EXPECT_EQ(log, QStringList{QStringLiteral("The archive has too many files and folders.")});
+    EXPECT_TRUE(folder.names(QStringLiteral("un packed")).isEmpty());
+}
+
 TEST_F(ZipRefusalTest, refusesEntriesBelowALinkOrAFile)
 {
     ZipWriter throughLink;

@@ -17,6 +17,10 @@ namespace {
 constexpr qsizetype longestPart = 255;
 constexpr qsizetype longestName = 2048;
 constexpr qsizetype deepestFolder = 128;
+/// Far above any real game. Names can imply a hundred folders each, so that what is remembered of
+/// an archive could otherwise take fifty times the memory that its directory does.
+constexpr std::size_t mostPlaces = 500'000;
+constexpr std::size_t mostRememberedBytes = std::size_t{256} * 1024 * 1024;
 /// As many links as the system itself would follow in one path.
 constexpr int mostLinksOnTheWay = 40;
 
@@ -64,6 +68,9 @@ void ZipVetting::add(const ZipEntry& entry)
     const auto place = placeOf(entry).toStdString();
     if (place.empty() && entry.kind != ZipEntry::Kind::Folder)
         throw refusal(entry, QStringLiteral("has no name"));
+    if (entry.kind == ZipEntry::Kind::Link &&
+        (entry.target.isEmpty() || entry.target.size() > longestName))
+        throw refusal(entry, QStringLiteral("leads nowhere"));
     addSize(entry);
     addFoldersAbove(entry, place);
     addPlace(entry, place);
@@ -110,7 +117,15 @@ void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& place
             throw refusal(entry, QStringLiteral("would lie below a file or a link"));
         if (!isNew)
             return;
+        countPlace(folder.size());
     }
+}
+
+void ZipVetting::countPlace(std::size_t bytes)
+{
+    m_rememberedBytes += bytes;
+    if (m_places.size() > mostPlaces || m_rememberedBytes > mostRememberedBytes)
+        throw ZipError(QStringLiteral("The archive has too many files and folders."));
 }
 
 void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
@@ -119,6 +134,7 @@ void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
     if (!isNew && (known->second.hasOwnEntry || entry.kind != ZipEntry::Kind::Folder))
         throw refusal(entry, QStringLiteral("occurs twice"));
     known->second = {entry.kind, true, entry.target.toStdString()};
+    countPlace(place.size() + known->second.target.size());
 }
 
 void ZipVetting::checkLinks(const std::stop_token& stop) const
@@ -126,12 +142,11 @@ void ZipVetting::checkLinks(const std::stop_token& stop) const
     for (const auto& [place, what] : m_places) {
         if (what.kind != ZipEntry::Kind::Link)
             continue;
-        throwIfCancelled(stop);
-        checkLink(place);
+        checkLink(place, stop);
     }
 }
 
-void ZipVetting::checkLink(const std::string& link) const
+void ZipVetting::checkLink(const std::string& link, const std::stop_token& stop) const
 {
     const auto refuse = [&link](const QString& reason) {
         ZipEntry entry;
@@ -144,6 +159,7 @@ void ZipVetting::checkLink(const std::string& link) const
     auto here = folderOf(link);
     int linksOnTheWay = 0;
     while (!rest.empty()) {
+        throwIfCancelled(stop);
         const auto part = std::move(rest.back());
         rest.pop_back();
         if (std::string_view(part) == "..") {
@@ -157,14 +173,15 @@ void ZipVetting::checkLink(const std::string& link) const
         if (!next.empty())
             next += '/';
         next += part;
+        // The system follows no longer path either, and each step costs as much as it is long.
+        if (next.size() > static_cast<std::size_t>(longestName))
+            refuse(QStringLiteral("leads along too long a path"));
         const auto known = m_places.find(next);
         if (known == m_places.end() || known->second.kind != ZipEntry::Kind::Link) {
             here = std::move(next);
             continue;
         }
         const auto& target = known->second.target;
-        if (target.empty() || target.size() > static_cast<std::size_t>(longestName))
-            refuse(QStringLiteral("leads nowhere"));
         if (target.front() == '/')
             refuse(QStringLiteral("leads outside the folder"));
         if (++linksOnTheWay > mostLinksOnTheWay)

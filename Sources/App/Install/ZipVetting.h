@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 
+#include <cstddef>
 #include <stop_token>
 #include <string>
 #include <unordered_map>
@@ -15,7 +16,8 @@ class ZipError;
 ///
 /// An honest archive of a game or an engine holds files, folders and links between them, each once.
 /// Whatever could write or lead outside of the folder, overwrite another entry, or come to life as
-/// something other than that, makes the whole archive untrustworthy.
+/// something other than that, makes the whole archive untrustworthy; so does one with more places
+/// than a game can have, since all of them are kept in memory.
 class ZipVetting final
 {
 public:
@@ -45,8 +47,10 @@ private:
     void addSize(const ZipEntry& entry);
     void addFoldersAbove(const ZipEntry& entry, const std::string& place);
     void addPlace(const ZipEntry& entry, const std::string& place);
-    void checkLink(const std::string& link) const;
+    void countPlace(std::size_t bytes);
+    void checkLink(const std::string& link, const std::stop_token& stop) const;
 
     std::unordered_map<std::string, Place> m_places;
+    std::size_t m_rememberedBytes = 0;
     qint64 m_totalSize = 0;
 };
