@@ -10,7 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <array>
 #include <optional>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
@@ -95,6 +97,21 @@ TEST_F(TemporaryFolderTest, isNotMadeWhereSomethingIsAlready)
             QStringLiteral("Could not create the temporary folder “%1”: File exists.").arg(m_path));
     }
     EXPECT_TRUE(QFileInfo::exists(m_path));
+}
+
+TEST_F(TemporaryFolderTest, staysWhenItWasMadeAgainUnderTheEyesOfSeveralCleaners)
+{
+    // One of them may remove a folder that is not locked yet, while another already has it open.
+    const auto clean = [this](const std::stop_token& stop) {
+        while (!stop.stop_requested())
+            TemporaryFolder::removeIfAbandoned(m_path);
+    };
+    const std::array cleaners{std::jthread(clean), std::jthread(clean)};
+    for (int i = 0; i < 200; ++i) {
+        const TemporaryFolder folder(m_path);
+        std::this_thread::yield();
+        ASSERT_TRUE(QFileInfo::exists(m_path)) << i;
+    }
 }
 
 } // namespace

@@ -36,6 +36,15 @@ bool isRemoved(const FileDescriptor& folder)
     return ::fstat(folder.get(), &status) == 0 && status.st_nlink == 0;
 }
 
+/// Whether `folder` is still what stands at the path `name`.
+bool isAt(const QByteArray& name, const FileDescriptor& folder)
+{
+    struct stat opened = {};
+    struct stat found = {};
+    return ::fstat(folder.get(), &opened) == 0 && ::lstat(name.constData(), &found) == 0 &&
+           opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
+}
+
 } // namespace
 
 TemporaryFolder::TemporaryFolder(const QString& path)
@@ -75,7 +84,11 @@ void TemporaryFolder::remove() noexcept
 
 void TemporaryFolder::removeIfAbandoned(const QString& path) noexcept
 {
-    const auto folder = openFolder(QFile::encodeName(path));
-    if (folder.isOpen() && isOwnFolder(folder) && ::flock(folder.get(), LOCK_EX | LOCK_NB) == 0)
+    const auto name = QFile::encodeName(path);
+    const auto folder = openFolder(name);
+    if (!folder.isOpen() || !isOwnFolder(folder) || ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0)
+        return;
+    // Before the lock, another launcher may have removed the folder, and its owner made it anew.
+    if (isAt(name, folder))
         FileTree::removeQuietly(path);
 }
