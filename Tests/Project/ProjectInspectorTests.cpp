@@ -80,6 +80,7 @@ TEST_F(ProjectInspectorTest, readsAVersionWithASignAndBlanks)
 {
     EXPECT_EQ(inspect(" \tconfig_version= \t+5 \t\n")->configVersion, 5);
     EXPECT_EQ(inspect("config_version=-2")->configVersion, -2);
+    EXPECT_EQ(inspect("config_version=3000000000")->configVersion, 3'000'000'000);
 }
 
 TEST_F(ProjectInspectorTest, doesNotReadAVersionThatACarriageReturnFollows)

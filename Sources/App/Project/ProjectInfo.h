@@ -11,7 +11,7 @@ struct ProjectInfo
     QString folder;
     QString name = QStringLiteral("Game");
     /// The file's `config_version`; 4 for Godot 3.1 to 3.6. Never 0 in a record that was read.
-    int configVersion = 0;
+    qint64 configVersion = 0;
     /// A "res://" path; empty when absent.
     QString mainScene;
     /// The `config/features` tags in file order.

@@ -46,13 +46,13 @@ QStringList quoted(QStringView line)
     return items;
 }
 
-/// 0 for what is not a decimal number.
-int decimal(QStringView text)
+/// 0 for what is not a decimal number of 64 bits.
+qint64 decimal(QStringView text)
 {
     const auto digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
     // Checked here, since Qt's own conversion tolerates white space.
     const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    return std::ranges::all_of(digits, isDigit) ? text.toInt() : 0;
+    return std::ranges::all_of(digits, isDigit) ? text.toLongLong() : 0;
 }
 
 void readLine(QStringView line, ProjectInfo& info)
