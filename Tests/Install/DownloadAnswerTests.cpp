@@ -163,8 +163,3 @@ TEST_F(DownloadAnswerTest, explainsANetworkErrorInOneSentence)
     EXPECT_FALSE(unknown.sentence.contains(QStringLiteral("stalled")));
     EXPECT_FALSE(unknown.sentence.contains(u'\n'));
 }
-
-TEST(Durations, letAServerBeSilentForAMinute)
-{
-    EXPECT_EQ(Durations().transferStall, 60s);
-}
