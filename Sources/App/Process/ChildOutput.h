@@ -13,8 +13,9 @@ class QSocketNotifier;
 
 /// The pipe a child writes its output to, and its reader, which delivers it line by line.
 ///
-/// It reads a bounded amount at a time, so that a child that never stops writing can neither fill
-/// memory nor keep the thread from its other work. It belongs to the thread that creates it.
+/// It reads a bounded amount at a time, so that a child that never stops writing cannot keep the
+/// thread from its other work. A line is kept until its line feed comes, however long it grows. It
+/// belongs to the thread that creates it.
 class ChildOutput final
 {
 public:

@@ -97,6 +97,8 @@ void ChildProcess::setUpProcess()
     // The output goes through a pipe of our own: QProcess would, at the child's end, read on for as
     // long as any process that inherited its pipe keeps writing.
     m_process->setProcessChannelMode(QProcess::ForwardedChannels);
+    // Nothing here has anything to say to a child; and what is typed into the terminal that the
+    // launcher was started from is not for it.
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setChildProcessModifier([lifetime = m_lifetime, sessionLock = m_sessionLock,
                                         output = m_output->writeEnd(), parent = ::getpid()] {
