@@ -1,54 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "Install/Unzipper.h"
 
+#include "Support/CollectedLines.h"
 #include "Support/Eventually.h"
 #include "Support/TestFolder.h"
 #include "Support/ZipWriter.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
-#include <mutex>
-
 namespace {
 
 class UnzipperTest : public testing::Test
 {
 protected:
-    LogCallback log()
-    {
-        return [this](const QString& line) {
-            const std::lock_guard lock(m_mutex);
-            m_lines.append(line);
-        };
-    }
-    QStringList lines()
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_lines;
-    }
+    [[nodiscard]] QStringList lines() const { return output.lines(); }
     Outcome<bool> unzip(const QByteArray& bytes)
     {
         folder.write(QStringLiteral("the archive.zip"), bytes);
-        return eventually(Unzipper::unzip(archive, destination, log(), stop.get_token()));
+        return eventually(
+            Unzipper::unzip(archive, destination, output.callback(), stop.get_token()));
     }
     Outcome<bool> unzipWith(const QByteArray& script)
     {
         folder.write(QStringLiteral("the archive.zip"));
         const auto tool = folder.writeScript(QStringLiteral("some tool"), script);
         return eventually(Unzipper::unzipWith(ToolCommand{tool, {archive, destination}}, archive,
-                                              destination, log(), stop.get_token()));
+                                              destination, output.callback(), stop.get_token()));
     }
 
     TestFolder folder;
     QString archive = folder.path(QStringLiteral("the archive.zip"));
     QString destination = folder.path(QStringLiteral("new parents/of the/folder"));
     std::stop_source stop;
-
-private:
-    std::mutex m_mutex;
-    QStringList m_lines;
+    CollectedLines output;
 };
 
 } // namespace
@@ -109,8 +93,8 @@ TEST_F(UnzipperTest, reportsAToolThatCannotBeStarted)
 {
     const ToolCommand missing{folder.path(QStringLiteral("no tool")), {}};
 
-    const auto outcome =
-        eventually(Unzipper::unzipWith(missing, archive, destination, log(), stop.get_token()));
+    const auto outcome = eventually(
+        Unzipper::unzipWith(missing, archive, destination, output.callback(), stop.get_token()));
 
     EXPECT_TRUE(outcome.isPlatformError);
 }
@@ -118,8 +102,8 @@ TEST_F(UnzipperTest, reportsAToolThatCannotBeStarted)
 TEST_F(UnzipperTest, endsTheToolWhenCancelled)
 {
     const auto tool = folder.writeScript(QStringLiteral("tool"), "echo started; exec sleep 1000");
-    auto task =
-        Unzipper::unzipWith(ToolCommand{tool, {}}, archive, destination, log(), stop.get_token());
+    auto task = Unzipper::unzipWith(ToolCommand{tool, {}}, archive, destination, output.callback(),
+                                    stop.get_token());
     EXPECT_TRUE(QTest::qWaitFor([this] { return !lines().isEmpty(); }, 20'000));
 
     stop.request_stop();

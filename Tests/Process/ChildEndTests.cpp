@@ -23,7 +23,7 @@ TEST_F(EndOfAChild, givesTheNumberOfTheSignalThatCausedIt)
     EXPECT_EQ(runShell("kill -USR1 $$"), SIGUSR1);
 }
 
-TEST_F(EndOfAChild, isWhenItStopsCountingAsRunning)
+TEST_F(EndOfAChild, makesItCountAsNotRunning)
 {
     EXPECT_FALSE(m_process.isRunning());
     auto run = startShell("echo ready; exec sleep 600");
@@ -81,7 +81,7 @@ TEST_F(EndOfAChild, isForcedOnOneThatIgnoresThePoliteRequestAndOnItsWholeGroup)
     EXPECT_TRUE(waitUntil([&] { return !processRuns(grandchild); }));
 }
 
-TEST_F(EndOfAChild, isThatOfWhatItLeavesBehindWhenAskedFor)
+TEST_F(EndOfAChild, alsoEndsWhatTheChildLeavesBehindWhenItWasAskedFor)
 {
     auto run = startShell("(trap '' TERM; echo ready; while :; do sleep 0.1; done) & "
                           "echo $!; trap 'exit 5' TERM; while :; do sleep 0.01; done");

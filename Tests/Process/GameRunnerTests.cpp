@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Process/GameRunner.h"
 
-#include "Platform/PlatformError.h"
 #include "Support/Await.h"
 #include "Support/CollectedLines.h"
+#include "Support/Eventually.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,6 @@
 #include <QCoroTask>
 
 #include <csignal>
-#include <exception>
 #include <optional>
 #include <utility>
 
@@ -60,45 +59,25 @@ Durations durationsWithAShortGrace()
     return durations;
 }
 
-/// The outcome of a run; the exception is kept, since one must not leave an awaited task here.
-struct Outcome
-{
-    std::optional<int> status;
-    std::exception_ptr failure;
-
-    [[nodiscard]] bool isThere() const { return status || failure; }
-};
-
 class ImportRunTest : public testing::Test
 {
 protected:
-    QCoro::Task<> runInto(QString engine, std::chrono::milliseconds timeout)
-    {
-        try {
-            auto run = m_runner->runImport(engine, m_folder.path(QStringLiteral("project")),
-                                           timeout, m_output.callback());
-            m_outcome.status = co_await run;
-        } catch (...) {
-            m_outcome.failure = std::current_exception();
-        }
-    }
-
     /// Has the import run with other durations than the short ones.
     void use(const Durations& durations) { m_runner.emplace(durations); }
 
     /// Starts the import with the shell script `body` as the engine.
     void start(const QByteArray& body, std::chrono::milliseconds timeout = 60s)
     {
-        m_task.emplace(runInto(m_folder.writeScript(QStringLiteral("engine"), body), timeout));
+        startEngine(m_folder.writeScript(QStringLiteral("engine"), body), timeout);
     }
 
-    int finish()
+    void startEngine(const QString& engine, std::chrono::milliseconds timeout = 60s)
     {
-        waitUntil([this] { return m_outcome.isThere(); });
-        if (m_outcome.failure)
-            std::rethrow_exception(m_outcome.failure);
-        return m_outcome.status.value_or(-1);
+        m_run.emplace(m_runner->runImport(engine, m_project, timeout, m_output.callback()));
     }
+
+    /// Waits for the end of the import that was started.
+    Outcome<int> finish() { return eventually(std::move(*m_run)); }
 
     void writeAsset() const { m_folder.write(QStringLiteral("project/a.png")); }
 
@@ -106,15 +85,14 @@ protected:
     QString m_project = m_folder.makeFolder(QStringLiteral("project"));
     CollectedLines m_output;
     std::optional<GameRunner> m_runner{std::in_place, shortDurations()};
-    Outcome m_outcome;
-    std::optional<QCoro::Task<>> m_task;
+    std::optional<QCoro::Task<int>> m_run;
 };
 
 TEST_F(ImportRunTest, startsTheEditorOnTheProjectWithoutAWindow)
 {
     use(durationsWithoutACount());
     start("for a in \"$@\"; do echo \"$a\"; done; exit 3");
-    EXPECT_EQ(finish(), 3);
+    EXPECT_EQ(finish().value, 3);
     EXPECT_EQ(m_output.lines(),
               (QStringList{QStringLiteral("--path"), m_project, QStringLiteral("--editor"),
                            QStringLiteral("--no-window")}));
@@ -127,7 +105,7 @@ TEST_F(ImportRunTest, holdsItsChildUntilItEnds)
     ASSERT_NE(m_runner->process, nullptr);
     EXPECT_TRUE(m_runner->process->isRunning());
     m_runner->terminateCurrent();
-    finish();
+    EXPECT_EQ(finish().value, SIGTERM);
     EXPECT_EQ(m_runner->process, nullptr);
 }
 
@@ -136,7 +114,7 @@ TEST_F(ImportRunTest, endsWithTheEngineAndWithoutAWordBeforeTheFirstCount)
     use(durationsWithoutACount());
     writeAsset();
     start("exit 0");
-    EXPECT_EQ(finish(), 0);
+    EXPECT_EQ(finish().value, 0);
     EXPECT_EQ(m_output.lines(), QStringList());
 }
 
@@ -146,7 +124,7 @@ TEST_F(ImportRunTest, isClosedOnceEverythingIsImported)
     start("exec sleep 600");
     ASSERT_TRUE(waitUntil([this] { return !m_output.lines().isEmpty(); }));
     m_folder.write(QStringLiteral("project/a.png.import"));
-    EXPECT_EQ(finish(), SIGTERM);
+    EXPECT_EQ(finish().value, SIGTERM);
     EXPECT_EQ(m_output.lines(),
               (QStringList{QStringLiteral("Import progress: 1 assets still to import"),
                            QStringLiteral("Import progress: 0 assets still to import"),
@@ -157,7 +135,7 @@ TEST_F(ImportRunTest, isStoppedWhenItTakesTooLong)
 {
     writeAsset();
     start("exec sleep 600", 100ms);
-    EXPECT_EQ(finish(), SIGTERM);
+    EXPECT_EQ(finish().value, SIGTERM);
     EXPECT_EQ(m_output.lines(),
               (QStringList{QStringLiteral("Import progress: 1 assets still to import"),
                            QStringLiteral("Setup took too long, stopping it.")}));
@@ -169,7 +147,7 @@ TEST_F(ImportRunTest, killsAnEngineThatIgnoresTheRequestToStop)
     writeAsset();
     // All is imported, and the run to be closed, only once the engine ignores requests.
     start("trap '' TERM; : >\"$2/a.png.import\"; while :; do sleep 0.05; done");
-    EXPECT_EQ(finish(), SIGKILL);
+    EXPECT_EQ(finish().value, SIGKILL);
 }
 
 TEST_F(ImportRunTest, canBeStoppedFromOutside)
@@ -177,14 +155,14 @@ TEST_F(ImportRunTest, canBeStoppedFromOutside)
     writeAsset();
     start("exec sleep 600");
     m_runner->terminateCurrent();
-    EXPECT_EQ(finish(), SIGTERM);
+    EXPECT_EQ(finish().value, SIGTERM);
     m_runner->terminateCurrent(); // There is nothing left to stop.
 }
 
 TEST_F(ImportRunTest, passesOnThatTheEngineCannotBeStarted)
 {
-    m_task.emplace(runInto(QStringLiteral("/nowhere/engine"), 60s));
-    EXPECT_THROW(finish(), PlatformError);
+    startEngine(QStringLiteral("/nowhere/engine"));
+    EXPECT_TRUE(finish().isPlatformError);
     EXPECT_EQ(m_runner->process, nullptr);
     EXPECT_EQ(m_output.lines(), QStringList());
 }
