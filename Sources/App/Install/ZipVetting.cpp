@@ -5,7 +5,6 @@
 #include "Platform/Cancelled.h"
 
 #include <QByteArrayView>
-#include <QFile>
 
 #include <limits>
 #include <string_view>

@@ -138,5 +138,3 @@ void LogStore::publish()
     m_firstLineNumber = linesEver - m_lines.size();
     Q_EMIT linesChanged();
 }
-
-#include "moc_LogStore.cpp"
