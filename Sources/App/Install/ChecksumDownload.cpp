@@ -5,6 +5,7 @@
 #include "Install/HttpReceiver.h"
 #include "Install/HttpTransfer.h"
 
+#include <QCoreApplication>
 #include <QPromise>
 
 #include <utility>
@@ -25,7 +26,9 @@ public:
     {
         if (status != 200)
             throw AppError(
-                QStringLiteral("Could not read the engine checksum list (HTTP %1).").arg(status));
+                QCoreApplication::translate("ChecksumDownload",
+                                            "Could not read the engine checksum list (HTTP %1).")
+                    .arg(status));
         refuseMoreThanLargest(length);
     }
 
@@ -51,7 +54,8 @@ private:
     static void refuseMoreThanLargest(qint64 size)
     {
         if (size > largestList)
-            throw AppError(QStringLiteral(
+            throw AppError(QCoreApplication::translate(
+                "ChecksumDownload",
                 "The engine checksum list is larger than 1 MiB, so it was not read."));
     }
 

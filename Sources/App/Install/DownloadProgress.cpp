@@ -3,6 +3,8 @@
 
 #include "Platform/ByteCount.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,9 +22,10 @@ QString DownloadProgress::text() const
     if (!std::isfinite(bytesPerSecond))
         qFatal("A download's rate must be finite.");
     const auto amount = formattedByteCount(received);
-    const auto rate =
-        formattedByteCount(static_cast<qint64>(bytesPerSecond)) + QStringLiteral("/s");
+    const auto rate = QCoreApplication::translate("DownloadProgress", "%1/s")
+                          .arg(formattedByteCount(static_cast<qint64>(bytesPerSecond)));
     if (total < 1)
-        return QStringLiteral("%1 · %2").arg(amount, rate);
-    return QStringLiteral("%1 of %2 · %3").arg(amount, formattedByteCount(total), rate);
+        return QCoreApplication::translate("DownloadProgress", "%1 · %2").arg(amount, rate);
+    return QCoreApplication::translate("DownloadProgress", "%1 of %2 · %3")
+        .arg(amount, formattedByteCount(total), rate);
 }

@@ -19,6 +19,7 @@
 
 #include <QCoroFuture>
 
+#include <QCoreApplication>
 #include <QFile>
 
 namespace {
@@ -55,7 +56,8 @@ QString putInPlace(const EngineManager& manager, const QString& staging,
     FileTree::replace(target, staging, Paths::newStagingFolder(target), stop);
     const auto program = manager.executable();
     if (!program)
-        throw AppError(QStringLiteral("The engine was unpacked but its program was not found."));
+        throw AppError(QCoreApplication::translate(
+            "EngineManager", "The engine was unpacked but its program was not found."));
     return *program;
 }
 
@@ -72,7 +74,9 @@ QCoro::Task<QString> readChecksum(Job job, std::chrono::milliseconds stallLimit)
     throwIfCancelled(job.stop);
     const auto digest = ChecksumList::digestFor(list, archiveName);
     if (!digest)
-        throw AppError(QStringLiteral("The checksum list has no entry for %1.").arg(archiveName));
+        throw AppError(
+            QCoreApplication::translate("EngineManager", "The checksum list has no entry for %1.")
+                .arg(archiveName));
     co_return *digest;
 }
 
@@ -97,7 +101,8 @@ QCoro::Task<> verify(Job job, QString file, QString expected)
         offThread([file, stop = job.stop] { return EngineManager::sha512(file, stop); });
     const QString actual = co_await hashing;
     if (actual != expected)
-        throw AppError(QStringLiteral(
+        throw AppError(QCoreApplication::translate(
+            "EngineManager",
             "The engine download did not match its official checksum, so it was discarded."));
     job.log(QStringLiteral("Checksum OK."));
 }
@@ -174,7 +179,7 @@ QUrl EngineManager::releaseURL(const QString& fileName)
             QStringLiteral("/godotengine/godot/releases/download/%1/%2").arg(version(), fileName),
         QUrl::StrictMode);
     if (!url.isValid())
-        throw AppError(QStringLiteral("Invalid engine URL."));
+        throw AppError(QCoreApplication::translate("EngineManager", "Invalid engine URL."));
     return url;
 }
 

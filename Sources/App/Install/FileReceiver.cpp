@@ -6,6 +6,7 @@
 #include "Platform/FileTree.h"
 #include "Platform/PlatformError.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -31,8 +32,9 @@ FileReceiver::~FileReceiver()
 void FileReceiver::begin(int status, qint64 length)
 {
     if (status != 200)
-        throw AppError(QStringLiteral("The server answered with HTTP %1 for %2.")
-                           .arg(QString::number(status), m_url.toString(QUrl::FullyEncoded)));
+        throw AppError(
+            QCoreApplication::translate("FileReceiver", "The server answered with HTTP %1 for %2.")
+                .arg(QString::number(status), m_url.toString(QUrl::FullyEncoded)));
     m_length = length;
     m_part.emplace(m_partPath);
 }
@@ -51,7 +53,7 @@ void FileReceiver::complete()
     FileTree::remove(m_destination);
     if (std::rename(QFile::encodeName(m_partPath).constData(),
                     QFile::encodeName(m_destination).constData()) != 0)
-        throw PlatformError::fromErrno(QStringLiteral("save “%1”").arg(m_destination), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("save “%1”").arg(m_destination), errno);
     m_part.reset();
     m_result.addResult(m_destination);
     m_result.finish();

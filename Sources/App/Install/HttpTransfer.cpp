@@ -39,7 +39,7 @@ bool isRedirect(const QNetworkReply& reply, int status)
 
 PlatformError transferError(const QUrl& url, const QString& reason)
 {
-    return PlatformError::fromReason(QStringLiteral("download “%1”").arg(url.toDisplayString()),
+    return PlatformError::fromReason(PlatformError::tr("download “%1”").arg(url.toDisplayString()),
                                      reason.simplified());
 }
 
@@ -164,8 +164,9 @@ void HttpTransfer::stalled()
     // Before the head has come, the time counts from the request, whatever drips in.
     const auto sentence =
         m_headRead
-            ? QStringLiteral("The download of “%1” stalled: %2 sent nothing for %3 seconds.")
-            : QStringLiteral("The download of “%1” stalled: %2 did not answer within %3 seconds.");
+            ? PlatformError::tr("The download of “%1” stalled: %2 sent nothing for %3 seconds.")
+            : PlatformError::tr(
+                  "The download of “%1” stalled: %2 did not answer within %3 seconds.");
     fail(std::make_exception_ptr(PlatformError(
         sentence.arg(m_url.toDisplayString(), m_reply->url().host(), inSeconds(m_stallLimit)))));
 }

@@ -101,7 +101,7 @@ void Paths::ensure(const QString& path)
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     if (error)
-        throw PlatformError::fromReason(QStringLiteral("create the folder “%1”").arg(path),
+        throw PlatformError::fromReason(PlatformError::tr("create the folder “%1”").arg(path),
                                         QString::fromStdString(error.message()));
 }
 

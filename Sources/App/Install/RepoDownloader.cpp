@@ -13,6 +13,7 @@
 #include "Platform/OffThread.h"
 #include "Project/ProjectInspector.h"
 
+#include <QCoreApplication>
 #include <QCoroFuture>
 
 namespace {
@@ -26,14 +27,14 @@ QString branch()
 QString putInPlace(const QString& staging, const std::stop_token& stop)
 {
     if (!ProjectInspector::findProject(staging))
-        throw AppError(
-            QStringLiteral("The downloaded game does not contain a project.godot file."));
+        throw AppError(QCoreApplication::translate(
+            "RepoDownloader", "The downloaded game does not contain a project.godot file."));
     const auto game = Paths::game();
     FileTree::replace(game, staging, Paths::newStagingFolder(game), stop);
     const auto project = ProjectInspector::findProject(game);
     if (!project)
-        throw AppError(
-            QStringLiteral("The game folder was unpacked but project.godot was not found."));
+        throw AppError(QCoreApplication::translate(
+            "RepoDownloader", "The game folder was unpacked but project.godot was not found."));
     return *project;
 }
 
@@ -77,7 +78,7 @@ QUrl RepoDownloader::zipURL()
             QStringLiteral("/brindlework-demos/tetherwalk/archive/refs/heads/%1.zip").arg(branch()),
         QUrl::StrictMode);
     if (!url.isValid())
-        throw AppError(QStringLiteral("Invalid game URL."));
+        throw AppError(QCoreApplication::translate("RepoDownloader", "Invalid game URL."));
     return url;
 }
 

@@ -33,7 +33,7 @@ public:
         , m_descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
     {
         if (!m_descriptor.isOpen())
-            throw PlatformError::fromErrno(QStringLiteral("open “%1”").arg(path), errno);
+            throw PlatformError::fromErrno(PlatformError::tr("open “%1”").arg(path), errno);
     }
 
     /// Gives the number of bytes read; 0 at the end.
@@ -44,7 +44,7 @@ public:
             if (count >= 0)
                 return static_cast<std::size_t>(count);
             if (errno != EINTR)
-                throw PlatformError::fromErrno(QStringLiteral("read “%1”").arg(m_path), errno);
+                throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(m_path), errno);
         }
     }
 
@@ -75,7 +75,7 @@ private:
     static void check(bool succeeded)
     {
         if (!succeeded)
-            throw PlatformError(QStringLiteral("Could not compute a SHA-512 checksum."));
+            throw PlatformError(PlatformError::tr("Could not compute a SHA-512 checksum."));
     }
 
     struct Free

@@ -55,7 +55,7 @@ TemporaryFolder::TemporaryFolder(const QString& path)
     do {
         if (::mkdir(name.constData(), S_IRWXU) != 0)
             throw PlatformError::fromErrno(
-                QStringLiteral("create the temporary folder “%1”").arg(path), errno);
+                PlatformError::tr("create the temporary folder “%1”").arg(path), errno);
         m_lock = openFolder(name);
         // A file system without locks still gives a usable folder; it is then never cleared by
         // others. A launcher that clears up may have found the folder before it was locked, and has

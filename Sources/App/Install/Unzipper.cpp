@@ -8,6 +8,7 @@
 #include "Platform/HostPlatform.h"
 #include "Platform/OffThread.h"
 
+#include <QCoreApplication>
 #include <QCoroFuture>
 
 #include <utility>
@@ -34,5 +35,7 @@ QCoro::Task<> Unzipper::unzipWith(std::optional<ToolCommand> tool, QString archi
         status = co_await extracted;
     }
     if (status != 0)
-        throw AppError(QStringLiteral("Unzipping failed (ditto exit code %1).").arg(status));
+        throw AppError(
+            QCoreApplication::translate("Unzipper", "Unzipping failed (ditto exit code %1).")
+                .arg(status));
 }

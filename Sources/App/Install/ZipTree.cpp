@@ -35,7 +35,7 @@ ZipTree::ZipTree(const QString& destination)
           ::open(QFile::encodeName(destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
     if (!m_folder.isOpen())
-        throw PlatformError::fromErrno(QStringLiteral("open the folder “%1”").arg(destination),
+        throw PlatformError::fromErrno(PlatformError::tr("open the folder “%1”").arg(destination),
                                        errno);
 }
 
@@ -50,7 +50,7 @@ void ZipTree::makeFolder(const std::string& place)
         const auto reason = errno;
         if (reason != EEXIST || !isFolder(m_folder.get(), place)) {
             throw PlatformError::fromErrno(
-                QStringLiteral("create the folder “%1”").arg(QString::fromStdString(place)),
+                PlatformError::tr("create the folder “%1”").arg(QString::fromStdString(place)),
                 reason);
         }
     }
@@ -75,7 +75,8 @@ void ZipTree::makeLinks(const std::stop_token& stop)
         makeFolderAbove(link.place);
         if (::symlinkat(link.target.constData(), m_folder.get(), link.place.constData()) != 0)
             throw PlatformError::fromErrno(
-                QStringLiteral("create the link “%1”").arg(QFile::decodeName(link.place)), errno);
+                PlatformError::tr("create the link “%1”").arg(QFile::decodeName(link.place)),
+                errno);
     }
 }
 
@@ -84,7 +85,7 @@ qint64 ZipTree::freeSpace() const
     struct statvfs status = {};
     if (::fstatvfs(m_folder.get(), &status) != 0)
         throw PlatformError::fromErrno(
-            QStringLiteral("read the free space of “%1”").arg(m_destination), errno);
+            PlatformError::tr("read the free space of “%1”").arg(m_destination), errno);
     const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);
     constexpr auto most = std::numeric_limits<qint64>::max();
     return bytes < static_cast<double>(most) ? static_cast<qint64>(bytes) : most;

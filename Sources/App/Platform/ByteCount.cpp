@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/ByteCount.h"
 
-#include <QLatin1String>
+#include <QCoreApplication>
 
 #include <array>
 
@@ -11,15 +11,15 @@ struct Unit
 {
     qint64 bytes;
     int decimals;
-    QLatin1String name;
+    const char* pattern;
 };
 
 constexpr std::array units{
-    Unit{1'000, 0, QLatin1String("KB")},
-    Unit{1'000'000, 1, QLatin1String("MB")},
-    Unit{1'000'000'000, 2, QLatin1String("GB")},
-    Unit{1'000'000'000'000, 2, QLatin1String("TB")},
-    Unit{1'000'000'000'000'000, 2, QLatin1String("PB")},
+    Unit{1'000, 0, QT_TRANSLATE_NOOP("ByteCount", "%1 KB")},
+    Unit{1'000'000, 1, QT_TRANSLATE_NOOP("ByteCount", "%1 MB")},
+    Unit{1'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 GB")},
+    Unit{1'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 TB")},
+    Unit{1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 PB")},
 };
 
 QString withoutTrailingZeros(QString number)
@@ -44,11 +44,11 @@ QString inUnit(qint64 bytes, const Unit& unit)
 QString formattedByteCount(qint64 bytes)
 {
     if (bytes == 0)
-        return QStringLiteral("Zero KB");
+        return QCoreApplication::translate("ByteCount", "Zero KB");
     if (bytes == 1)
-        return QStringLiteral("1 byte");
+        return QCoreApplication::translate("ByteCount", "1 byte");
     if (bytes > -1'000 && bytes < 1'000)
-        return QStringLiteral("%1 bytes").arg(bytes);
+        return QCoreApplication::translate("ByteCount", "%1 bytes").arg(bytes);
     const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
     std::size_t index = 0;
     while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
@@ -58,5 +58,5 @@ QString formattedByteCount(qint64 bytes)
     if (index + 1 < units.size() &&
         (number == QLatin1String("1000") || number == QLatin1String("-1000")))
         number = inUnit(bytes, units[++index]);
-    return number + u' ' + units[index].name;
+    return QCoreApplication::translate("ByteCount", units[index].pattern).arg(number);
 }

@@ -39,6 +39,6 @@ bool exchangePaths(const QString& first, const QString& second)
     const auto error = errno;
     if (isImpossible(error))
         return false;
-    throw PlatformError::fromErrno(QStringLiteral("exchange “%1” and “%2”").arg(first, second),
+    throw PlatformError::fromErrno(PlatformError::tr("exchange “%1” and “%2”").arg(first, second),
                                    error);
 }

@@ -26,7 +26,7 @@ bool rename(const QString& from, const QString& to)
 void move(const QString& from, const QString& to)
 {
     if (!rename(from, to))
-        throw PlatformError::fromErrno(QStringLiteral("move “%1” to “%2”").arg(from, to), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(from, to), errno);
 }
 
 /// Leaves the old folder at `aside`, or on failure where it was.
@@ -34,7 +34,7 @@ void replaceInTwoSteps(const QString& target, const QString& staging, const QStr
 {
     const auto isOldAside = rename(target, aside);
     if (!isOldAside && errno != ENOENT)
-        throw PlatformError::fromErrno(QStringLiteral("move “%1” to “%2”").arg(target, aside),
+        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(target, aside),
                                        errno);
     try {
         move(staging, target);
@@ -56,7 +56,7 @@ bool FileTree::exists(const QString& path)
 void FileTree::remove(const QString& path)
 {
     if (const auto obstacle = TreeRemoval::remove(path))
-        throw PlatformError::fromReason(QStringLiteral("remove “%1”").arg(obstacle->path),
+        throw PlatformError::fromReason(PlatformError::tr("remove “%1”").arg(obstacle->path),
                                         obstacle->reason);
 }
 

@@ -34,5 +34,5 @@ QString homeFolder()
         if (QDir::isAbsolutePath(candidate))
             return QDir::cleanPath(candidate);
     }
-    throw PlatformError(QStringLiteral("Could not find your home folder: HOME is not set."));
+    throw PlatformError(PlatformError::tr("Could not find your home folder: HOME is not set."));
 }

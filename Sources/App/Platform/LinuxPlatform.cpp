@@ -4,6 +4,7 @@
 #include "AppError.h"
 #include "Platform/HomeFolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -70,8 +71,9 @@ QString LinuxPlatform::engineArchiveSuffix(bool mono, const QString& processor)
         return mono ? QStringLiteral("mono_x11_64.zip") : QStringLiteral("x11.64.zip");
     if (processor == QLatin1String("i386"))
         return mono ? QStringLiteral("mono_x11_32.zip") : QStringLiteral("x11.32.zip");
-    throw AppError(QStringLiteral("The Godot 3 engine is not available for this computer's "
-                                  "processor (%1).")
+    throw AppError(QCoreApplication::translate(
+                       "LinuxPlatform", "The Godot 3 engine is not available for this computer's "
+                                        "processor (%1).")
                        .arg(processor));
 }
 

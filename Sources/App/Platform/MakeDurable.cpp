@@ -22,7 +22,7 @@ FileDescriptor openFolder(const QString& path)
 
 [[noreturn]] void throwNotWritten(const QString& path, int error)
 {
-    throw PlatformError::fromErrno(QStringLiteral("write “%1” to the disk").arg(path), error);
+    throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
 }
 
 /// The error of writing one entry to the disk; 0 for none.

@@ -20,7 +20,7 @@ OutputFile::OutputFile(int folder, const QByteArray& name, mode_t mode)
                             O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode))
 {
     if (!m_descriptor.isOpen())
-        throw PlatformError::fromErrno(QStringLiteral("create “%1”").arg(shownName()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("create “%1”").arg(shownName()), errno);
 }
 
 void OutputFile::write(QByteArrayView bytes)
@@ -31,7 +31,7 @@ void OutputFile::write(QByteArrayView bytes)
         if (written >= 0)
             bytes = bytes.sliced(written);
         else if (errno != EINTR)
-            throw PlatformError::fromErrno(QStringLiteral("write “%1”").arg(shownName()), errno);
+            throw PlatformError::fromErrno(PlatformError::tr("write “%1”").arg(shownName()), errno);
     }
 }
 
@@ -39,7 +39,7 @@ void OutputFile::close()
 {
     // After an error, EINTR included, the descriptor is gone all the same.
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
-        throw PlatformError::fromErrno(QStringLiteral("write “%1”").arg(shownName()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("write “%1”").arg(shownName()), errno);
 }
 
 QString OutputFile::shownName() const

@@ -14,5 +14,5 @@ PlatformError PlatformError::fromErrno(const QString& action, int errorNumber)
 PlatformError PlatformError::fromReason(const QString& action, const QString& reason)
 {
     const auto full = reason.endsWith(u'.') ? reason : reason + u'.';
-    return PlatformError(QStringLiteral("Could not %1: %2").arg(action, full));
+    return PlatformError(tr("Could not %1: %2").arg(action, full));
 }

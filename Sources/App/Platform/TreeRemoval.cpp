@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/TreeRemoval.h"
 
+#include "Platform/PlatformError.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,7 +20,10 @@
 
 namespace {
 
-const auto mountedThere = QStringLiteral("another file system is mounted there");
+QString mountedThere()
+{
+    return PlatformError::tr("another file system is mounted there");
+}
 
 /// Opens a folder that need not be readable.
 #if defined(O_PATH)
@@ -153,7 +158,7 @@ bool TreeRemoval::removeFile(int parent, const std::string& name)
     if (isFolder(parent, name))
         return false;
     if (error == EBUSY && isMount(parent, name.c_str()))
-        report(name, mountedThere);
+        report(name, mountedThere());
     else
         report(name, error);
     return true;
@@ -164,12 +169,12 @@ void TreeRemoval::enter(int parent, const std::string& name)
 {
     // Looked at before it is opened, which may unlock it, and after, in case it was exchanged.
     if (isMount(parent, name.c_str())) {
-        report(name, mountedThere);
+        report(name, mountedThere());
         return;
     }
     auto opened = openFolder(parent, name.c_str());
     if (opened.isOpen() && isMount(opened.get(), "")) {
-        report(name, mountedThere);
+        report(name, mountedThere());
         return;
     }
     struct stat status = {};
@@ -193,7 +198,7 @@ void TreeRemoval::leave()
     if (m_folders.empty()) {
         m_current = std::move(m_parent);
     } else if (!leaveFor(m_folders.back())) {
-        report(folder.name, QStringLiteral("it was moved meanwhile"));
+        report(folder.name, PlatformError::tr("it was moved meanwhile"));
         m_folders.clear();
         return;
     }

@@ -14,7 +14,7 @@ locale_t openUtf8()
         if (const auto locale = ::newlocale(LC_CTYPE_MASK, name, nullptr))
             return locale;
     }
-    throw PlatformError::fromErrno(QStringLiteral("use UTF-8 for file names"), errno);
+    throw PlatformError::fromErrno(PlatformError::tr("use UTF-8 for file names"), errno);
 }
 
 } // namespace

@@ -26,7 +26,7 @@ ChildOutput::ChildOutput(LogCallback onLine)
 {
     std::array<int, 2> ends = {};
     if (::pipe(ends.data()) != 0)
-        throw PlatformError::fromErrno(QStringLiteral("create a pipe"), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("create a pipe"), errno);
     m_readEnd = FileDescriptor(ends[0]);
     m_writeEnd = FileDescriptor(ends[1]);
     ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);

@@ -137,7 +137,7 @@ void ChildProcess::fail(const QString& executable, const QString& reason)
 {
     letGo();
     m_promise.setException(std::make_exception_ptr(
-        PlatformError::fromReason(QStringLiteral("start “%1”").arg(executable), reason)));
+        PlatformError::fromReason(PlatformError::tr("start “%1”").arg(executable), reason)));
     m_promise.finish();
 }
 
