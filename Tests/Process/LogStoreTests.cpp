@@ -143,33 +143,6 @@ TEST_F(LogStoreTest, publishesOnItsOwnThread)
     EXPECT_EQ(publisher, QThread::currentThread());
 }
 
-TEST_F(LogStoreTest, losesNoLineOfManyWriters)
-{
-    std::vector<std::thread> writers;
-    for (int writer = 0; writer < 4; ++writer)
-        writers.emplace_back([this, writer] {
-            for (int i = 0; i < 400; ++i) {
-                const auto line = QStringLiteral("%1 %2").arg(writer).arg(i);
-                if (i % 2 == 0)
-                    m_log.append(line);
-                else
-                    m_log.appendBlock(line.toUtf8() + '\n');
-            }
-        });
-    for (auto& writer : writers)
-        writer.join();
-    const auto lines = m_log.newest(2000);
-    ASSERT_EQ(lines.size(), 1600);
-    for (int writer = 0; writer < 4; ++writer) {
-        int next = 0;
-        for (const auto& line : lines) {
-            if (line == QStringLiteral("%1 %2").arg(writer).arg(next))
-                ++next;
-        }
-        EXPECT_EQ(next, 400) << "of writer " << writer;
-    }
-}
-
 TEST_F(LogStoreTest, takesABlockAsItsLines)
 {
     m_log.append(QStringLiteral("first"));
@@ -222,6 +195,34 @@ TEST_F(LogStoreTest, isWrittenToByItsCallback)
     callback.takeBlock("output\n");
     EXPECT_EQ(m_log.newest(10),
               (QStringList{QStringLiteral("a sentence"), QStringLiteral("output")}));
+}
+
+TEST(WritersOfTheLogStore, loseNoLine)
+{
+    LogStore log(2000, 50ms);
+    std::vector<std::thread> writers;
+    for (int writer = 0; writer < 4; ++writer)
+        writers.emplace_back([&log, writer] {
+            for (int i = 0; i < 400; ++i) {
+                const auto line = QStringLiteral("%1 %2").arg(writer).arg(i);
+                if (i % 2 == 0)
+                    log.append(line);
+                else
+                    log.appendBlock(line.toUtf8() + '\n');
+            }
+        });
+    for (auto& writer : writers)
+        writer.join();
+    const auto lines = log.newest(2000);
+    ASSERT_EQ(lines.size(), 1600);
+    for (int writer = 0; writer < 4; ++writer) {
+        int next = 0;
+        for (const auto& line : lines) {
+            if (line == QStringLiteral("%1 %2").arg(writer).arg(next))
+                ++next;
+        }
+        EXPECT_EQ(next, 400) << "of writer " << writer;
+    }
 }
 
 TEST(LogStore, thatIsGoneBeforeAPublicationIsNotPublished)
