@@ -7,10 +7,7 @@
 #include "Platform/PlatformError.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
-#include <cerrno>
-#include <cstdio>
 #include <utility>
 
 FileReceiver::FileReceiver(QUrl url, const QString& folder, const QString& name,
@@ -51,9 +48,8 @@ void FileReceiver::complete()
 {
     m_part->close();
     FileTree::remove(m_destination);
-    if (std::rename(QFile::encodeName(m_partPath).constData(),
-                    QFile::encodeName(m_destination).constData()) != 0)
-        throw PlatformError::fromErrno(PlatformError::tr("save “%1”").arg(m_destination), errno);
+    if (const auto error = FileTree::rename(m_partPath, m_destination); error != 0)
+        throw PlatformError::fromErrno(PlatformError::tr("save “%1”").arg(m_destination), error);
     m_part.reset();
     m_result.addResult(m_destination);
     m_result.finish();

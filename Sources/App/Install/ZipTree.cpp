@@ -2,6 +2,7 @@
 #include "Install/ZipTree.h"
 
 #include "Platform/Cancelled.h"
+#include "Platform/FolderListing.h"
 #include "Platform/PlatformError.h"
 
 #include <QFile>
@@ -19,13 +20,6 @@ namespace {
 
 constexpr mode_t executableMode = 0755;
 constexpr mode_t plainMode = 0644;
-
-bool isFolder(int base, const std::string& place)
-{
-    struct stat status = {};
-    return ::fstatat(base, place.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(status.st_mode);
-}
 
 } // namespace
 

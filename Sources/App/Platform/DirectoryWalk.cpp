@@ -2,12 +2,12 @@
 #include "Platform/DirectoryWalk.h"
 
 #include "Platform/FileDescriptor.h"
+#include "Platform/FolderListing.h"
 
 #include <QFile>
 
 #include <condition_variable>
 #include <iterator>
-#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -23,21 +23,6 @@
 namespace {
 
 using DirectoryWalk::Kind;
-
-struct CloseListing
-{
-    void operator()(DIR* listing) const { ::closedir(listing); }
-};
-using Listing = std::unique_ptr<DIR, CloseListing>;
-
-/// Takes over `folder`.
-Listing listingOf(FileDescriptor folder)
-{
-    Listing listing(::fdopendir(folder.get()));
-    if (listing)
-        std::ignore = folder.release();
-    return listing;
-}
 
 Kind kindByStatus(int folder, const char* name)
 {

@@ -34,7 +34,9 @@ bool isImpossible(int error)
 
 bool exchangePaths(const QString& first, const QString& second)
 {
-    if (exchange(QFile::encodeName(first).constData(), QFile::encodeName(second).constData()) == 0)
+    const auto a = QFile::encodeName(first);
+    const auto b = QFile::encodeName(second);
+    if (exchange(a.constData(), b.constData()) == 0)
         return true;
     const auto error = errno;
     if (isImpossible(error))

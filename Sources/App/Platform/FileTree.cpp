@@ -12,37 +12,28 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <tuple>
 
 #include <sys/stat.h>
 
 namespace {
 
-/// Not QFile::rename: it copies, slowly and in part, where the file systems differ.
-bool rename(const QString& from, const QString& to)
+void throwIfNotMoved(int error, const QString& from, const QString& to)
 {
-    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
-}
-
-void move(const QString& from, const QString& to)
-{
-    if (!rename(from, to))
-        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(from, to), errno);
+    if (error != 0)
+        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(from, to), error);
 }
 
 /// Leaves the old folder at `aside`, or on failure where it was.
 void replaceInTwoSteps(const QString& target, const QString& staging, const QString& aside)
 {
-    const auto isOldAside = rename(target, aside);
-    if (!isOldAside && errno != ENOENT)
-        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(target, aside),
-                                       errno);
-    try {
-        move(staging, target);
-    } catch (const PlatformError&) {
-        if (isOldAside)
-            rename(aside, target);
-        throw;
-    }
+    const auto error = FileTree::rename(target, aside);
+    if (error != ENOENT)
+        throwIfNotMoved(error, target, aside);
+    const auto finalError = FileTree::rename(staging, target);
+    if (finalError != 0 && error == 0)
+        std::ignore = FileTree::rename(aside, target);
+    throwIfNotMoved(finalError, staging, target);
 }
 
 } // namespace
@@ -51,6 +42,13 @@ bool FileTree::exists(const QString& path)
 {
     struct stat status = {};
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+int FileTree::rename(const QString& from, const QString& to) noexcept
+{
+    const auto old = QFile::encodeName(from);
+    const auto fresh = QFile::encodeName(to);
+    return std::rename(old.constData(), fresh.constData()) == 0 ? 0 : errno;
 }
 
 void FileTree::remove(const QString& path)
@@ -62,7 +60,7 @@ void FileTree::remove(const QString& path)
 
 void FileTree::removeAtOnce(const QString& path, const QString& aside)
 {
-    remove(rename(path, aside) ? aside : path);
+    remove(rename(path, aside) == 0 ? aside : path);
 }
 
 void FileTree::removeQuietly(const QString& path) noexcept
@@ -76,12 +74,11 @@ void FileTree::replace(const QString& target, const QString& staging, const QStr
     throwIfCancelled(stop);
     makeDurable(staging);
     throwIfCancelled(stop);
-    // The new folder stands then, and the old one has a staging name. A part of it that cannot be
-    // deleted is no reason to call the replacement failed.
     const auto isExchanged = exchangePaths(staging, target);
     if (!isExchanged)
         replaceInTwoSteps(target, staging, aside);
-    // The old one goes only when a power cut can no longer bring it back to its place.
+    // The new folder stands. The old one goes only when a power cut can no longer bring it back,
+    // and a part of it that cannot be deleted is no reason to call the replacement failed.
     makeNamesDurable(QFileInfo(target).path());
     removeQuietly(isExchanged ? staging : aside);
 }

@@ -12,6 +12,11 @@ namespace FileTree {
 /// Whether anything, a dangling symbolic link included, is at `path`.
 bool exists(const QString& path);
 
+/// Moves what is at `from` to `to` in one step; what is there is replaced if the system allows it.
+/// Gives the system's error number, 0 for success. Never copies, as QFile::rename does, slowly and
+/// in part, where the file systems differ.
+[[nodiscard]] int rename(const QString& from, const QString& to) noexcept;
+
 /// Removes the file, link or folder at `path` with everything in it. Nothing there is success.
 /// Throws PlatformError; what could be removed is then gone and the rest stays.
 void remove(const QString& path);

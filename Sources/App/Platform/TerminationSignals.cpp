@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/TerminationSignals.h"
 
+#include "Platform/Pipe.h"
+
 #include <QSocketNotifier>
 
 #include <array>
@@ -8,8 +10,8 @@
 #include <cerrno>
 #include <csignal>
 #include <tuple>
+#include <utility>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -43,15 +45,13 @@ void setHandler(int number, void (*handler)(int))
 
 TerminationSignals::TerminationSignals()
 {
-    std::array<int, 2> ends{-1, -1};
-    if (::pipe(ends.data()) != 0)
+    auto pipe = Pipe::make();
+    if (!pipe)
         return; // Without it, the signals end the program as they end any other.
-    m_readEnd = FileDescriptor(ends[0]);
-    m_writeEnd = FileDescriptor(ends[1]);
-    for (const auto end : ends) {
-        ::fcntl(end, F_SETFD, FD_CLOEXEC);
-        ::fcntl(end, F_SETFL, O_NONBLOCK);
-    }
+    m_readEnd = std::move(pipe->readEnd);
+    m_writeEnd = std::move(pipe->writeEnd);
+    makeNonBlocking(m_readEnd);
+    makeNonBlocking(m_writeEnd);
     m_notifier = std::make_unique<QSocketNotifier>(m_readEnd.get(), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &TerminationSignals::drain);
     wakeUpDescriptor = m_writeEnd.get();

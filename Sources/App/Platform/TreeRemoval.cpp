@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/TreeRemoval.h"
 
+#include "Platform/FolderListing.h"
 #include "Platform/PlatformError.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
-#include <memory>
 #include <string_view>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 #include <dirent.h>
@@ -31,11 +30,6 @@ constexpr auto searchOnly = O_PATH;
 #else
 constexpr auto searchOnly = O_SEARCH;
 #endif
-
-struct CloseListing
-{
-    void operator()(DIR* listing) const { ::closedir(listing); }
-};
 
 /// What tells the mount of `name` in `folder`, or with an empty name of `folder` itself, from
 /// others; where the system can, also from another mount of the same file system. Nothing when it
@@ -70,11 +64,9 @@ FileDescriptor openFolder(int parent, const char* name)
 
 std::vector<std::string> namesIn(int folder)
 {
-    FileDescriptor copy(openFolder(folder, "."));
-    const std::unique_ptr<DIR, CloseListing> listing(::fdopendir(copy.get()));
+    const auto listing = listingOf(openFolder(folder, "."));
     if (!listing)
         return {}; // The folder cannot be removed then, and that is reported.
-    std::ignore = copy.release();
     // All before the first is removed: not every file system lists a folder well that changes.
     std::vector<std::string> names;
     while (const auto* entry = ::readdir(listing.get())) {
@@ -95,13 +87,6 @@ bool unlock(int folder, const struct stat& status)
         return true;
     errno = error;
     return false;
-}
-
-bool isFolder(int parent, const std::string& name)
-{
-    struct stat status = {};
-    return ::fstatat(parent, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(status.st_mode);
 }
 
 } // namespace

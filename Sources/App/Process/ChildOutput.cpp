@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Process/ChildOutput.h"
 
+#include "Platform/Pipe.h"
 #include "Platform/PlatformError.h"
 
 #include <QSocketNotifier>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
+#include <utility>
 
-#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -24,15 +24,13 @@ ChildOutput::ChildOutput(LogCallback onLine)
     : m_onLine(std::move(onLine))
     , m_chunk(chunkSize)
 {
-    std::array<int, 2> ends = {};
-    if (::pipe(ends.data()) != 0)
+    auto pipe = Pipe::make();
+    if (!pipe)
         throw PlatformError::fromErrno(PlatformError::tr("create a pipe"), errno);
-    m_readEnd = FileDescriptor(ends[0]);
-    m_writeEnd = FileDescriptor(ends[1]);
-    ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
-    ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
-    ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
-    m_notifier = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
+    m_readEnd = std::move(pipe->readEnd);
+    m_writeEnd = std::move(pipe->writeEnd);
+    makeNonBlocking(m_readEnd);
+    m_notifier = std::make_unique<QSocketNotifier>(m_readEnd.get(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
         if (readAtMost(std::ssize(m_chunk)) == 0)
             m_notifier->setEnabled(false);
