@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Install/RepoDownloader.h"
 
+#include "Platform/FileTree.h"
 #include "Support/Eventually.h"
 #include "Support/InstallTest.h"
 #include "Support/UnchangeableScope.h"
@@ -31,6 +32,10 @@ protected:
     Outcome<QString> fetch()
     {
         return eventually(RepoDownloader::fetch(downloader, log(), stop.get_token()));
+    }
+    Outcome<QString> fetchWith(const RepoDownloader::Swap& swap)
+    {
+        return eventually(RepoDownloader::fetchWith(swap, downloader, log(), stop.get_token()));
     }
     void installOldGame() const { home.write(root(QStringLiteral("Game/old/project.godot"))); }
     void expectOldGame() const
@@ -154,6 +159,42 @@ TEST_F(RepoDownloaderTest, keepsAnOldGameThatCannotBeReplaced)
         outcome.sentence.endsWith(QStringLiteral(" and “%1”: Operation not permitted.").arg(game)))
         << outcome.sentence.toStdString();
     expectOldGame();
+}
+
+TEST_F(RepoDownloaderTest, keepsTheOldGameWhenTheNewOneCannotBeMoved)
+{
+    installOldGame();
+    serve(gameArchive());
+    const auto failing = [](const QString&, const QString&, const QString&,
+                            const std::stop_token&) {
+        throw PlatformError(QStringLiteral("Could not move it."));
+    };
+
+    const auto outcome = fetchWith(failing);
+
+    EXPECT_TRUE(outcome.isPlatformError);
+    EXPECT_EQ(outcome.sentence, QStringLiteral("Could not move it."));
+    expectOldGame();
+}
+
+TEST_F(RepoDownloaderTest, reportsAProjectThatIsGoneAfterTheMoveAndLeavesTheNewGame)
+{
+    installOldGame();
+    serve(gameArchive());
+    const auto losing = [](const QString& target, const QString& staging, const QString& aside,
+                           const std::stop_token& token) {
+        FileTree::replace(target, staging, aside, token);
+        FileTree::remove(target + QStringLiteral("/tetherwalk-master/project"));
+    };
+
+    const auto outcome = fetchWith(losing);
+
+    EXPECT_TRUE(outcome.isAppError);
+    EXPECT_EQ(outcome.sentence,
+              QStringLiteral("The game folder was unpacked but project.godot was not found."));
+    EXPECT_EQ(home.names(root(QStringLiteral("Game"))),
+              QStringList{QStringLiteral("tetherwalk-master")});
+    EXPECT_EQ(leftovers(), QStringList());
 }
 
 TEST_F(RepoDownloaderTest, reportsATemporaryFolderThatCannotBeMade)

@@ -16,6 +16,8 @@
 #include <QCoreApplication>
 #include <QCoroFuture>
 
+#include <utility>
+
 namespace {
 
 QString branch()
@@ -24,13 +26,14 @@ QString branch()
 }
 
 /// Swaps the unpacked game in, and gives its project's folder. Blocks.
-QString putInPlace(const QString& staging, const std::stop_token& stop)
+QString putInPlace(const RepoDownloader::Swap& swap, const QString& staging,
+                   const std::stop_token& stop)
 {
     if (!ProjectInspector::findProject(staging))
         throw AppError(QCoreApplication::translate(
             "RepoDownloader", "The downloaded game does not contain a project.godot file."));
     const auto game = Paths::game();
-    FileTree::replace(game, staging, Paths::newStagingFolder(game), stop);
+    swap(game, staging, Paths::newStagingFolder(game), stop);
     const auto project = ProjectInspector::findProject(game);
     if (!project)
         throw AppError(QCoreApplication::translate(
@@ -38,18 +41,19 @@ QString putInPlace(const QString& staging, const std::stop_token& stop)
     return *project;
 }
 
-QCoro::Task<QString> unpackAndPutInPlace(QString archive, QString staging, LogCallback log,
-                                         std::stop_token stop)
+QCoro::Task<QString> unpackAndPutInPlace(RepoDownloader::Swap swap, QString archive,
+                                         QString staging, LogCallback log, std::stop_token stop)
 {
     auto unpacking = Unzipper::unzip(archive, staging, log, stop);
     co_await unpacking;
-    const auto placing = offThread([=] { return putInPlace(staging, stop); });
+    const auto placing = offThread([=] { return putInPlace(swap, staging, stop); });
     const QString project = co_await placing;
     co_return project;
 }
 
-QCoro::Task<QString> fetchThrough(QString temporary, std::shared_ptr<FileDownloader> downloader,
-                                  LogCallback log, std::stop_token stop)
+QCoro::Task<QString> fetchThrough(QString temporary, RepoDownloader::Swap swap,
+                                  std::shared_ptr<FileDownloader> downloader, LogCallback log,
+                                  std::stop_token stop)
 {
     log(QStringLiteral("Downloading the game source from GitHub (branch %1)…").arg(branch()));
     const auto url = RepoDownloader::zipURL();
@@ -62,7 +66,7 @@ QCoro::Task<QString> fetchThrough(QString temporary, std::shared_ptr<FileDownloa
     const auto ensured = offThread([] { Paths::ensure(Paths::root()); });
     co_await ensured;
     const auto staging = Paths::newStagingFolder(Paths::game());
-    auto installing = finallyOffThread(unpackAndPutInPlace(archive, staging, log, stop),
+    auto installing = finallyOffThread(unpackAndPutInPlace(swap, archive, staging, log, stop),
                                        [staging] { FileTree::removeQuietly(staging); });
     const QString project = co_await installing;
     log(QStringLiteral("Game ready at %1").arg(project));
@@ -85,10 +89,17 @@ QUrl RepoDownloader::zipURL()
 QCoro::Task<QString> RepoDownloader::fetch(std::shared_ptr<FileDownloader> downloader,
                                            LogCallback log, std::stop_token stop)
 {
+    return fetchWith(FileTree::replace, std::move(downloader), std::move(log), std::move(stop));
+}
+
+QCoro::Task<QString> RepoDownloader::fetchWith(Swap swap,
+                                               std::shared_ptr<FileDownloader> downloader,
+                                               LogCallback log, std::stop_token stop)
+{
     const auto created =
         offThread([] { return std::make_shared<TemporaryFolder>(Paths::newTempDir()); });
     const std::shared_ptr<TemporaryFolder> temporary = co_await created;
-    auto fetching = finallyOffThread(fetchThrough(temporary->path(), downloader, log, stop),
+    auto fetching = finallyOffThread(fetchThrough(temporary->path(), swap, downloader, log, stop),
                                      [temporary] { temporary->remove(); });
     const QString project = co_await fetching;
     co_return project;

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 #include <stop_token>
 
@@ -24,5 +25,13 @@ QUrl zipURL();
 /// when `stop` is requested before the swap. Main thread; blocks nothing.
 QCoro::Task<QString> fetch(std::shared_ptr<FileDownloader> downloader, LogCallback log,
                            std::stop_token stop);
+
+/// Puts `staging` in the place of `target`, as FileTree::replace() does.
+using Swap = std::function<void(const QString& target, const QString& staging, const QString& aside,
+                                const std::stop_token& stop)>;
+
+/// The same with the given swap, which runs on the thread pool.
+QCoro::Task<QString> fetchWith(Swap swap, std::shared_ptr<FileDownloader> downloader,
+                               LogCallback log, std::stop_token stop);
 
 } // namespace RepoDownloader
