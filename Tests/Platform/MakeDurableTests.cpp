@@ -60,6 +60,19 @@ TEST_F(MakeDurableTest, reportsWhatTheDiskCouldNotKeep)
               failure(QStringLiteral("Input/output error")));
 }
 
+TEST_F(MakeDurableTest, asksNoMoreOfAFileSystemThanItKnows)
+{
+    m_folder.write(QStringLiteral("file"));
+    for (const auto error : {ENOSYS, EINVAL, EOPNOTSUPP}) {
+        EXPECT_EQ(sentenceWithout(SYS_syncfs, static_cast<unsigned>(error),
+                                  [this] { makeDurable(m_folder.path()); }),
+                  QString());
+        EXPECT_EQ(sentenceWithout(SYS_fsync, static_cast<unsigned>(error),
+                                  [this] { makeEachDurable(m_folder.path()); }),
+                  QString());
+    }
+}
+
 TEST_F(MakeDurableTest, reportsAFileThatCannotBeWrittenToTheDisk)
 {
     m_folder.write(QStringLiteral("readable"));

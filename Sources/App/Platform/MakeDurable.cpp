@@ -25,21 +25,34 @@ FileDescriptor openFolder(const QString& path)
     throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
 }
 
-/// The error of writing one entry to the disk; 0 for none.
+/// Whether the system or the file system knows no such request. What is written there is as durable
+/// as it will ever be, which is no reason to refuse it.
+bool isImpossible(int error)
+{
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == ENOTSUP;
+}
+
+/// The error of writing an open file or folder to the disk; 0 for none.
+int write(const FileDescriptor& file)
+{
+    return ::fsync(file.get()) == 0 || isImpossible(errno) ? 0 : errno;
+}
+
+/// The same for an entry of a folder.
 int writeEntry(const DirectoryWalk::Entry& entry)
 {
     if (entry.kind == DirectoryWalk::Kind::Other)
         return 0; // A link lies in its folder, which is written itself.
     const FileDescriptor file(
         ::openat(entry.folder, entry.name.data(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    return file.isOpen() && ::fsync(file.get()) == 0 ? 0 : errno;
+    return file.isOpen() ? write(file) : errno;
 }
 
 /// Has the drive, too, write what it holds in its own memory, where fsync() does not include that.
 bool emptyDriveCache([[maybe_unused]] const FileDescriptor& file)
 {
 #if defined(F_FULLFSYNC)
-    return ::fcntl(file.get(), F_FULLFSYNC) == 0 || errno == ENOTSUP || errno == EINVAL;
+    return ::fcntl(file.get(), F_FULLFSYNC) == 0 || isImpossible(errno);
 #else
     return true;
 #endif
@@ -53,7 +66,7 @@ void makeDurable(const QString& path)
     // The whole file system at once: for the many small files of a game this takes a tenth of the
     // time that one call for each of them does.
     const auto folder = openFolder(path);
-    if (!folder.isOpen() || ::syncfs(folder.get()) != 0)
+    if (!folder.isOpen() || (::syncfs(folder.get()) != 0 && !isImpossible(errno)))
         throwNotWritten(path, errno);
 #else
     makeEachDurable(path);
@@ -63,16 +76,16 @@ void makeDurable(const QString& path)
 void makeEachDurable(const QString& path)
 {
     int error = 0;
-    const auto write = [&error](const DirectoryWalk::Entry& entry) {
+    const auto writeNext = [&error](const DirectoryWalk::Entry& entry) {
         const auto entryError = writeEntry(entry);
         if (error == 0)
             error = entryError;
     };
-    DirectoryWalk::walk(path, DirectoryWalk::Hidden::Include, {}, write);
+    DirectoryWalk::walk(path, DirectoryWalk::Hidden::Include, {}, writeNext);
     if (error != 0)
         throwNotWritten(path, error);
     const auto folder = openFolder(path);
-    if (!folder.isOpen() || ::fsync(folder.get()) != 0 || !emptyDriveCache(folder))
+    if (!folder.isOpen() || write(folder) != 0 || !emptyDriveCache(folder))
         throwNotWritten(path, errno);
 }
 

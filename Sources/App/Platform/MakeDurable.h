@@ -7,7 +7,8 @@
 /// a power cut. A file system may otherwise commit a later rename before the content of the files.
 ///
 /// Blocks, for as long as the disk takes, and so belongs off the main thread. Throws PlatformError
-/// when the folder cannot be opened or the disk could not keep what was written.
+/// when the folder cannot be opened or the disk could not keep what was written. A file system that
+/// knows no such request is taken at its word.
 void makeDurable(const QString& path);
 
 /// The same file by file, for systems that know no other way. Links are not followed. It goes on to
