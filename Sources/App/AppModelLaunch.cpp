@@ -39,7 +39,7 @@ QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
     startUpWatch.start(m_durations.startUpWatch);
 
     m_runner.process =
-        std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::MayOutliveLauncher,
+        std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::mayOutliveLauncher,
                                          m_durations.killGrace, m_session.descriptor());
     const auto forget = qScopeGuard([this] { m_runner.process.reset(); });
     const auto run = m_runner.process->run(engine, arguments, m_log.callback());

@@ -135,14 +135,14 @@ int CavernyxPlatformerApp::run()
     auto& lock = session(); // It makes the folder that the address is derived from.
     SingleInstance instance(lock, SingleInstance::addressOf(sessionLockFile()));
     switch (instance.start(m_activationToken)) {
-    case SingleInstance::Start::First: {
+    case SingleInstance::Start::first: {
         const auto status = runFirst(instance);
         leaveInstallation();
         return status;
     }
-    case SingleInstance::Start::HandedOver:
+    case SingleInstance::Start::handedOver:
         return EXIT_SUCCESS;
-    case SingleInstance::Start::NoAnswer:
+    case SingleInstance::Start::noAnswer:
         sayThatAnotherDoesNotAnswer();
         return EXIT_FAILURE;
     }

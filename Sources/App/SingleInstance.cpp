@@ -73,13 +73,13 @@ SingleInstance::Start SingleInstance::start(const QByteArray& activationToken,
     const QDeadlineTimer deadline(patience);
     while (!m_lock.claim()) {
         if (handOver(activationToken, deadline))
-            return Start::HandedOver;
+            return Start::handedOver;
         if (deadline.hasExpired())
-            return Start::NoAnswer;
+            return Start::noAnswer;
         std::this_thread::sleep_for(retryInterval);
     }
     listen();
-    return Start::First;
+    return Start::first;
 }
 
 bool SingleInstance::handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline)

@@ -24,11 +24,11 @@ public:
     /// What a start comes to.
     enum class Start {
         /// This is the launcher.
-        First,
+        first,
         /// Another launcher has come to the front instead.
-        HandedOver,
+        handedOver,
         /// Another launcher holds the lock and did not answer.
-        NoAnswer,
+        noAnswer,
     };
 
     /// `lock` must outlive this. `name` tells installations apart, see addressOf().

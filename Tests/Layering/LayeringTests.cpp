@@ -42,30 +42,30 @@ Includes readIncludes(const QString& sources)
 
 /// The layers from the lowest up. Each may use itself and those below it, so no circle of folders
 /// can pass.
-enum class Layer { Leaf, Project, Process, Install, Model, Views, Shell };
+enum class Layer { leaf, project, process, install, model, views, shell };
 
 /// What lies beside the folders is the model, or the shell where it uses the views.
 Layer layerOf(const QString& file, const Includes& includes)
 {
-    static const QMap<QString, Layer> folders{{QStringLiteral("Platform"), Layer::Leaf},
-                                              {QStringLiteral("Project"), Layer::Project},
-                                              {QStringLiteral("Process"), Layer::Process},
-                                              {QStringLiteral("Install"), Layer::Install},
-                                              {QStringLiteral("Views"), Layer::Views}};
+    static const QMap<QString, Layer> folders{{QStringLiteral("Platform"), Layer::leaf},
+                                              {QStringLiteral("Project"), Layer::project},
+                                              {QStringLiteral("Process"), Layer::process},
+                                              {QStringLiteral("Install"), Layer::install},
+                                              {QStringLiteral("Views"), Layer::views}};
     static const QStringList leaves{QStringLiteral("AppError.h"), QStringLiteral("Durations.h")};
     if (file.contains(u'/'))
-        return folders.value(file.section(u'/', 0, 0), Layer::Shell);
+        return folders.value(file.section(u'/', 0, 0), Layer::shell);
     if (leaves.contains(file))
-        return Layer::Leaf;
+        return Layer::leaf;
     if (file == QLatin1String("main.cpp"))
-        return Layer::Shell;
+        return Layer::shell;
     // A header and its source are one: the source says what the header leaves out.
     const auto name = QFileInfo(file).baseName();
     const auto own =
         includes.value(name + QStringLiteral(".h")) + includes.value(name + QStringLiteral(".cpp"));
     const auto usesViews = std::ranges::any_of(
         own, [](const QString& included) { return included.startsWith(u"Views/"); });
-    return usesViews ? Layer::Shell : Layer::Model;
+    return usesViews ? Layer::shell : Layer::model;
 }
 
 /// Every include that points upwards or at nothing, as "<file> includes <file>".

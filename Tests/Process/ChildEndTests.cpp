@@ -69,7 +69,7 @@ TEST_F(EndOfAChild, isLeftToTheChildItselfAtFirst)
 
 TEST_F(EndOfAChild, isForcedOnOneThatIgnoresThePoliteRequestAndOnItsWholeGroup)
 {
-    ManagedProcess stubborn(ManagedProcess::Lifetime::EndsWithLauncher, 100ms);
+    ManagedProcess stubborn(ManagedProcess::Lifetime::endsWithLauncher, 100ms);
     auto run =
         stubborn.run(QStringLiteral("/bin/sh"),
                      shell("trap '' TERM; sleep 600 & echo $!; wait; while :; do sleep 600; done"),

@@ -13,8 +13,8 @@ int main(int argumentCount, char** arguments)
     QCoreApplication application(argumentCount, arguments);
     auto programAndArguments = QCoreApplication::arguments().sliced(1);
     const auto lifetime = programAndArguments.takeFirst() == QLatin1String("ends")
-                              ? ManagedProcess::Lifetime::EndsWithLauncher
-                              : ManagedProcess::Lifetime::MayOutliveLauncher;
+                              ? ManagedProcess::Lifetime::endsWithLauncher
+                              : ManagedProcess::Lifetime::mayOutliveLauncher;
     const auto program = programAndArguments.takeFirst();
 
     ManagedProcess process(lifetime);

@@ -130,7 +130,7 @@ TEST_F(StartOfAChild, leavesBrokenPipesDeadlyToATool)
 
 TEST_F(StartOfAChild, sparesTheGameFromBrokenPipes)
 {
-    ManagedProcess game(ManagedProcess::Lifetime::MayOutliveLauncher);
+    ManagedProcess game(ManagedProcess::Lifetime::mayOutliveLauncher);
     await(game.run(QStringLiteral("/bin/sh"), shell("grep SigIgn /proc/self/status"),
                    m_output.callback()));
     ASSERT_EQ(lines().size(), 1);

@@ -33,5 +33,5 @@ protected:
 
     CollectedLines m_output;
     // The grace is longer than any test: a child that ends because it was killed fails it.
-    ManagedProcess m_process{ManagedProcess::Lifetime::EndsWithLauncher, std::chrono::minutes{10}};
+    ManagedProcess m_process{ManagedProcess::Lifetime::endsWithLauncher, std::chrono::minutes{10}};
 };

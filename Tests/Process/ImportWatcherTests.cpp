@@ -34,7 +34,7 @@ struct Watch
             const auto step = watcher.next(count, elapsed);
             log += step.log;
             ++polls;
-            if (step.verdict == Verdict::End) {
+            if (step.verdict == Verdict::end) {
                 hasEnded = true;
                 break;
             }
@@ -77,18 +77,18 @@ TEST(ImportWatcher, beginsAnewWhenSomethingIsMissingAgain)
 TEST(ImportWatcher, needsTheWholeTimeBetweenTheFirstAndTheLastZero)
 {
     ImportWatcher watcher(4s, 900s);
-    EXPECT_EQ(watcher.next(0, 2000ms).verdict, Verdict::GoOn);
-    EXPECT_EQ(watcher.next(0, 5999ms).verdict, Verdict::GoOn);
-    EXPECT_EQ(watcher.next(0, 6000ms).verdict, Verdict::End);
+    EXPECT_EQ(watcher.next(0, 2000ms).verdict, Verdict::goOn);
+    EXPECT_EQ(watcher.next(0, 5999ms).verdict, Verdict::goOn);
+    EXPECT_EQ(watcher.next(0, 6000ms).verdict, Verdict::end);
 }
 
 TEST(ImportWatcher, givesUpAtTheFirstLookAfterTheLimit)
 {
     ImportWatcher watcher(4s, 900s);
-    EXPECT_EQ(watcher.next(7, 898s).verdict, Verdict::GoOn);
-    EXPECT_EQ(watcher.next(7, 900s).verdict, Verdict::GoOn);
+    EXPECT_EQ(watcher.next(7, 898s).verdict, Verdict::goOn);
+    EXPECT_EQ(watcher.next(7, 900s).verdict, Verdict::goOn);
     const auto step = watcher.next(7, 902s);
-    EXPECT_EQ(step.verdict, Verdict::End);
+    EXPECT_EQ(step.verdict, Verdict::end);
     EXPECT_EQ(step.log, QStringList{tooLong()});
 }
 

@@ -36,13 +36,13 @@ int main(int argumentCount, char** arguments)
     std::fputs("begins\n", stderr);
     const std::chrono::milliseconds patience(QByteArray(arguments[3]).toInt());
     switch (instance.start(arguments[2], patience)) {
-    case SingleInstance::Start::HandedOver:
+    case SingleInstance::Start::handedOver:
         say("handed over");
         return 0;
-    case SingleInstance::Start::NoAnswer:
+    case SingleInstance::Start::noAnswer:
         say("no answer");
         return 0;
-    case SingleInstance::Start::First:
+    case SingleInstance::Start::first:
         say("first");
     }
     QSocketNotifier orders(STDIN_FILENO, QSocketNotifier::Read);

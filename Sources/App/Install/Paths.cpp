@@ -41,7 +41,7 @@ qint64 allocatedSize(const DirectoryWalk::Entry& entry)
 {
     constexpr qint64 blockSize = 512; // whatever the file system's own block size is
     struct stat status = {};
-    if (entry.kind != DirectoryWalk::Kind::RegularFile ||
+    if (entry.kind != DirectoryWalk::Kind::regularFile ||
         ::fstatat(entry.folder, entry.name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
         !S_ISREG(status.st_mode))
         return 0;
@@ -113,6 +113,6 @@ qint64 Paths::size(const QString& path, const std::stop_token& stop)
         return [&sum](const DirectoryWalk::Entry& entry) { sum += allocatedSize(entry); };
     };
     const std::array<DirectoryWalk::Visit, 2> visitors{addTo(sums[0]), addTo(sums[1])};
-    DirectoryWalk::walkTogether(path, DirectoryWalk::Hidden::Include, stop, visitors);
+    DirectoryWalk::walkTogether(path, DirectoryWalk::Hidden::include, stop, visitors);
     return sums[0] + sums[1];
 }

@@ -7,11 +7,11 @@
 /// One entry of a zip archive as its headers describe it. Nothing of it has been checked.
 struct ZipEntry
 {
-    enum class Kind { File, Folder, Link, Other };
+    enum class Kind { file, folder, link, other };
 
     /// The name as the file system would spell it.
     QByteArray name;
-    Kind kind = Kind::Other;
+    Kind kind = Kind::other;
     bool executable = false;
     bool setsUserOrGroup = false;
     bool encrypted = false;

@@ -60,16 +60,16 @@ void unpack(const QString& archive, ZipTree& tree, const std::stop_token& stop)
         throwIfCancelled(stop);
         const auto place = ZipVetting::placeOf(*entry);
         switch (entry->kind) {
-        case ZipEntry::Kind::File:
+        case ZipEntry::Kind::file:
             unpackFile(reader, *entry, tree.makeFile(place, entry->executable), stop);
             break;
-        case ZipEntry::Kind::Folder:
+        case ZipEntry::Kind::folder:
             tree.makeFolder(place.toStdString());
             break;
-        case ZipEntry::Kind::Link:
+        case ZipEntry::Kind::link:
             tree.addLink(place, entry->target);
             break;
-        case ZipEntry::Kind::Other:
+        case ZipEntry::Kind::other:
             break;
         }
     }

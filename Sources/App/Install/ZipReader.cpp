@@ -18,13 +18,13 @@ ZipEntry::Kind kindOf(archive_entry* entry)
 {
     switch (archive_entry_filetype(entry)) {
     case AE_IFREG:
-        return archive_entry_hardlink(entry) ? ZipEntry::Kind::Other : ZipEntry::Kind::File;
+        return archive_entry_hardlink(entry) ? ZipEntry::Kind::other : ZipEntry::Kind::file;
     case AE_IFDIR:
-        return ZipEntry::Kind::Folder;
+        return ZipEntry::Kind::folder;
     case AE_IFLNK:
-        return ZipEntry::Kind::Link;
+        return ZipEntry::Kind::link;
     default:
-        return ZipEntry::Kind::Other;
+        return ZipEntry::Kind::other;
     }
 }
 
@@ -39,7 +39,7 @@ ZipEntry entryFrom(archive_entry* source)
     entry.encrypted = archive_entry_is_encrypted(source) != 0;
     if (archive_entry_size_is_set(source))
         entry.size = archive_entry_size(source);
-    if (entry.kind == ZipEntry::Kind::Link)
+    if (entry.kind == ZipEntry::Kind::link)
         entry.target = archive_entry_symlink(source);
     return entry;
 }
@@ -86,7 +86,7 @@ void ZipReader::correct(ZipEntry& entry)
 {
     const auto& stored = m_directory[m_position++];
     if ((stored.mode & S_IFMT) == S_IFIFO)
-        entry.kind = ZipEntry::Kind::Other;
+        entry.kind = ZipEntry::Kind::other;
     // Otherwise the library knows better, e.g. from a field that has the name in Unicode.
     if (stored.name.contains('\0') || sameText(stored.name, entry.name))
         entry.name = stored.name;

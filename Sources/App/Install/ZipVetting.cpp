@@ -58,16 +58,16 @@ std::string folderOf(const std::string& place)
 
 void ZipVetting::add(const ZipEntry& entry)
 {
-    if (entry.kind == ZipEntry::Kind::Other)
+    if (entry.kind == ZipEntry::Kind::other)
         throw refusal(entry, QStringLiteral("is neither a file nor a folder nor a link"));
     if (entry.encrypted)
         throw refusal(entry, QStringLiteral("is encrypted"));
     if (entry.setsUserOrGroup)
         throw refusal(entry, QStringLiteral("would run with another user's rights"));
     const auto place = placeOf(entry).toStdString();
-    if (place.empty() && entry.kind != ZipEntry::Kind::Folder)
+    if (place.empty() && entry.kind != ZipEntry::Kind::folder)
         throw refusal(entry, QStringLiteral("has no name"));
-    if (entry.kind == ZipEntry::Kind::Link &&
+    if (entry.kind == ZipEntry::Kind::link &&
         (entry.target.isEmpty() || entry.target.size() > longestName))
         throw refusal(entry, QStringLiteral("leads nowhere"));
     addSize(entry);
@@ -101,7 +101,7 @@ QByteArray ZipVetting::placeOf(const ZipEntry& entry)
 
 void ZipVetting::addSize(const ZipEntry& entry)
 {
-    if (entry.kind != ZipEntry::Kind::File)
+    if (entry.kind != ZipEntry::Kind::file)
         return;
     if (entry.size < 0 || entry.size > std::numeric_limits<qint64>::max() - m_totalSize)
         throw refusal(entry, QStringLiteral("does not tell its size"));
@@ -112,7 +112,7 @@ void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& place
 {
     for (auto folder = folderOf(place); !folder.empty(); folder = folderOf(folder)) {
         const auto [known, isNew] = m_places.try_emplace(folder);
-        if (known->second.kind != ZipEntry::Kind::Folder)
+        if (known->second.kind != ZipEntry::Kind::folder)
             throw refusal(entry, QStringLiteral("would lie below a file or a link"));
         if (!isNew)
             return;
@@ -130,7 +130,7 @@ void ZipVetting::countPlace(std::size_t bytes)
 void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
 {
     const auto [known, isNew] = m_places.try_emplace(place);
-    if (!isNew && (known->second.hasOwnEntry || entry.kind != ZipEntry::Kind::Folder))
+    if (!isNew && (known->second.hasOwnEntry || entry.kind != ZipEntry::Kind::folder))
         throw refusal(entry, QStringLiteral("occurs twice"));
     known->second = {entry.kind, true, entry.target.toStdString()};
     countPlace(place.size() + known->second.target.size());
@@ -139,7 +139,7 @@ void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
 void ZipVetting::checkLinks(const std::stop_token& stop) const
 {
     for (const auto& [place, what] : m_places) {
-        if (what.kind != ZipEntry::Kind::Link)
+        if (what.kind != ZipEntry::Kind::link)
             continue;
         checkLink(place, stop);
     }
@@ -176,7 +176,7 @@ void ZipVetting::checkLink(const std::string& link, const std::stop_token& stop)
         if (next.size() > static_cast<std::size_t>(longestName))
             refuse(QStringLiteral("leads along too long a path"));
         const auto known = m_places.find(next);
-        if (known == m_places.end() || known->second.kind != ZipEntry::Kind::Link) {
+        if (known == m_places.end() || known->second.kind != ZipEntry::Kind::link) {
             here = std::move(next);
             continue;
         }

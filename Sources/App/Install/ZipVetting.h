@@ -39,7 +39,7 @@ private:
     /// What stands at a place; a folder is also one that only the names of others imply.
     struct Place
     {
-        ZipEntry::Kind kind = ZipEntry::Kind::Folder;
+        ZipEntry::Kind kind = ZipEntry::Kind::folder;
         bool hasOwnEntry = false;
         std::string target;
     };

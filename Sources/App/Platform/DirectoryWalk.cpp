@@ -28,23 +28,23 @@ Kind kindByStatus(int folder, const char* name)
 {
     struct stat status = {};
     if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return Kind::Other;
-    return S_ISREG(status.st_mode)   ? Kind::RegularFile
-           : S_ISDIR(status.st_mode) ? Kind::Folder
-                                     : Kind::Other;
+        return Kind::other;
+    return S_ISREG(status.st_mode)   ? Kind::regularFile
+           : S_ISDIR(status.st_mode) ? Kind::folder
+                                     : Kind::other;
 }
 
 Kind kindOf(int folder, const dirent& entry)
 {
     switch (entry.d_type) {
     case DT_REG:
-        return Kind::RegularFile;
+        return Kind::regularFile;
     case DT_DIR:
-        return Kind::Folder;
+        return Kind::folder;
     case DT_UNKNOWN: // Some file systems do not say.
         return kindByStatus(folder, entry.d_name);
     default:
-        return Kind::Other;
+        return Kind::other;
     }
 }
 
@@ -52,7 +52,7 @@ bool isSkipped(std::string_view name, DirectoryWalk::Hidden hidden)
 {
     if (!name.starts_with('.'))
         return false;
-    return hidden == DirectoryWalk::Hidden::Skip || name == "." || name == "..";
+    return hidden == DirectoryWalk::Hidden::skip || name == "." || name == "..";
 }
 
 /// Opens the folder at the path `place` from `root`.
@@ -132,7 +132,7 @@ private:
                 break;
             const auto kind = kindOf(descriptor, *entry);
             visit({descriptor, name, kind});
-            if (kind == Kind::Folder)
+            if (kind == Kind::folder)
                 found.push_back(folder + '/' + entry->d_name);
         }
         return found;

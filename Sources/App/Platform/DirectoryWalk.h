@@ -17,9 +17,9 @@
 namespace DirectoryWalk {
 
 /// Whether entries whose name begins with a dot, and what is below them, are met.
-enum class Hidden { Include, Skip };
+enum class Hidden { include, skip };
 
-enum class Kind { RegularFile, Folder, Other };
+enum class Kind { regularFile, folder, other };
 
 /// One entry, valid only while it is visited.
 struct Entry
@@ -28,7 +28,7 @@ struct Entry
     int folder = -1;
     /// Its name there as the file system has it; a null byte follows.
     std::string_view name;
-    Kind kind = Kind::Other;
+    Kind kind = Kind::other;
 };
 
 using Visit = std::function<void(const Entry&)>;

@@ -41,7 +41,7 @@ int write(const FileDescriptor& file)
 /// The same for an entry of a folder.
 int writeEntry(const DirectoryWalk::Entry& entry)
 {
-    if (entry.kind == DirectoryWalk::Kind::Other)
+    if (entry.kind == DirectoryWalk::Kind::other)
         return 0; // A link lies in its folder, which is written itself.
     const FileDescriptor file(
         ::openat(entry.folder, entry.name.data(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -81,7 +81,7 @@ void makeEachDurable(const QString& path)
         if (error == 0)
             error = entryError;
     };
-    DirectoryWalk::walk(path, DirectoryWalk::Hidden::Include, {}, writeNext);
+    DirectoryWalk::walk(path, DirectoryWalk::Hidden::include, {}, writeNext);
     if (error != 0)
         throwNotWritten(path, error);
     const auto folder = openFolder(path);

@@ -15,7 +15,7 @@
 namespace {
 
 /// Each locks a byte of its own, none of which has to be in the file.
-enum class Role : off_t { Launcher = 0, Game = 1 };
+enum class Role : off_t { launcher = 0, game = 1 };
 
 struct flock lockOf(Role role)
 {
@@ -66,7 +66,7 @@ void SessionLock::open()
 bool SessionLock::claim()
 {
     while (!m_isClaimed && m_file.isOpen()) {
-        if (!tryLock(m_file.get(), Role::Launcher))
+        if (!tryLock(m_file.get(), Role::launcher))
             return errno != EACCES && errno != EAGAIN;
         m_isClaimed = isStillThere();
         if (!m_isClaimed)
@@ -86,7 +86,7 @@ bool SessionLock::isStillThere() const
 
 bool SessionLock::isGameRunning() const
 {
-    auto lock = lockOf(Role::Game);
+    auto lock = lockOf(Role::game);
     return m_file.isOpen() && ::fcntl(m_file.get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
 }
 
@@ -94,5 +94,5 @@ void SessionLock::holdAsGame(int descriptor) noexcept
 {
     // Under another number it would be open twice, and the end of one would end the lock.
     if (::fcntl(descriptor, F_SETFD, 0) == 0)
-        std::ignore = tryLock(descriptor, Role::Game);
+        std::ignore = tryLock(descriptor, Role::game);
 }

@@ -106,7 +106,7 @@ void ChildProcess::setUpProcess()
         ChildSetup::sendOutputTo(output);
         ChildSetup::withholdOtherDescriptors();
         ChildSetup::unblockSignals();
-        if (lifetime == ManagedProcess::Lifetime::EndsWithLauncher)
+        if (lifetime == ManagedProcess::Lifetime::endsWithLauncher)
             ChildSetup::endWithParent(parent);
         else
             ChildSetup::ignoreBrokenPipes();

@@ -48,7 +48,7 @@ QCoro::Task<> watchImport(QString project, LogCallback log, std::shared_ptr<Mana
         const auto step = watcher.next(count, milliseconds(clock.elapsed()));
         for (const auto& line : step.log)
             log(line);
-        if (step.verdict == ImportWatcher::Verdict::End) {
+        if (step.verdict == ImportWatcher::Verdict::end) {
             child->terminate();
             break;
         }
@@ -76,7 +76,7 @@ QStringList GameRunner::playArguments(const QString& project, bool fullscreen,
 QCoro::Task<int> GameRunner::runImport(QString engine, QString project, milliseconds timeout,
                                        LogCallback log)
 {
-    const auto child = std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::EndsWithLauncher,
+    const auto child = std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::endsWithLauncher,
                                                         m_durations.killGrace);
     process = child;
     // No argument tells the engine to quit: it ends by itself or because the watcher says so.

@@ -15,10 +15,10 @@ ImportWatcher::Step ImportWatcher::next(int count, std::chrono::milliseconds ela
     m_lastCount = count;
     if (isSettled(count, elapsed)) {
         step.log.append(QStringLiteral("All assets imported, closing the setup run."));
-        step.verdict = Verdict::End;
+        step.verdict = Verdict::end;
     } else if (elapsed > m_limit) {
         step.log.append(QStringLiteral("Setup took too long, stopping it."));
-        step.verdict = Verdict::End;
+        step.verdict = Verdict::end;
     }
     return step;
 }

@@ -13,14 +13,14 @@ class ImportWatcher final
 public:
     enum class Verdict {
         /// The run goes on, to be looked at again.
-        GoOn,
+        goOn,
         /// The run is to be ended, its work being done or its time being over.
-        End
+        end
     };
 
     struct Step
     {
-        Verdict verdict = Verdict::GoOn;
+        Verdict verdict = Verdict::goOn;
         /// What the log is to say, in order.
         QStringList log;
     };

@@ -22,12 +22,12 @@ class ManagedProcess final
 {
 public:
     /// Whether the child ends with the launcher, however the launcher ends, or may outlive it.
-    enum class Lifetime { EndsWithLauncher, MayOutliveLauncher };
+    enum class Lifetime { endsWithLauncher, mayOutliveLauncher };
 
     /// `killGrace` is the time from the polite request to stop to the kill. With the descriptor of
     /// a SessionLock, which must stay open until the child has started, the child counts as the
     /// running game.
-    explicit ManagedProcess(Lifetime lifetime = Lifetime::EndsWithLauncher,
+    explicit ManagedProcess(Lifetime lifetime = Lifetime::endsWithLauncher,
                             std::chrono::milliseconds killGrace = Durations().killGrace,
                             int sessionLock = -1);
     /// Leaves a child that still runs to its end, and its future with it.

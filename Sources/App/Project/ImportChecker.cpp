@@ -160,7 +160,7 @@ int ImportChecker::missingCount(const QString& project, const std::stop_token& s
 {
     Check check(project);
     int count = 0;
-    DirectoryWalk::walk(project, DirectoryWalk::Hidden::Skip, stop,
+    DirectoryWalk::walk(project, DirectoryWalk::Hidden::skip, stop,
                         [&](const DirectoryWalk::Entry& entry) {
                             if (isImportable(entry.name) && !stop.stop_requested() &&
                                 check.isMissing(entry.folder, entry.name))
