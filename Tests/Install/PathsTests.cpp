@@ -5,6 +5,7 @@
 #include "Platform/FileTree.h"
 #include "Platform/HostPlatform.h"
 #include "Platform/PlatformError.h"
+#include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +17,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -170,13 +170,10 @@ TEST(PathsSize, passesOverAFolderThatCannotBeRead)
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
     ASSERT_EQ(::chmod(locked.constData(), 0), 0);
     // The administrator may read everything, so an ordinary user measures.
-    const auto child = ::fork();
-    if (child == 0) {
+    const auto status = inAnotherProcess([&] {
         const auto isOrdinary = ::getuid() != 0 || ::setuid(65534) == 0;
-        ::_exit(isOrdinary && Paths::size(folder.path()) == expected ? 0 : 1);
-    }
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
+        return isOrdinary && Paths::size(folder.path()) == expected ? 0 : 1;
+    });
     EXPECT_EQ(status, 0);
     ::chmod(locked.constData(), 0755);
 }

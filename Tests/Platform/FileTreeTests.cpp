@@ -4,6 +4,7 @@
 #include "Platform/Cancelled.h"
 #include "Platform/ExchangePaths.h"
 #include "Platform/PlatformError.h"
+#include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
 #include "Support/UnchangeableScope.h"
 
@@ -17,7 +18,6 @@
 #include <stop_token>
 
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #if defined(Q_OS_LINUX)
 #include "Support/WithoutSystemCall.h"
@@ -71,24 +71,20 @@ TEST_F(FileTreeTest, saysInASentenceWhatCannotBeRemoved)
         GTEST_SKIP() << "Only the administrator can make files that are somebody else's.";
     m_folder.write(QStringLiteral("Game/file"));
     ASSERT_EQ(::chmod(QFile::encodeName(m_folder.path()).constData(), 0755), 0);
-    const auto child = ::fork();
-    if (child == 0) {
+    const auto status = inAnotherProcess([this] {
         if (::setuid(65534) != 0)
-            ::_exit(2);
+            return 2;
         FileTree::removeQuietly(m_target);
         try {
             FileTree::remove(m_target);
         } catch (const PlatformError& error) {
-            ::_exit(
-                error.message() ==
-                        QStringLiteral("Could not remove “%1”: Permission denied.").arg(m_target)
-                    ? 0
-                    : 3);
+            return error.message() ==
+                           QStringLiteral("Could not remove “%1”: Permission denied.").arg(m_target)
+                       ? 0
+                       : 3;
         }
-        ::_exit(4);
-    }
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
+        return 4;
+    });
     EXPECT_EQ(status, 0);
     EXPECT_TRUE(m_folder.exists(QStringLiteral("Game/file")));
 }

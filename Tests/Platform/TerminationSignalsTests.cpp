@@ -2,15 +2,13 @@
 #include "Platform/TerminationSignals.h"
 
 #include "Support/Await.h"
+#include "Support/InAnotherProcess.h"
 
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
 
 #include <csignal>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -31,33 +29,25 @@ TEST_P(TerminationSignal, isReceivedInsteadOfEndingTheProgram)
 
 TEST_P(TerminationSignal, endsTheProgramAgainAfterwards)
 {
-    const auto child = ::fork();
-    if (child == 0) {
+    const auto status = inAnotherProcess([] {
         {
             const TerminationSignals signals_;
         }
-        ::raise(GetParam());
-        ::_exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status));
+        return ::raise(GetParam());
+    });
+    EXPECT_EQ(status, -GetParam()) << "the signal ended it";
 }
 
 TEST_P(TerminationSignal, staysIgnoredWhereItWas)
 {
-    const auto child = ::fork();
-    if (child == 0) {
+    const auto status = inAnotherProcess([] {
         ::signal(GetParam(), SIG_IGN);
         const TerminationSignals signals_;
         struct sigaction present = {};
         ::sigaction(GetParam(), nullptr, &present);
-        ::_exit(present.sa_handler == SIG_IGN ? 0 : 1);
-    }
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+        return present.sa_handler == SIG_IGN ? 0 : 1;
+    });
+    EXPECT_EQ(status, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TerminationSignal, testing::Values(SIGTERM, SIGINT, SIGHUP),

@@ -2,6 +2,7 @@
 #include "Platform/TreeRemoval.h"
 
 #include "Platform/ExchangePaths.h"
+#include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
 #include "Support/UnchangeableScope.h"
 
@@ -14,7 +15,6 @@
 #include <thread>
 
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #if defined(Q_OS_LINUX)
 #include <sched.h>
@@ -24,17 +24,6 @@
 namespace {
 
 constexpr auto skipped = 77;
-
-/// Does `work` in a process of its own and gives the status that this returns.
-int inAnotherProcess(const std::function<int()>& work)
-{
-    const auto child = ::fork();
-    if (child == 0)
-        ::_exit(work());
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 /// The administrator may remove everything, so an ordinary user tries.
 bool becomeOrdinaryUser()
