@@ -24,11 +24,12 @@ public:
 
     void begin(int status, qint64 length) override
     {
-        if (status != 200)
+        if (status != 200) {
             throw AppError(
                 QCoreApplication::translate("ChecksumDownload",
                                             "Could not read the engine checksum list (HTTP %1).")
                     .arg(status));
+        }
         refuseMoreThanLargest(length);
     }
 
@@ -53,10 +54,11 @@ public:
 private:
     static void refuseMoreThanLargest(qint64 size)
     {
-        if (size > largestList)
+        if (size > largestList) {
             throw AppError(QCoreApplication::translate(
                 "ChecksumDownload",
                 "The engine checksum list is larger than 1 MiB, so it was not read."));
+        }
     }
 
     QPromise<QByteArray> m_result;

@@ -73,10 +73,11 @@ QCoro::Task<QString> readChecksum(Job job, std::chrono::milliseconds stallLimit)
     const QByteArray list = co_await pending;
     throwIfCancelled(job.stop);
     const auto digest = ChecksumList::digestFor(list, archiveName);
-    if (!digest)
+    if (!digest) {
         throw AppError(
             QCoreApplication::translate("EngineManager", "The checksum list has no entry for %1.")
                 .arg(archiveName));
+    }
     co_return *digest;
 }
 
@@ -100,10 +101,11 @@ QCoro::Task<> verify(Job job, QString file, QString expected)
     const auto hashing =
         offThread([file, stop = job.stop] { return EngineManager::sha512(file, stop); });
     const QString actual = co_await hashing;
-    if (actual != expected)
+    if (actual != expected) {
         throw AppError(QCoreApplication::translate(
             "EngineManager",
             "The engine download did not match its official checksum, so it was discarded."));
+    }
     job.log(QStringLiteral("Checksum OK."));
 }
 

@@ -28,10 +28,11 @@ FileReceiver::~FileReceiver()
 
 void FileReceiver::begin(int status, qint64 length)
 {
-    if (status != 200)
+    if (status != 200) {
         throw AppError(
             QCoreApplication::translate("FileReceiver", "The server answered with HTTP %1 for %2.")
                 .arg(QString::number(status), m_url.toString(QUrl::FullyEncoded)));
+    }
     m_length = length;
     m_part.emplace(m_partPath);
 }

@@ -34,8 +34,9 @@ QCoro::Task<> Unzipper::unzipWith(std::optional<ToolCommand> tool, QString archi
             offThread([=] { return ZipExtractor::extract(archive, destination, log, stop); });
         status = co_await extracted;
     }
-    if (status != 0)
+    if (status != 0) {
         throw AppError(
             QCoreApplication::translate("Unzipper", "Unzipping failed (ditto exit code %1).")
                 .arg(status));
+    }
 }

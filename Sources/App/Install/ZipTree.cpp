@@ -67,10 +67,11 @@ void ZipTree::makeLinks(const std::stop_token& stop)
     for (const auto& link : m_links) {
         throwIfCancelled(stop);
         makeFolderAbove(link.place);
-        if (::symlinkat(link.target.constData(), m_folder.get(), link.place.constData()) != 0)
+        if (::symlinkat(link.target.constData(), m_folder.get(), link.place.constData()) != 0) {
             throw PlatformError::fromErrno(
                 PlatformError::tr("create the link “%1”").arg(QFile::decodeName(link.place)),
                 errno);
+        }
     }
 }
 
