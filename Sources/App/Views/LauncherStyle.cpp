@@ -211,10 +211,11 @@ QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionCo
                                     SubControl part, const QWidget* widget) const
 {
     const auto& rect = option->rect;
-    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
         return visualRect(
             option->direction, rect,
             rect.adjusted(ControlFace::horizontalPadding - 4, 1, -popUpArrowWidth, -1));
+    }
     if (control == CC_ComboBox && part == SC_ComboBoxArrow) {
         return visualRect(
             option->direction, rect,
