@@ -2,6 +2,7 @@
 #include "Platform/ExchangePaths.h"
 
 #include "Platform/PlatformError.h"
+#include "Platform/Unsupported.h"
 
 #include <QFile>
 
@@ -23,13 +24,6 @@ int exchange([[maybe_unused]] const char* first, [[maybe_unused]] const char* se
 #endif
 }
 
-/// Whether the step was not even tried, so that moving one path after the other may still succeed.
-bool isImpossible(int error)
-{
-    return error == ENOENT || error == EINVAL || error == ENOSYS || error == EOPNOTSUPP ||
-           error == ENOTSUP;
-}
-
 } // namespace
 
 bool exchangePaths(const QString& first, const QString& second)
@@ -39,7 +33,8 @@ bool exchangePaths(const QString& first, const QString& second)
     if (exchange(a.constData(), b.constData()) == 0)
         return true;
     const auto error = errno;
-    if (isImpossible(error))
+    // Then the step was not even tried, and moving one path after the other may still succeed.
+    if (error == ENOENT || isUnsupported(error))
         return false;
     throw PlatformError::fromErrno(PlatformError::tr("exchange “%1” and “%2”").arg(first, second),
                                    error);

@@ -4,6 +4,7 @@
 #include "Platform/DirectoryWalk.h"
 #include "Platform/FileDescriptor.h"
 #include "Platform/PlatformError.h"
+#include "Platform/Unsupported.h"
 
 #include <QFile>
 
@@ -25,17 +26,11 @@ FileDescriptor openFolder(const QString& path)
     throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
 }
 
-/// Whether the system or the file system knows no such request. What is written there is as durable
-/// as it will ever be, which is no reason to refuse it.
-bool isImpossible(int error)
-{
-    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == ENOTSUP;
-}
-
-/// The error of writing an open file or folder to the disk; 0 for none.
+/// The error of writing an open file or folder to the disk; 0 for none. Where nobody can ask for
+/// it, what is written is as durable as it will ever be, which is no reason to refuse it.
 int write(const FileDescriptor& file)
 {
-    return ::fsync(file.get()) == 0 || isImpossible(errno) ? 0 : errno;
+    return ::fsync(file.get()) == 0 || isUnsupported(errno) ? 0 : errno;
 }
 
 /// The same for an entry of a folder.
@@ -52,7 +47,7 @@ int writeEntry(const DirectoryWalk::Entry& entry)
 bool emptyDriveCache([[maybe_unused]] const FileDescriptor& file)
 {
 #if defined(F_FULLFSYNC)
-    return ::fcntl(file.get(), F_FULLFSYNC) == 0 || isImpossible(errno);
+    return ::fcntl(file.get(), F_FULLFSYNC) == 0 || isUnsupported(errno);
 #else
     return true;
 #endif
@@ -66,7 +61,7 @@ void makeDurable(const QString& path)
     // The whole file system at once: for the many small files of a game this takes a tenth of the
     // time that one call for each of them does.
     const auto folder = openFolder(path);
-    if (!folder.isOpen() || (::syncfs(folder.get()) != 0 && !isImpossible(errno)))
+    if (!folder.isOpen() || (::syncfs(folder.get()) != 0 && !isUnsupported(errno)))
         throwNotWritten(path, errno);
 #else
     makeEachDurable(path);
