@@ -6,26 +6,9 @@
 #include "Platform/PlatformError.h"
 #include "Support/Eventually.h"
 #include "Support/InstallTest.h"
-
-#include <QCoreApplication>
-#include <QTranslator>
+#include "Support/MarkedLanguage.h"
 
 namespace {
-
-/// A language in which every text is the English one between marks.
-class MarkedLanguage final : public QTranslator
-{
-public:
-    MarkedLanguage() { QCoreApplication::installTranslator(this); }
-    ~MarkedLanguage() override { QCoreApplication::removeTranslator(this); }
-
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*,
-                                    int) const override
-    {
-        return u'<' + QString::fromUtf8(source) + u'>';
-    }
-};
 
 class TranslatedTexts : public InstallTest
 {

@@ -1,25 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Support/AppModelAccess.h"
+#include "Support/MarkedLanguage.h"
 #include "Support/ModelTest.h"
 
-#include <QTranslator>
-
 namespace {
-
-/// A language in which every text is the English one between marks.
-class MarkedLanguage final : public QTranslator
-{
-public:
-    MarkedLanguage() { QCoreApplication::installTranslator(this); }
-    ~MarkedLanguage() override { QCoreApplication::removeTranslator(this); }
-
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*,
-                                    int) const override
-    {
-        return u'<' + QString::fromUtf8(source) + u'>';
-    }
-};
 
 class ModelTranslation : public ModelTest
 {

@@ -3,6 +3,7 @@
 
 #include "Support/AppModelAccess.h"
 #include "Support/Await.h"
+#include "Support/MarkedLanguage.h"
 #include "Views/AboutView.h"
 #include "Views/LinkLabel.h"
 #include "Views/LogView.h"
@@ -12,26 +13,8 @@
 
 #include <QComboBox>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
-
-/// A language in which every text is the English one between marks.
-class MarkedLanguage final : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    MarkedLanguage() { QCoreApplication::installTranslator(this); }
-    ~MarkedLanguage() override { QCoreApplication::removeTranslator(this); }
-
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*,
-                                    int) const override
-    {
-        return u'<' + QString::fromUtf8(source) + u'>';
-    }
-};
 
 /// The language has to be there before the window is made.
 struct InThatLanguage
@@ -128,5 +111,3 @@ TEST_F(TranslationTest, reachesEveryTextOfTheAboutSheet)
 }
 
 } // namespace
-
-#include "TranslationTests.moc"
