@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "Model/SetupTest.h"
+
+#include "Support/AppModelAccess.h"
+#include "Support/Await.h"
+#include "Support/BusyPool.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+namespace {
+
+using SetupCancelTest = SetupTest;
+
+TEST_F(SetupCancelTest, cancelsDuringTheGamesDownload)
+{
+    server.on(gamePath, [](const HttpServer::Connection& connection) {
+        connection.send(HttpServer::head(200, "Content-Length: 1000\n") + QByteArray(10, 'x'));
+        connection.waitForHangUp();
+    });
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    ASSERT_TRUE(waitUntil([this] { return !model().progressText().isEmpty(); }));
+    EXPECT_EQ(model().progress(), 0.01);
+    model().cancelSetup();
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_FALSE(exists(QStringLiteral("Game")));
+}
+
+TEST_F(SetupCancelTest, showsNoProgressOnceTheDownloadHasEnded)
+{
+    server.on(gamePath, HttpServer::silence());
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    const DownloadProgress report{.received = 10, .total = 1000, .bytesPerSecond = 1};
+    AppModelAccess::progressRelay(model()).report(report);
+    model().cancelSetup();
+    waitForFlow();
+    // What was on its way then would come before what is sent now.
+    ProgressRelay later;
+    const QSignalSpy delivered(&later, &ProgressRelay::progressed);
+    later.report(report);
+    ASSERT_TRUE(waitUntil([&] { return delivered.size() == 1; }));
+    EXPECT_TRUE(model().progressText().isEmpty()) << model().progressText().toStdString();
+    EXPECT_FALSE(model().progress());
+}
+
+TEST_F(SetupCancelTest, cancelsDuringTheChecksumList)
+{
+    server.on(releasePath + QStringLiteral("SHA512-SUMS.txt"), HttpServer::silence());
+    model().play();
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(QStringLiteral("SHA512-SUMS.txt")) > 0; }));
+    model().cancelSetup();
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_TRUE(exists(QStringLiteral("Game")));
+}
+
+TEST_F(SetupCancelTest, cancelsDuringTheEnginesDownload)
+{
+    server.on(releasePath + engineName + QStringLiteral(".zip"), HttpServer::silence());
+    model().play();
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(engineName) > 0; }));
+    model().cancelSetup();
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_FALSE(exists(QStringLiteral("Engine/3.5.3-stable")));
+}
+
+TEST_F(SetupCancelTest, cancelsDuringTheImportAndEndsTheEngine)
+{
+    serveEngine("echo up $$; exec sleep 60");
+    model().play();
+    ASSERT_TRUE(waitUntil([this] { return !logged().filter(QStringLiteral("up ")).isEmpty(); }));
+    const auto engine = logged().filter(QStringLiteral("up ")).first().mid(3);
+    model().cancelSetup();
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    EXPECT_FALSE(QFile::exists(QStringLiteral("/proc/") + engine));
+}
+
+TEST_F(SetupCancelTest, cancelsAlreadyInItsSilentChecks)
+{
+    {
+        const BusyPool busy;
+        model().play();
+        EXPECT_TRUE(model().isBusy());
+        EXPECT_EQ(model().phase(), Phase::notDownloaded());
+        model().cancelSetup();
+    }
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_TRUE(server.requests().isEmpty());
+}
+
+TEST_F(SetupCancelTest, quitsDuringADownloadWithoutAQuestion)
+{
+    server.on(gamePath, HttpServer::silence());
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    EXPECT_TRUE(model().confirmQuit());
+    waitForFlow();
+    EXPECT_TRUE(desktop.questions.isEmpty());
+    expectNothingInstalled();
+}
+
+TEST_F(SetupCancelTest, removesTheMarkerBeforeAnImport)
+{
+    playToTheEnd();
+    ASSERT_TRUE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
+    installEngine("echo up; exec sleep 60");
+    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Engine/3.5.3-stable/") + engineName)));
+    model().play();
+    ASSERT_TRUE(waitUntil([this] { return logged().contains(QStringLiteral("up")); }));
+    model().cancelSetup();
+    waitForFlow();
+    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+}
+
+} // namespace
