@@ -3,9 +3,9 @@
 // between two rounds of the event loop, with lines of the length given.
 #include "Support/FakeDesktop.h"
 
-#include "AppModel.h"
-#include "Platform/SessionLock.h"
-#include "Views/LauncherStyle.h"
+#include "Controls/LauncherStyle.h"
+#include "Model/AppModel.h"
+#include "System/InstallationLock.h"
 #include "Views/LogView.h"
 
 #include <benchmark/benchmark.h>
@@ -55,7 +55,7 @@ private:
 void eventLoopGaps(benchmark::State& state)
 {
     FakeDesktop desktop;
-    const SessionLock session{QString()};
+    const InstallationLock session{QString()};
     AppModel model(desktop, session);
     LogView view(model);
     view.resize(580, view.sizeHint().height());

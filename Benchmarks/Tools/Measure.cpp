@@ -3,8 +3,7 @@
 // measure WORK ARGUMENT…: does one piece of the launcher's work with the launcher's own code and
 // prints what it took.
 #include "DiskWork.h"
-#include "Install/WebHost.h"
-#include "LineWork.h"
+#include "Install/Http/WebHost.h"
 #include "TransferWork.h"
 
 #include <QCoreApplication>
@@ -13,6 +12,8 @@
 
 #include <cstdio>
 #include <exception>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,10 +30,6 @@ bool work(const QStringList& words)
         DiskWork::size(first);
     else if (name == u"missing")
         DiskWork::missing(first);
-    else if (name == u"lines")
-        LineWork::buffered(first.toLongLong(), second.toLongLong());
-    else if (name == u"bare-lines")
-        LineWork::bare(first.toLongLong(), second.toLongLong());
     else if (name == u"download")
         TransferWork::download(QUrl(first), second);
     else if (name == u"flood")
@@ -47,7 +44,7 @@ bool work(const QStringList& words)
 /// No work here builds an address of its own.
 QString webHost()
 {
-    return QStringLiteral("https://localhost");
+    return u"https://localhost"_s;
 }
 
 int main(int argc, char** argv)
@@ -57,8 +54,7 @@ int main(int argc, char** argv)
         if (work(QCoreApplication::arguments()))
             return 0;
         std::fputs("usage: measure sha512 FILE | unzip ARCHIVE FOLDER | size FOLDER |\n"
-                   "  missing FOLDER | lines MEBIBYTES LENGTH | bare-lines MEBIBYTES LENGTH |\n"
-                   "  download URL FOLDER | flood PROGRAM ARGUMENT…\n",
+                   "  missing FOLDER | download URL FOLDER | flood PROGRAM ARGUMENT…\n",
                    stderr);
         return 2;
     } catch (const std::exception& error) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CavernyxPlatformerApp.h"
+#include "Shell/CavernyxPlatformerApp.h"
 
 int main(int, char** arguments)
 {

@@ -4,9 +4,11 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const auto name = QStringLiteral("Godot.zip");
+const auto name = u"Godot.zip"_s;
 
 } // namespace
 

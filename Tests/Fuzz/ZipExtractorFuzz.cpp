@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Fuzz/FuzzTarget.h"
-#include "Install/ZipExtractor.h"
+#include "Install/Zip/ZipExtractor.h"
 #include "Support/ZipWriter.h"
+#include "System/InputFile.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -11,6 +12,8 @@
 #include <cstdlib>
 
 #include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,18 +58,18 @@ QList<QByteArray> fuzzSeeds()
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const QTemporaryDir around;
-    const auto folder = around.filePath(QStringLiteral("in/side"));
+    const auto folder = around.filePath(u"in/side"_s);
     QDir().mkpath(folder);
-    QFile archive(around.filePath(QStringLiteral("archive")));
+    QFile archive(around.filePath(u"archive"_s));
     if (!archive.open(QIODevice::WriteOnly))
         std::abort();
     archive.write(reinterpret_cast<const char*>(bytes), static_cast<qint64>(size));
     archive.close();
     const auto status =
-        ZipExtractor::extract(archive.fileName(), folder, [](const QString&) {}, {});
+        ZipExtractor::extract(InputFile(archive.fileName()), folder, [](const QString&) {}, {});
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     if (QDir(around.path()).entryList(all).size() != 2 ||
-        QDir(around.filePath(QStringLiteral("in"))).entryList(all).size() != 1 ||
+        QDir(around.filePath(u"in"_s)).entryList(all).size() != 1 ||
         (status == 0 && !isHarmless(QDir(folder).canonicalPath())))
         std::abort();
     return 0;

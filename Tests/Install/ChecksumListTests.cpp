@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const auto archive = QStringLiteral("Godot_x11.64.zip");
+const auto archive = u"Godot_x11.64.zip"_s;
 
 std::optional<QString> digestIn(const QByteArray& list)
 {
@@ -16,16 +18,15 @@ std::optional<QString> digestIn(const QByteArray& list)
 
 TEST(ChecksumList, findsTheDigestOfTheFile)
 {
-    EXPECT_EQ(digestIn("aa  other.zip\nbb  Godot_x11.64.zip\ncc  third.zip\n"),
-              QStringLiteral("bb"));
-    EXPECT_EQ(digestIn("bb Godot_x11.64.zip"), QStringLiteral("bb"));
-    EXPECT_EQ(digestIn(" \tbb\t \tsize  Godot_x11.64.zip \t\n"), QStringLiteral("bb"));
+    EXPECT_EQ(digestIn("aa  other.zip\nbb  Godot_x11.64.zip\ncc  third.zip\n"), u"bb"_s);
+    EXPECT_EQ(digestIn("bb Godot_x11.64.zip"), u"bb"_s);
+    EXPECT_EQ(digestIn(" \tbb\t \tsize  Godot_x11.64.zip \t\n"), u"bb"_s);
 }
 
 TEST(ChecksumList, ignoresAsterisksAroundTheName)
 {
-    EXPECT_EQ(digestIn("bb  *Godot_x11.64.zip\n"), QStringLiteral("bb"));
-    EXPECT_EQ(digestIn("bb  ***Godot_x11.64.zip**\n"), QStringLiteral("bb"));
+    EXPECT_EQ(digestIn("bb  *Godot_x11.64.zip\n"), u"bb"_s);
+    EXPECT_EQ(digestIn("bb  ***Godot_x11.64.zip**\n"), u"bb"_s);
     EXPECT_EQ(digestIn("bb  Godot*_x11.64.zip\n"), std::nullopt);
 }
 
@@ -40,13 +41,12 @@ TEST(ChecksumList, matchesTheExactNameOnly)
 
 TEST(ChecksumList, lowersTheCaseOfTheDigest)
 {
-    EXPECT_EQ(digestIn("AbCd09  Godot_x11.64.zip\n"), QStringLiteral("abcd09"));
+    EXPECT_EQ(digestIn("AbCd09  Godot_x11.64.zip\n"), u"abcd09"_s);
 }
 
 TEST(ChecksumList, takesTheLastOfSeveralLines)
 {
-    EXPECT_EQ(digestIn("aa  Godot_x11.64.zip\nbb  *Godot_x11.64.zip\ncc  x\n"),
-              QStringLiteral("bb"));
+    EXPECT_EQ(digestIn("aa  Godot_x11.64.zip\nbb  *Godot_x11.64.zip\ncc  x\n"), u"bb"_s);
 }
 
 TEST(ChecksumList, findsNothingInAListWithCarriageReturns)
@@ -63,7 +63,7 @@ TEST(ChecksumList, findsNothingInALineWithoutADigest)
 
 TEST(ChecksumList, readsPastBytesThatAreNotUtf8)
 {
-    EXPECT_EQ(digestIn("\xff\xfe  \x80\nbb  Godot_x11.64.zip\n"), QStringLiteral("bb"));
+    EXPECT_EQ(digestIn("\xff\xfe  \x80\nbb  Godot_x11.64.zip\n"), u"bb"_s);
 }
 
 TEST(ChecksumList, doesNotTakeOtherWhiteSpaceForABlank)

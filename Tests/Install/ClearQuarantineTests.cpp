@@ -1,9 +1,30 @@
 // SPDX-License-Identifier: MIT
-#include "Install/ClearQuarantine.h"
-
 #include "EngineManagerTest.h"
+#include "Platform/LinuxPlatform.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
+
+/// A system whose tool for clearing the mark is a program of the test's.
+class PlatformWithQuarantine final : public LinuxPlatform
+{
+public:
+    explicit PlatformWithQuarantine(QString tool)
+        : m_tool(std::move(tool))
+    {
+    }
+    [[nodiscard]] std::optional<ToolCommand>
+    clearQuarantineCommand(const QString& folder) const override
+    {
+        return ToolCommand{m_tool, {u"-dr"_s, folder}};
+    }
+
+private:
+    const QString m_tool;
+};
 
 class ClearQuarantineTest : public EngineManagerTest
 {
@@ -11,53 +32,22 @@ protected:
     /// Installs the engine on a system whose tool for that is a script.
     Outcome<QString> installWith(const QByteArray& script)
     {
-        serve(engineArchive());
-        return installWithTool(home.writeScript(QStringLiteral("tool"), script));
+        return installWithTool(home.writeScript(u"tool"_s, script));
     }
     Outcome<QString> installWithTool(const QString& tool)
     {
-        return eventually(
-            engine.install(downloader, log(), stop.get_token(), Durations().transferStall,
-                           [tool](const QString& folder) {
-                               return ToolCommand{tool, {QStringLiteral("-dr"), folder}};
-                           }));
+        serve(engineArchive());
+        const PlatformWithQuarantine platform(tool);
+        return eventually(engine.install(downloader, log(), stop.get_token(), platform));
     }
 };
 
-const auto removing = QStringLiteral(
-    "Removing macOS's \"downloaded from the internet\" flag from the engine. It was just verified "
-    "against Godot's published checksum, and without this step macOS would block it from opening.");
-const auto harmless =
-    QStringLiteral("xattr finished with code 1 (usually harmless if the flag was not set).");
+const auto removing =
+    u"Removing macOS's \"downloaded from the internet\" flag from the engine. It was just verified "
+    "against Godot's published checksum, and without this step macOS would block it from opening."_s;
+const auto harmless = u"xattr finished with code 1 (usually harmless if the flag was not set)."_s;
 
 } // namespace
-
-TEST_F(ClearQuarantineTest, carriesOnWhenTheQuarantineFlagCannotBeCleared)
-{
-    const auto tool = home.writeScript(QStringLiteral("tool"), "echo \"$1\"; exit 1");
-
-    const auto outcome = eventually(
-        clearQuarantine({tool, {QStringLiteral("some folder")}}, log(), stop.get_token()));
-
-    EXPECT_TRUE(outcome.value);
-    EXPECT_EQ(lines(), (QStringList{removing, QStringLiteral("some folder"), harmless}));
-}
-
-TEST_F(ClearQuarantineTest, saysNothingMoreWhenTheQuarantineFlagIsCleared)
-{
-    const auto tool = home.writeScript(QStringLiteral("tool"), "exit 0");
-
-    EXPECT_TRUE(eventually(clearQuarantine({tool, {}}, log(), stop.get_token())).value);
-    EXPECT_EQ(lines().size(), 1);
-}
-
-TEST_F(ClearQuarantineTest, failsWhenTheQuarantineToolCannotBeStarted)
-{
-    const auto missing = home.path(QStringLiteral("no tool"));
-
-    EXPECT_TRUE(
-        eventually(clearQuarantine({missing, {}}, log(), stop.get_token())).isPlatformError);
-}
 
 TEST_F(ClearQuarantineTest, happensAfterTheUnpackingAndBeforeTheSwap)
 {
@@ -67,11 +57,17 @@ TEST_F(ClearQuarantineTest, happensAfterTheUnpackingAndBeforeTheSwap)
 
     EXPECT_TRUE(outcome.value);
     const QStringList all = lines();
-    EXPECT_EQ(
-        all.sliced(all.indexOf(removing)),
-        (QStringList{removing, QStringLiteral("-dr"), QStringLiteral("Godot_v3.5.3-stable_x11.64"),
-                     QStringLiteral("sub"), QStringLiteral("old godot")}));
+    EXPECT_EQ(all.sliced(all.indexOf(removing)),
+              (QStringList{removing, u"-dr"_s, u"Godot_v3.5.3-stable_x11.64"_s, u"sub"_s,
+                           u"old godot"_s}));
     EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(ClearQuarantineTest, saysNothingMoreWhenTheFlagIsCleared)
+{
+    EXPECT_TRUE(installWith("exit 0").value);
+
+    EXPECT_EQ(lines().last(), removing);
 }
 
 TEST_F(ClearQuarantineTest, neverFailsAnInstallation)
@@ -84,9 +80,8 @@ TEST_F(ClearQuarantineTest, neverFailsAnInstallation)
 TEST_F(ClearQuarantineTest, keepsTheOldEngineWhenItsToolCannotBeStarted)
 {
     installOldEngine();
-    serve(engineArchive());
 
-    EXPECT_TRUE(installWithTool(home.path(QStringLiteral("no tool"))).isPlatformError);
+    EXPECT_TRUE(installWithTool(home.path(u"no tool"_s)).isPlatformError);
 
     expectOldEngine();
 }
@@ -98,6 +93,7 @@ TEST_F(ClearQuarantineTest, isTheLastMomentToCancelBeforeTheSwap)
 
     EXPECT_TRUE(installWith("exit 1").isCancelled);
 
+    clearLeftovers();
     expectOldEngine();
 }
 
@@ -109,7 +105,7 @@ TEST_F(ClearQuarantineTest, isFollowedByASwapThatKeepsTheOldEngineWhenItFails)
     const auto outcome = installWith("mv \"$2\" \"$2.taken\" && rm -r \"$2.taken\"");
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("Could not write “")))
+    EXPECT_TRUE(outcome.sentence.startsWith(u"Could not write “"_s))
         << outcome.sentence.toStdString();
     expectOldEngine();
 }

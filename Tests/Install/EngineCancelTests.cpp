@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "EngineManagerTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using EngineCancelTest = EngineManagerTest;
 
-const auto checking =
-    QStringLiteral("Checking the download against the official SHA-512 checksum…");
-const auto checksumOk = QStringLiteral("Checksum OK.");
+const auto checking = u"Checking the download against the official SHA-512 checksum…"_s;
+const auto checksumOk = u"Checksum OK."_s;
 
 } // namespace
 
 TEST_F(EngineCancelTest, endsWithCancelledWhileItReadsTheList)
 {
-    server.on(releasePath(QStringLiteral("SHA512-SUMS.txt")), HttpServer::silence());
-    auto task = startInstall();
+    server.on(releasePath(u"SHA512-SUMS.txt"_s), HttpServer::silence());
+    const auto installing = startInstall();
     ASSERT_TRUE(server.waitForRequests(1));
 
     stop.request_stop();
 
-    EXPECT_TRUE(eventually(std::move(task)).isCancelled);
+    EXPECT_TRUE(eventually(installing).isCancelled);
     EXPECT_FALSE(home.exists(root({})));
 }
 
@@ -28,12 +29,12 @@ TEST_F(EngineCancelTest, endsWithCancelledWhileItDownloads)
     installOldEngine();
     serve(engineArchive());
     server.on(releasePath(engine.archiveName()), HttpServer::silence());
-    auto task = startInstall();
+    const auto installing = startInstall();
     ASSERT_TRUE(server.waitForRequests(2));
 
     stop.request_stop();
 
-    EXPECT_TRUE(eventually(std::move(task)).isCancelled);
+    EXPECT_TRUE(eventually(installing).isCancelled);
     expectOldEngine();
 }
 
@@ -48,6 +49,7 @@ TEST_F(EngineCancelTest, endsWithCancelledBeforeTheDigestOrTheUnpacking)
         EXPECT_TRUE(install().isCancelled);
 
         EXPECT_EQ(lines().last(), line);
+        clearLeftovers();
         expectOldEngine();
     }
 }

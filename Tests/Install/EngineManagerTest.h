@@ -8,13 +8,15 @@
 
 #include <QCryptographicHash>
 
+using namespace Qt::StringLiterals;
+
 /// Installs the engine from a release that a test puts together.
 class EngineManagerTest : public InstallTest
 {
 protected:
     static QString releasePath(const QString& name)
     {
-        return QStringLiteral("/godotengine/godot/releases/download/3.5.3-stable/") + name;
+        return u"/godotengine/godot/releases/download/3.5.3-stable/"_s + name;
     }
     static QByteArray engineArchive(const QByteArray& program = "an engine")
     {
@@ -25,7 +27,7 @@ protected:
     }
     void serveList(const QByteArray& list)
     {
-        server.on(releasePath(QStringLiteral("SHA512-SUMS.txt")), HttpServer::reply(200, list));
+        server.on(releasePath(u"SHA512-SUMS.txt"_s), HttpServer::reply(200, list));
     }
     void serve(const QByteArray& archive)
     {
@@ -34,20 +36,16 @@ protected:
                   '\n');
         server.on(releasePath(engine.archiveName()), HttpServer::reply(200, archive));
     }
-    QCoro::Task<QString> startInstall()
-    {
-        return engine.install(downloader, log(), stop.get_token());
-    }
+    QFuture<QString> startInstall() { return engine.install(downloader, log(), stop.get_token()); }
     Outcome<QString> install() { return eventually(startInstall()); }
     QString installed(const QString& name = {}) const
     {
-        return root(QStringLiteral("Engine/3.5.3-stable") +
-                    (engine.mono ? QStringLiteral("-mono/") : QStringLiteral("/")) + name);
+        return root(u"Engine/3.5.3-stable"_s + (engine.mono ? u"-mono/"_s : u"/"_s) + name);
     }
-    void installOldEngine() const { home.write(installed(QStringLiteral("old godot"))); }
+    void installOldEngine() const { home.write(installed(u"old godot"_s)); }
     void expectOldEngine() const
     {
-        EXPECT_EQ(home.names(installed()), QStringList{QStringLiteral("old godot")});
+        EXPECT_EQ(home.names(installed()), QStringList{u"old godot"_s});
         EXPECT_EQ(leftovers(), QStringList());
     }
 

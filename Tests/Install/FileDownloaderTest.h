@@ -5,47 +5,44 @@
 #include "Support/Eventually.h"
 #include "Support/HttpServer.h"
 #include "Support/TestFolder.h"
+#include "Support/WebHostScope.h"
 
 #include <gtest/gtest.h>
 
 #include <QList>
 
 #include <chrono>
-#include <mutex>
-#include <thread>
+#include <stop_token>
 
 /// Downloads into a folder of its own from a server that a test makes answer.
 class FileDownloaderTest : public testing::Test
 {
 protected:
-    Outcome<QString> download(const QUrl& url)
+    /// The path of the downloaded file, if there is one.
+    Outcome<QString> download(const QUrl& url, std::chrono::milliseconds stallTimeout = limit)
     {
-        return eventually(m_downloader.start(url, folder.path()));
+        const FileDownloader downloader([this](const DownloadProgress& now) { note(now); },
+                                        stallTimeout);
+        return outcomeOf(
+            [&] { return downloader.start(url, folder.path(), stop.get_token()).path(); });
     }
-    Outcome<QString> download(const QString& path) { return download(server.url(path)); }
-    /// The same, if the server may be silent for `limit` only.
-    Outcome<QString> downloadWithin(std::chrono::milliseconds limit, const QString& path)
+    Outcome<QString> download(const QString& path, std::chrono::milliseconds stallTimeout = limit)
     {
-        FileDownloader impatient([this](const DownloadProgress& now) { remember(now); }, limit);
-        return eventually(impatient.start(server.url(path), folder.path()));
-    }
-
-    void remember(const DownloadProgress& progress)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_progress.append(progress);
-        m_progressThread = std::this_thread::get_id();
-    }
-    QList<DownloadProgress> progress()
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_progress;
+        return download(server.url(path), stallTimeout);
     }
 
+    void note(const DownloadProgress& now)
+    {
+        progress.append(now);
+        if (onProgress)
+            onProgress();
+    }
+
+    static constexpr std::chrono::milliseconds limit = std::chrono::seconds{60};
     TestFolder folder;
     HttpServer server;
-    std::mutex m_mutex;
-    QList<DownloadProgress> m_progress;
-    std::thread::id m_progressThread;
-    FileDownloader m_downloader{[this](const DownloadProgress& now) { remember(now); }};
+    const WebHostScope host{server.host()};
+    std::stop_source stop;
+    QList<DownloadProgress> progress;
+    std::function<void()> onProgress;
 };

@@ -8,31 +8,33 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const auto file = QStringLiteral("/file.zip");
+const auto file = u"/file.zip"_s;
 
 } // namespace
 
 TEST_F(FileDownloaderTest, namesTheFileAfterTheLastPartOfTheUrl)
 {
-    server.on(QStringLiteral("/a/master.zip?x=1"), HttpServer::reply(200, "the bytes"));
+    server.on(u"/a/master.zip?x=1"_s, HttpServer::reply(200, "the bytes"));
 
-    const auto outcome = download(QStringLiteral("/a/master.zip?x=1"));
+    const auto outcome = download(u"/a/master.zip?x=1"_s);
 
-    EXPECT_EQ(outcome.value, folder.path(QStringLiteral("master.zip")));
-    EXPECT_EQ(folder.read(QStringLiteral("master.zip")), "the bytes");
-    EXPECT_EQ(folder.names(), QStringList{QStringLiteral("master.zip")});
+    EXPECT_EQ(outcome.value, folder.path(u"master.zip"_s));
+    EXPECT_EQ(folder.read(u"master.zip"_s), "the bytes");
+    EXPECT_EQ(folder.names(), QStringList{u"master.zip"_s});
 }
 
 TEST_F(FileDownloaderTest, callsAFileWithoutANameDownload)
 {
-    for (const auto& path : {QStringLiteral("/"), QStringLiteral("/folder/")}) {
+    for (const auto& path : {u"/"_s, u"/folder/"_s}) {
         server.on(path, HttpServer::reply(200, "the bytes"));
 
-        EXPECT_EQ(download(path).value, folder.path(QStringLiteral("download")));
+        EXPECT_EQ(download(path).value, folder.path(u"download"_s));
     }
-    EXPECT_EQ(folder.read(QStringLiteral("download")), "the bytes");
+    EXPECT_EQ(folder.read(u"download"_s), "the bytes");
 }
 
 TEST_F(FileDownloaderTest, keepsAHostileNameInsideTheFolder)
@@ -51,23 +53,22 @@ TEST_F(FileDownloaderTest, keepsAHostileNameInsideTheFolder)
 
 TEST_F(FileDownloaderTest, decodesANameThatIsNotAscii)
 {
-    server.on(QStringLiteral("/Sch%C3%B6n%20.zip"), HttpServer::reply(200, "x"));
+    server.on(u"/Sch%C3%B6n%20.zip"_s, HttpServer::reply(200, "x"));
 
-    EXPECT_EQ(download(QStringLiteral("/Schön%20.zip")).value,
-              folder.path(QStringLiteral("Schön .zip")));
+    EXPECT_EQ(download(u"/Schön%20.zip"_s).value, folder.path(u"Schön .zip"_s));
 }
 
 TEST_F(FileDownloaderTest, replacesAFileAndEvenAFolderOfThatName)
 {
     server.on(file, HttpServer::reply(200, "new"));
-    folder.write(QStringLiteral("file.zip"), "old");
+    folder.write(u"file.zip"_s, "old");
     EXPECT_TRUE(download(file).value);
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "new");
+    EXPECT_EQ(folder.read(u"file.zip"_s), "new");
 
-    QFile::remove(folder.path(QStringLiteral("file.zip")));
-    folder.write(QStringLiteral("file.zip/inner/old"));
+    QFile::remove(folder.path(u"file.zip"_s));
+    folder.write(u"file.zip/inner/old"_s);
     EXPECT_TRUE(download(file).value);
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "new");
+    EXPECT_EQ(folder.read(u"file.zip"_s), "new");
 }
 
 TEST_F(FileDownloaderTest, reportsEveryPieceAgainstTheAnnouncedLength)
@@ -77,17 +78,15 @@ TEST_F(FileDownloaderTest, reportsEveryPieceAgainstTheAnnouncedLength)
 
     EXPECT_TRUE(download(file).value);
 
-    const auto all = progress();
-    ASSERT_FALSE(all.isEmpty());
-    EXPECT_EQ(all.last().received, body.size());
+    ASSERT_FALSE(progress.isEmpty());
+    EXPECT_EQ(progress.last().received, body.size());
     qint64 before = 0;
-    for (const auto& one : all) {
+    for (const auto& one : progress) {
         EXPECT_GT(one.received, before);
         EXPECT_EQ(one.total, body.size());
         EXPECT_GT(one.bytesPerSecond, 0);
         before = one.received;
     }
-    EXPECT_NE(m_progressThread, std::this_thread::get_id());
 }
 
 TEST_F(FileDownloaderTest, hasNoTotalWithoutALength)
@@ -96,10 +95,10 @@ TEST_F(FileDownloaderTest, hasNoTotalWithoutALength)
 
     EXPECT_TRUE(download(file).value);
 
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "the bytes");
-    ASSERT_FALSE(progress().isEmpty());
-    EXPECT_EQ(progress().last().total, -1);
-    EXPECT_FALSE(progress().last().text().contains(QStringLiteral(" of ")));
+    EXPECT_EQ(folder.read(u"file.zip"_s), "the bytes");
+    ASSERT_FALSE(progress.isEmpty());
+    EXPECT_EQ(progress.last().total, -1);
+    EXPECT_FALSE(progress.last().text().contains(u" of "_s));
 }
 
 TEST_F(FileDownloaderTest, readsABodyInChunks)
@@ -110,7 +109,7 @@ TEST_F(FileDownloaderTest, readsABodyInChunks)
     });
 
     EXPECT_TRUE(download(file).value);
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "the bytes");
+    EXPECT_EQ(folder.read(u"file.zip"_s), "the bytes");
 }
 
 TEST_F(FileDownloaderTest, savesAnEmptyBodyAsAnEmptyFile)
@@ -118,7 +117,7 @@ TEST_F(FileDownloaderTest, savesAnEmptyBodyAsAnEmptyFile)
     server.on(file, HttpServer::reply(200, {}));
 
     EXPECT_TRUE(download(file).value);
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), QByteArray());
+    EXPECT_EQ(folder.read(u"file.zip"_s), QByteArray());
 }
 
 TEST_F(FileDownloaderTest, asksForTheBytesAsTheyAre)
@@ -127,14 +126,17 @@ TEST_F(FileDownloaderTest, asksForTheBytesAsTheyAre)
 
     EXPECT_TRUE(download(file).value);
 
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "raw");
-    EXPECT_TRUE(server.requests().first().contains("Accept-Encoding: identity\r\n"));
+    EXPECT_EQ(folder.read(u"file.zip"_s), "raw");
+    const auto head = server.requests().first().toLower();
+    EXPECT_TRUE(head.contains("accept-encoding: identity\r\n"));
+    EXPECT_TRUE(head.contains("user-agent: "));
+    EXPECT_FALSE(head.contains("accept: "));
 }
 
 TEST_F(FileDownloaderTest, reportsAnOldFileThatCannotBeReplacedAndLeavesNothingElse)
 {
     server.on(file, HttpServer::reply(200, "new"));
-    const auto old = folder.write(QStringLiteral("file.zip"), "old");
+    const auto old = folder.write(u"file.zip"_s, "old");
     const UnchangeableScope unchangeable(old);
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no file unchangeable.";
@@ -142,21 +144,22 @@ TEST_F(FileDownloaderTest, reportsAnOldFileThatCannotBeReplacedAndLeavesNothingE
     const auto outcome = download(file);
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_EQ(outcome.sentence,
-              QStringLiteral("Could not remove “%1”: Operation not permitted.").arg(old));
-    EXPECT_EQ(folder.names(), QStringList{QStringLiteral("file.zip")});
-    EXPECT_EQ(folder.read(QStringLiteral("file.zip")), "old");
+    EXPECT_EQ(outcome.sentence, u"Could not remove “%1”: Operation not permitted."_s.arg(old));
+    EXPECT_EQ(folder.names(), QStringList{u"file.zip"_s});
+    EXPECT_EQ(folder.read(u"file.zip"_s), "old");
 }
 
 TEST_F(FileDownloaderTest, reportsAFolderThatIsNotThere)
 {
     server.on(file, HttpServer::reply(200, "the bytes"));
 
-    const auto outcome =
-        eventually(m_downloader.start(server.url(file), folder.path(QStringLiteral("missing"))));
+    const auto outcome = outcomeOf([this] {
+        return FileDownloader([](const DownloadProgress&) {})
+            .start(server.url(file), folder.path(u"missing"_s), stop.get_token());
+    });
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("Could not create “")));
+    EXPECT_TRUE(outcome.sentence.startsWith(u"Could not create “"_s));
 }
 
 TEST_F(FileDownloaderTest, reportsAFileThatCannotBeWrittenAndLeavesNothing)
@@ -174,6 +177,38 @@ TEST_F(FileDownloaderTest, reportsAFileThatCannotBeWrittenAndLeavesNothing)
     ::setrlimit(RLIMIT_FSIZE, &before);
     ::signal(SIGXFSZ, handlerBefore);
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("Could not write “")));
+    EXPECT_TRUE(outcome.sentence.startsWith(u"Could not write “"_s));
     EXPECT_TRUE(folder.names().isEmpty());
+}
+
+TEST_F(FileDownloaderTest, refusesWhatDoesNotFitOnTheDiskAsSoonAsItsLengthIsKnown)
+{
+    server.on(file, [](const HttpServer::Connection& connection) {
+        connection.send(HttpServer::head(200, "Content-Length: 9000000000000000000\n"));
+        connection.waitForHangUp();
+    });
+
+    const auto outcome = download(file);
+
+    EXPECT_TRUE(outcome.isPlatformError);
+    EXPECT_TRUE(outcome.sentence.startsWith(
+        u"The download of “%1” is "_s.arg(server.url(file).toString())));
+    EXPECT_TRUE(outcome.sentence.endsWith(
+        u" larger than what is free in “%1”. Make room there and try again."_s.arg(folder.path())))
+        << outcome.sentence.toStdString();
+    EXPECT_TRUE(folder.names().isEmpty());
+}
+
+TEST_F(FileDownloaderTest, keepsReadingWhatItReceivedWhateverHappensToTheName)
+{
+    server.on(file, HttpServer::reply(200, "the bytes"));
+    const auto downloaded = FileDownloader([](const DownloadProgress&) {
+                            }).start(server.url(file), folder.path(), stop.get_token());
+    QFile::remove(downloaded.path());
+    folder.write(u"file.zip"_s, "an impostor");
+
+    QByteArray bytes(100, '\0');
+    bytes.truncate(static_cast<qsizetype>(
+        downloaded.readAt(0, bytes.data(), static_cast<std::size_t>(bytes.size()))));
+    EXPECT_EQ(bytes, "the bytes");
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QSslCertificate>
+#include <QSslConfiguration>
 #include <QSslKey>
 #include <QSslSocket>
 
@@ -12,6 +13,8 @@
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/x509v3.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -73,7 +76,6 @@ QSslConfiguration newIdentity()
     QSslConfiguration identity;
     identity.setLocalCertificate(QSslCertificate(bytesOf(certificateText)));
     identity.setPrivateKey(QSslKey(bytesOf(keyText), QSsl::Ec));
-    identity.setAllowedNextProtocols({"h2", "http/1.1"});
     identity.setPeerVerifyMode(QSslSocket::VerifyNone);
     return identity;
 }
@@ -82,32 +84,21 @@ QSslConfiguration newIdentity()
 
 HttpsServer::HttpsServer(const QByteArray& answer)
     : m_answer(answer)
-    , m_trustBefore(QSslConfiguration::defaultConfiguration())
 {
-    const auto identity = newIdentity();
-    auto trust = m_trustBefore;
-    trust.addCaCertificate(identity.localCertificate());
-    QSslConfiguration::setDefaultConfiguration(trust);
-    m_server.setSslConfiguration(identity);
+    m_server.setSslConfiguration(newIdentity());
     QObject::connect(&m_server, &QTcpServer::pendingConnectionAvailable, &m_server,
                      [this] { serve(); });
     EXPECT_TRUE(m_server.listen(QHostAddress::LocalHost));
 }
 
-HttpsServer::~HttpsServer()
-{
-    QSslConfiguration::setDefaultConfiguration(m_trustBefore);
-}
-
 QUrl HttpsServer::url(const QString& path) const
 {
-    return QUrl(QStringLiteral("https://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));
+    return QUrl(u"https://127.0.0.1:%1%2"_s.arg(m_server.serverPort()).arg(path));
 }
 
 void HttpsServer::serve()
 {
     auto* const client = qobject_cast<QSslSocket*>(m_server.nextPendingConnection());
-    m_protocols.append(client->sslConfiguration().nextNegotiatedProtocol());
     const auto answer = [this, client] {
         if (!client->peek(64 * 1024).contains("\r\n\r\n"))
             return;

@@ -2,11 +2,11 @@
 #include "Install/Paths.h"
 
 #include "Install/TemporaryFolder.h"
-#include "Platform/FileTree.h"
-#include "Platform/HostPlatform.h"
-#include "Platform/PlatformError.h"
+#include "Platform/Platform.h"
 #include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
+#include "System/Errors.h"
+#include "System/FileTree.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +18,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,23 +33,23 @@ qint64 allocated(const QString& path)
 const QRegularExpression& uuid()
 {
     static const QRegularExpression expression(
-        QStringLiteral("^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"));
+        u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s);
     return expression;
 }
 
 TEST(Paths, lieUnderOneRootInTheApplicationSupportFolder)
 {
-    const auto root = HostPlatform::applicationSupport() + QStringLiteral("/Cavernyx Platformer");
+    const auto root = hostPlatform().applicationSupport() + u"/Cavernyx Platformer"_s;
     EXPECT_EQ(Paths::root(), root);
-    EXPECT_EQ(Paths::game(), root + QStringLiteral("/Game"));
-    EXPECT_EQ(Paths::engines(), root + QStringLiteral("/Engine"));
+    EXPECT_EQ(Paths::game(), root + u"/Game"_s);
+    EXPECT_EQ(Paths::engines(), root + u"/Engine"_s);
 }
 
 TEST(Paths, giveAFreshStagingFolderBesideItsTarget)
 {
-    const auto target = QStringLiteral("/some/Engine/3.5.3-stable-mono");
+    const auto target = u"/some/Engine/3.5.3-stable-mono"_s;
     const auto first = Paths::newStagingFolder(target);
-    const auto prefix = target + QStringLiteral(".new-");
+    const auto prefix = target + u".new-"_s;
     ASSERT_TRUE(first.startsWith(prefix));
     EXPECT_TRUE(uuid().match(first.sliced(prefix.size())).hasMatch()) << first.toStdString();
     EXPECT_NE(first, Paths::newStagingFolder(target));
@@ -62,7 +64,7 @@ TEST(Paths, giveTwoDifferentTemporaryFoldersThatExist)
         const QFileInfo folder(path);
         EXPECT_TRUE(folder.isDir());
         EXPECT_EQ(folder.path(), QDir::tempPath());
-        const auto prefix = QStringLiteral("CavernyxPlatformer-");
+        const auto prefix = u"CavernyxPlatformer-"_s;
         ASSERT_TRUE(folder.fileName().startsWith(prefix));
         EXPECT_TRUE(uuid().match(folder.fileName().sliced(prefix.size())).hasMatch());
     }
@@ -71,39 +73,39 @@ TEST(Paths, giveTwoDifferentTemporaryFoldersThatExist)
 TEST(Paths, ensureCreatesAFolderWithItsParentsAndLeavesAnExistingOneAlone)
 {
     const TestFolder folder;
-    const auto path = folder.path(QStringLiteral("a/größe/c"));
+    const auto path = folder.path(u"a/größe/c"_s);
     Paths::ensure(path);
     EXPECT_TRUE(QFileInfo(path).isDir());
-    folder.write(QStringLiteral("a/größe/c/file"), "kept");
+    folder.write(u"a/größe/c/file"_s, "kept");
     Paths::ensure(path);
-    EXPECT_EQ(folder.read(QStringLiteral("a/größe/c/file")), "kept");
+    EXPECT_EQ(folder.read(u"a/größe/c/file"_s), "kept");
 }
 
 TEST(Paths, ensureThrowsBelowARegularFile)
 {
     const TestFolder folder;
-    folder.write(QStringLiteral("file"));
-    const auto path = folder.path(QStringLiteral("file/folder"));
+    folder.write(u"file"_s);
+    const auto path = folder.path(u"file/folder"_s);
     try {
         Paths::ensure(path);
         FAIL() << "It was created.";
     } catch (const PlatformError& error) {
         EXPECT_EQ(error.message(),
-                  QStringLiteral("Could not create the folder “%1”: Not a directory.").arg(path));
+                  u"Could not create the folder “%1”: Not a directory."_s.arg(path));
     }
 }
 
 TEST(Paths, ensureThrowsWhereARegularFileIs)
 {
     const TestFolder folder;
-    EXPECT_THROW(Paths::ensure(folder.write(QStringLiteral("file"))), PlatformError);
+    EXPECT_THROW(Paths::ensure(folder.write(u"file"_s)), PlatformError);
 }
 
 TEST(PathsSize, isZeroForAFolderThatIsMissingOrEmpty)
 {
     const TestFolder folder;
-    EXPECT_EQ(Paths::size(folder.path(QStringLiteral("none"))), 0);
-    folder.makeFolder(QStringLiteral("empty folder in it"));
+    EXPECT_EQ(Paths::size(folder.path(u"none"_s)), 0);
+    folder.makeFolder(u"empty folder in it"_s);
     EXPECT_EQ(Paths::size(folder.path()), 0);
 }
 
@@ -125,7 +127,7 @@ TEST(PathsSize, countsEveryFileOfAWideTreeOnce)
     const TestFolder folder;
     qint64 expected = 0;
     for (int i = 0; i < 200; ++i) {
-        const auto name = QStringLiteral("%1/%2/file").arg(i % 20).arg(i);
+        const auto name = u"%1/%2/file"_s.arg(i % 20).arg(i);
         expected += allocated(folder.write(name, QByteArray(100 * i, 'x')));
     }
     EXPECT_EQ(Paths::size(folder.path()), expected);
@@ -134,7 +136,7 @@ TEST(PathsSize, countsEveryFileOfAWideTreeOnce)
 TEST(PathsSize, countsBlocksAndNotTheLength)
 {
     const TestFolder folder;
-    const auto sparse = folder.write(QStringLiteral("sparse"));
+    const auto sparse = folder.write(u"sparse"_s);
     ASSERT_TRUE(QFile::resize(sparse, 100'000'000));
     EXPECT_EQ(Paths::size(folder.path()), allocated(sparse));
     EXPECT_LT(Paths::size(folder.path()), 1'000'000);
@@ -143,30 +145,29 @@ TEST(PathsSize, countsBlocksAndNotTheLength)
 TEST(PathsSize, neitherFollowsNorCountsLinks)
 {
     const TestFolder elsewhere;
-    elsewhere.write(QStringLiteral("large"), QByteArray(1'000'000, 'x'));
+    elsewhere.write(u"large"_s, QByteArray(1'000'000, 'x'));
     const TestFolder folder;
-    const auto inside = folder.write(QStringLiteral("inside"), QByteArray(5'000, 'x'));
-    ASSERT_TRUE(
-        QFile::link(elsewhere.path(QStringLiteral("large")), folder.path(QStringLiteral("a"))));
-    ASSERT_TRUE(QFile::link(elsewhere.path(), folder.path(QStringLiteral("b"))));
-    ASSERT_TRUE(QFile::link(folder.path(), folder.path(QStringLiteral("loop"))));
-    ASSERT_TRUE(QFile::link(inside, folder.path(QStringLiteral("c"))));
+    const auto inside = folder.write(u"inside"_s, QByteArray(5'000, 'x'));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"large"_s), folder.path(u"a"_s)));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), folder.path(u"b"_s)));
+    ASSERT_TRUE(QFile::link(folder.path(), folder.path(u"loop"_s)));
+    ASSERT_TRUE(QFile::link(inside, folder.path(u"c"_s)));
     EXPECT_EQ(Paths::size(folder.path()), allocated(inside));
 }
 
 TEST(PathsSize, doesNotCountAFile)
 {
     const TestFolder folder;
-    EXPECT_EQ(Paths::size(folder.write(QStringLiteral("file"), "x")), 0);
+    EXPECT_EQ(Paths::size(folder.write(u"file"_s, "x")), 0);
 }
 
 TEST(PathsSize, passesOverAFolderThatCannotBeRead)
 {
     const TestFolder folder;
-    folder.write(QStringLiteral("locked/file"), QByteArray(5'000, 'x'));
-    const auto readable = folder.write(QStringLiteral("open/file"), QByteArray(5'000, 'x'));
+    folder.write(u"locked/file"_s, QByteArray(5'000, 'x'));
+    const auto readable = folder.write(u"open/file"_s, QByteArray(5'000, 'x'));
     const auto expected = allocated(readable);
-    const auto locked = QFile::encodeName(folder.path(QStringLiteral("locked")));
+    const auto locked = QFile::encodeName(folder.path(u"locked"_s));
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
     ASSERT_EQ(::chmod(locked.constData(), 0), 0);
     // The administrator may read everything, so an ordinary user measures.
@@ -181,7 +182,7 @@ TEST(PathsSize, passesOverAFolderThatCannotBeRead)
 TEST(PathsSize, endsEarlyWhenItIsToStop)
 {
     const TestFolder folder;
-    folder.write(QStringLiteral("file"), QByteArray(5'000, 'x'));
+    folder.write(u"file"_s, QByteArray(5'000, 'x'));
     std::stop_source stop;
     stop.request_stop();
     EXPECT_EQ(Paths::size(folder.path(), stop.get_token()), 0);
@@ -190,7 +191,7 @@ TEST(PathsSize, endsEarlyWhenItIsToStop)
 TEST(PathsSize, measuresATreeDeeperThanFoldersMayBeOpenAndPathsBeLong)
 {
     const TestFolder folder;
-    const auto deep = QFile::encodeName(folder.makeFolder(QStringLiteral("deep")));
+    const auto deep = QFile::encodeName(folder.makeFolder(u"deep"_s));
     int here = ::open(deep.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     for (int level = 0; level < 1'500; ++level) {
         ASSERT_EQ(::mkdirat(here, "folder", 0755), 0);
@@ -211,7 +212,7 @@ TEST(PathsSize, measuresATreeDeeperThanFoldersMayBeOpenAndPathsBeLong)
     EXPECT_EQ(Paths::size(folder.path()), expected);
 
     // The library that removes the test's folder cannot name what lies so deep.
-    FileTree::remove(folder.path(QStringLiteral("deep")));
+    FileTree::remove(folder.path(u"deep"_s));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Install/TemporaryFolder.h"
 
-#include "Platform/FileDescriptor.h"
-#include "Platform/PlatformError.h"
 #include "Support/TestFolder.h"
+#include "System/Errors.h"
+#include "System/FileDescriptor.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +17,8 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +34,7 @@ protected:
     }
 
     const TestFolder m_parent;
-    const QString m_path = m_parent.path(QStringLiteral("new parent/größe"));
+    const QString m_path = m_parent.path(u"new parent/größe"_s);
 };
 
 TEST_F(TemporaryFolderTest, existsWithItsParentsForTheUserAlone)
@@ -50,7 +52,7 @@ TEST_F(TemporaryFolderTest, isRemovedWithEverythingInItWhenItsOwnerGoes)
 {
     {
         const TemporaryFolder folder(m_path);
-        m_parent.write(QStringLiteral("new parent/größe/a/b"));
+        m_parent.write(u"new parent/größe/a/b"_s);
     }
     EXPECT_FALSE(QFileInfo::exists(m_path));
     EXPECT_TRUE(QFileInfo::exists(QFileInfo(m_path).path()));
@@ -61,7 +63,7 @@ TEST_F(TemporaryFolderTest, canBeRemovedEarly)
     TemporaryFolder folder(m_path);
     folder.remove();
     EXPECT_FALSE(QFileInfo::exists(m_path));
-    m_parent.makeFolder(QStringLiteral("new parent/größe"));
+    m_parent.makeFolder(u"new parent/größe"_s);
     folder.remove(); // It owns nothing any more.
     EXPECT_TRUE(QFileInfo::exists(m_path));
 }
@@ -92,9 +94,8 @@ TEST_F(TemporaryFolderTest, isNotMadeWhereSomethingIsAlready)
         const TemporaryFolder again(m_path);
         FAIL() << "It was made.";
     } catch (const PlatformError& error) {
-        EXPECT_EQ(
-            error.message(),
-            QStringLiteral("Could not create the temporary folder “%1”: File exists.").arg(m_path));
+        EXPECT_EQ(error.message(),
+                  u"Could not create the temporary folder “%1”: File exists."_s.arg(m_path));
     }
     EXPECT_TRUE(QFileInfo::exists(m_path));
 }

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Install/DownloadProgress.h"
 #include "Install/RepoDownloader.h"
-#include "Platform/ByteCount.h"
-#include "Platform/FileTree.h"
-#include "Platform/PlatformError.h"
 #include "Support/Eventually.h"
 #include "Support/InstallTest.h"
 #include "Support/MarkedLanguage.h"
+#include "System/ByteCount.h"
+#include "System/Errors.h"
+#include "System/FileTree.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,25 +20,24 @@ protected:
 
 TEST_F(TranslatedTexts, areAmountsAndProgress)
 {
-    EXPECT_EQ(formattedByteCount(0), QStringLiteral("<Zero KB>"));
-    EXPECT_EQ(formattedByteCount(1), QStringLiteral("<1 byte>"));
-    EXPECT_EQ(formattedByteCount(512), QStringLiteral("<512 bytes>"));
-    EXPECT_EQ(formattedByteCount(7'300'000), QStringLiteral("<7.3 MB>"));
+    EXPECT_EQ(formattedByteCount(0), u"<Zero KB>"_s);
+    EXPECT_EQ(formattedByteCount(1), u"<1 byte>"_s);
+    EXPECT_EQ(formattedByteCount(512), u"<512 bytes>"_s);
+    EXPECT_EQ(formattedByteCount(7'300'000), u"<7.3 MB>"_s);
     const DownloadProgress progress{.received = 1, .total = 2'000, .bytesPerSecond = 3'000};
-    EXPECT_EQ(progress.text(), QStringLiteral("<<1 byte> of <2 KB> · <<3 KB>/s>>"));
+    EXPECT_EQ(progress.text(), u"<<1 byte> of <2 KB> · <<3 KB>/s>>"_s);
 }
 
 TEST_F(TranslatedTexts, areFailuresOfTheSystem)
 {
-    const auto path = home.write(QStringLiteral("a %1 file"));
+    const auto path = home.write(u"a %1 file"_s);
     try {
-        FileTree::replace(path + QStringLiteral("/Game"), home.makeFolder(QStringLiteral("new")),
-                          path + QStringLiteral("/old"));
+        FileTree::replace(path + u"/Game"_s, home.makeFolder(u"new"_s), path + u"/old"_s);
         FAIL() << "It succeeded.";
     } catch (const PlatformError& error) {
-        EXPECT_TRUE(error.message().startsWith(QStringLiteral("<Could not <exchange “")))
+        EXPECT_TRUE(error.message().startsWith(u"<Could not <exchange “"_s))
             << error.message().toStdString();
-        EXPECT_TRUE(error.message().contains(QStringLiteral("a %1 file/Game”>: ")))
+        EXPECT_TRUE(error.message().contains(u"a %1 file/Game”>: "_s))
             << error.message().toStdString();
     }
 }
@@ -44,11 +45,10 @@ TEST_F(TranslatedTexts, areFailuresOfTheSystem)
 TEST_F(TranslatedTexts, areFailuresOfAnInstallationButNotItsLog)
 {
     const auto outcome = eventually(RepoDownloader::fetch(downloader, log(), stop.get_token()));
-    EXPECT_TRUE(outcome.sentence.startsWith(QStringLiteral("<The server answered with HTTP 404")))
+    EXPECT_TRUE(outcome.sentence.startsWith(u"<The server answered with HTTP 404"_s))
         << outcome.sentence.toStdString();
-    EXPECT_TRUE(outcome.sentence.endsWith(QStringLiteral(".>")));
-    EXPECT_EQ(lines(), QStringList{QStringLiteral(
-                           "Downloading the game source from GitHub (branch master)…")});
+    EXPECT_TRUE(outcome.sentence.endsWith(u".>"_s));
+    EXPECT_EQ(lines(), QStringList{u"Downloading the game source from GitHub (branch master)…"_s});
 }
 
 } // namespace

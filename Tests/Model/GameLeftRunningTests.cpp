@@ -3,6 +3,8 @@
 #include "Support/ForkedProcess.h"
 #include "Support/ModelTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using GameOfThisLauncher = ModelTest;
@@ -13,7 +15,7 @@ class GameLeftRunning : public ModelTest
 protected:
     GameLeftRunning()
     {
-        EXPECT_TRUE(waitUntil([this] { return session.isGameRunning(); }));
+        EXPECT_TRUE(waitUntil([this] { return lock.isGameRunning(); }));
         installGame();
         installEngine("exit 0");
         writeMarker();
@@ -24,15 +26,14 @@ protected:
         model().refreshState();
         (model().*action)();
         EXPECT_FALSE(model().isFlowRunning());
-        EXPECT_EQ(model().phase(),
-                  Phase::needs(QStringLiteral(
-                      "The game is still running from an earlier start. Close it first.")));
+        EXPECT_EQ(
+            model().phase(),
+            Phase::needs(u"The game is still running from an earlier start. Close it first."_s));
         EXPECT_EQ(logged().constLast(),
-                  QStringLiteral(
-                      "Error: The game is still running from an earlier start. Close it first."));
+                  u"Error: The game is still running from an earlier start. Close it first."_s);
     }
 
-    ForkedProcess game{[this] { SessionLock::holdAsGame(session.descriptor()); }};
+    ForkedProcess game{[this] { InstallationLock::holdAsGame(lock.descriptor()); }};
 };
 
 TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
@@ -42,13 +43,12 @@ TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
     expectRefusal(&AppModel::reinstall);
     expectRefusal(&AppModel::removeEverything);
     EXPECT_TRUE(desktop.questions.isEmpty());
-    EXPECT_TRUE(
-        home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable")));
+    EXPECT_TRUE(home.exists(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s));
 
     game.kill();
     model().removeEverything();
-    waitForFlow();
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    waitForDeletion();
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
 }
 
 TEST_F(GameOfThisLauncher, isKnownWhileItRunsAndNotAfterwards)
@@ -58,11 +58,11 @@ TEST_F(GameOfThisLauncher, isKnownWhileItRunsAndNotAfterwards)
     writeMarker();
     startModel().play();
     waitForPhase(Phase::Kind::playing);
-    EXPECT_TRUE(waitUntil([this] { return session.isGameRunning(); }))
+    EXPECT_TRUE(waitUntil([this] { return lock.isGameRunning(); }))
         << "for another launcher to see, should this one be killed";
     model().stopGame();
     waitForFlow();
-    EXPECT_FALSE(session.isGameRunning());
+    EXPECT_FALSE(lock.isGameRunning());
 }
 
 } // namespace

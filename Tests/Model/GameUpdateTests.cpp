@@ -2,8 +2,11 @@
 #include "Model/SetupTest.h"
 
 #include "Support/BusyPool.h"
+#include "Support/UnchangeableScope.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,9 +39,8 @@ TEST_F(GameUpdateTest, updatesTheGameAndImportsItAnew)
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::ready());
     EXPECT_EQ(model().info()->name, u"Newer");
-    EXPECT_EQ(steps.filter(QStringLiteral("Setting up")).size(), 2);
-    EXPECT_TRUE(
-        logged().contains(QStringLiteral("Step 2 of 4 · Engine already installed, skipping.")));
+    EXPECT_EQ(steps.filter(u"Setting up"_s).size(), 2);
+    EXPECT_TRUE(logged().contains(u"Step 2 of 4 · Engine already installed, skipping."_s));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
@@ -47,23 +49,23 @@ TEST_F(GameUpdateTest, completesASwapThatIsUnderWayWhenItIsCancelled)
     playToTheEnd();
     // The deletion of the former game is the last part of the swap, and the only long one. It may
     // still be over before it is seen.
-    const auto former = QStringLiteral("data/Cavernyx Platformer/Game/former/");
+    const auto former = u"data/Cavernyx Platformer/Game/former/"_s;
     auto isUnderWay = false;
     for (int attempt = 0; attempt < 10 && !isUnderWay; ++attempt) {
         for (int file = 0; file < 10'000; ++file)
             home.write(former + QString::number(file));
-        const auto news = QStringLiteral("tetherwalk-master/news-%1").arg(attempt);
+        const auto news = u"tetherwalk-master/news-%1"_s.arg(attempt);
         serveGame("config_version=4\n", news.toUtf8());
         model().updateGame();
-        while (model().isFlowRunning() && !exists(QStringLiteral("Game/") + news))
+        while (model().isFlowRunning() && !exists(u"Game/"_s + news))
             QCoreApplication::processEvents();
-        isUnderWay = !leftovers().filter(QStringLiteral("Game.new-")).isEmpty();
+        isUnderWay = !stagingFolders().filter(u"Game.new-"_s).isEmpty();
         model().cancelSetup();
         waitForFlow();
     }
     ASSERT_TRUE(isUnderWay);
-    EXPECT_TRUE(exists(QStringLiteral("Game/tetherwalk-master/project.godot")));
-    EXPECT_FALSE(exists(QStringLiteral("Game/former")));
+    EXPECT_TRUE(exists(u"Game/tetherwalk-master/project.godot"_s));
+    EXPECT_FALSE(exists(u"Game/former"_s));
     expectNothingInstalled();
 }
 
@@ -73,17 +75,115 @@ TEST_F(GameUpdateTest, keepsTheInstalledGameWhenItsUpdateFails)
     server.on(gamePath, HttpServer::reply(200, "no archive"));
     model().updateGame();
     waitForFlow();
-    EXPECT_EQ(model().phase(),
-              Phase::needs(QStringLiteral("Unzipping failed (ditto exit code 1).")));
-    EXPECT_TRUE(exists(QStringLiteral("Game/tetherwalk-master/project.godot")));
-    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    EXPECT_EQ(model().phase(), Phase::needs(u"Unzipping failed (ditto exit code 1)."_s));
+    EXPECT_TRUE(exists(u"Game/tetherwalk-master/project.godot"_s));
+    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
     EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(GameUpdateTest, keepsAGameThatCanBePlayedWhenItsUpdateCannot)
+{
+    playToTheEnd();
+    for (const QByteArray project :
+         {"config_version=4\r\n", "config_version=\xff\n", "nothing\n"}) {
+        serveGame(project);
+        model().updateGame();
+        waitForFlow();
+        const auto sentence = u"The downloaded folder has no readable project.godot."_s;
+        EXPECT_EQ(model().phase(), Phase::needs(sentence));
+        EXPECT_EQ(logged().constLast(), u"Error: "_s + sentence);
+        EXPECT_EQ(logged().filter(u"Game ready at"_s).size(), 1);
+        EXPECT_EQ(leftovers(), QStringList());
+        playToTheEnd();
+        EXPECT_EQ(model().phase(), Phase::ready()) << project.constData();
+    }
+}
+
+TEST_F(GameUpdateTest, keepsAGodot3GameWhenItsUpdateIsForGodot4)
+{
+    playToTheEnd();
+    serveGame("config_version=5\nconfig/name=\"Newer\"\n");
+    model().updateGame();
+    waitForFlow();
+    EXPECT_EQ(model().phase(),
+              Phase::needs(u"This game is made for Godot 4, but this app only knows "
+                           "how to install Godot 3."_s));
+    EXPECT_FALSE(logged().filter(u"config_version=5 → Godot 4.x"_s).isEmpty());
+    EXPECT_EQ(logged().filter(u"Game ready at"_s).size(), 1);
+    EXPECT_EQ(model().info()->name, u"Newer");
+    model().refreshState();
+    EXPECT_NE(model().info()->name, u"Newer");
+    playToTheEnd();
+    EXPECT_EQ(model().phase(), Phase::ready());
+}
+
+TEST_F(GameUpdateTest, replacesAGameThatCannotBePlayedByAnotherOne)
+{
+    serveGame("config_version=5\nconfig/name=\"Old\"\n");
+    playToTheEnd();
+    EXPECT_EQ(model().info()->name, u"Old");
+    serveGame("config_version=5\nconfig/name=\"Newer\"\n");
+    model().updateGame();
+    waitForFlow();
+    EXPECT_EQ(logged().filter(u"Game ready at"_s).size(), 2);
+    model().refreshState();
+    EXPECT_EQ(model().info()->name, u"Newer");
+}
+
+TEST_F(GameUpdateTest, downloadsAfterADeletionThatIsUnderWay)
+{
+    playToTheEnd();
+    for (int file = 0; file < 20'000; ++file)
+        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    model().removeEverything();
+    waitForFlow();
+    ASSERT_FALSE(stagingFolders().isEmpty()) << "It was deleted before anybody could press Play.";
+    server.on(gamePath, [this](const HttpServer::Connection&) {
+        EXPECT_EQ(stagingFolders().filter(u".new-"_s), QStringList());
+    });
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    waitForFlow();
+    EXPECT_GE(requestsOf(gamePath), 2);
+}
+
+TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
+{
+    playToTheEnd();
+    for (int file = 0; file < 20'000; ++file)
+        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    model().removeEverything();
+    waitForFlow();
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    model().cancelSetup();
+    waitForFlow();
+    expectNothingInstalled();
+}
+
+TEST_F(GameUpdateTest, endsInTheSentenceOfADeletionThatFailed)
+{
+    playToTheEnd();
+    const auto stuck = home.write(u"data/Cavernyx Platformer/Game/many/stuck"_s);
+    const UnchangeableScope unchangeable(stuck);
+    if (!unchangeable.isInForce())
+        GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+    for (int file = 0; file < 20'000; ++file)
+        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    model().removeEverything();
+    waitForFlow();
+    model().play();
+    waitForFlow();
+    EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "));
+    EXPECT_EQ(requestsOf(gamePath), 1);
+    playToTheEnd();
+    EXPECT_EQ(model().phase(), Phase::ready());
 }
 
 TEST_F(GameUpdateTest, reinstallsGameAndEngine)
 {
     playToTheEnd();
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/stray"));
+    home.write(u"data/Cavernyx Platformer/Game/stray"_s);
     model().reinstall();
     ASSERT_EQ(desktop.questions.size(), 1);
     EXPECT_EQ(desktop.questions[0].title, u"Reinstall everything?");
@@ -93,7 +193,7 @@ TEST_F(GameUpdateTest, reinstallsGameAndEngine)
     EXPECT_EQ(desktop.questions[0].button, u"Reinstall");
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::ready());
-    EXPECT_FALSE(exists(QStringLiteral("Game/stray")));
+    EXPECT_FALSE(exists(u"Game/stray"_s));
     // The network library repeats a request when the connection closes at the wrong moment.
     EXPECT_GE(requestsOf(gamePath), 2);
     EXPECT_GE(requestsOf(releasePath + engineName), 2);

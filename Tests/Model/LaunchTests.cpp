@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Everything is installed; the engine is a script.
@@ -23,7 +25,7 @@ protected:
 
     [[nodiscard]] bool markerExists() const
     {
-        return home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"));
+        return home.exists(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s);
     }
 
     /// Keeps the titles shown while the model changes.
@@ -39,7 +41,7 @@ protected:
     /// Waits for the word of an engine that says so.
     void waitUntilItIsUp()
     {
-        ASSERT_TRUE(waitUntil([this] { return logged().contains(QStringLiteral("up")); }));
+        ASSERT_TRUE(waitUntil([this] { return logged().contains(u"up"_s); }));
     }
 
     QStringList titles;
@@ -51,18 +53,16 @@ TEST_F(Launch, skipsWhatIsDoneAndStartsTheGameAtOnce)
     watchTitles();
     model().play();
     waitForFlow();
-    const auto project = root(QStringLiteral("Game/tetherwalk-master"));
+    const auto project = root(u"Game/tetherwalk-master"_s);
     EXPECT_EQ(logged(),
-              (QStringList{
-                  QStringLiteral("Step 1 of 4 · Game already downloaded, skipping."),
-                  QStringLiteral("project.godot: config_version=4 → Godot 3.x, C#: no, main scene: "
-                                 "res://main.tscn"),
-                  QStringLiteral("Step 2 of 4 · Engine already installed, skipping."),
-                  QStringLiteral("Step 3 of 4 · Already set up, skipping."),
-                  QStringLiteral("Step 4 of 4 · Starting: Godot --path %1 --windowed").arg(project),
-                  QStringLiteral("Game closed normally.")}));
-    EXPECT_EQ(titles, (QStringList{QStringLiteral("Ready"), QStringLiteral("Starting…"),
-                                   QStringLiteral("Playing"), QStringLiteral("Ready")}));
+              (QStringList{u"Step 1 of 4 · Game already downloaded, skipping."_s,
+                           u"project.godot: config_version=4 → Godot 3.x, C#: no, main scene: "
+                           "res://main.tscn"_s,
+                           u"Step 2 of 4 · Engine already installed, skipping."_s,
+                           u"Step 3 of 4 · Already set up, skipping."_s,
+                           u"Step 4 of 4 · Starting: Godot --path %1 --windowed"_s.arg(project),
+                           u"Game closed normally."_s}));
+    EXPECT_EQ(titles, (QStringList{u"Ready"_s, u"Starting…"_s, u"Playing"_s, u"Ready"_s}));
     EXPECT_TRUE(markerExists());
     EXPECT_TRUE(model().stepText().isEmpty());
 }
@@ -74,10 +74,10 @@ TEST_F(Launch, startsTheGameWithTheChosenSettings)
     model().setResolution(ResolutionChoice::r1440);
     model().play();
     waitForFlow();
-    const auto line = QStringLiteral("--path %1 --fullscreen --resolution 2560x1440")
-                          .arg(root(QStringLiteral("Game/tetherwalk-master")));
+    const auto line =
+        u"--path %1 --fullscreen --resolution 2560x1440"_s.arg(root(u"Game/tetherwalk-master"_s));
     EXPECT_TRUE(logged().contains(line)) << logged().join(u'\n').toStdString();
-    EXPECT_TRUE(logged().contains(QStringLiteral("Step 4 of 4 · Starting: Godot ") + line));
+    EXPECT_TRUE(logged().contains(u"Step 4 of 4 · Starting: Godot "_s + line));
 }
 
 TEST_F(Launch, reportsAGameThatClosesAtOnceAndImportsAgainNextTime)
@@ -85,11 +85,11 @@ TEST_F(Launch, reportsAGameThatClosesAtOnceAndImportsAgainNextTime)
     startReady("echo failing; exit 7");
     model().play();
     waitForFlow();
-    const auto sentence = QStringLiteral(
-        "The game closed after 0 seconds (exit code 7), so it did not start properly.");
+    const auto sentence =
+        u"The game closed after 0 seconds (exit code 7), so it did not start properly."_s;
     EXPECT_EQ(model().phase(), Phase::needs(sentence));
-    EXPECT_TRUE(model().failureText()->startsWith(QStringLiteral("What happened: ") + sentence));
-    EXPECT_TRUE(model().failureText()->endsWith(QStringLiteral("failing\nError: ") + sentence));
+    EXPECT_TRUE(model().failureText()->startsWith(u"What happened: "_s + sentence));
+    EXPECT_TRUE(model().failureText()->endsWith(u"failing\nError: "_s + sentence));
     EXPECT_EQ(model().stepText(), u"Step 4 of 4 · Play");
     EXPECT_FALSE(model().stillStarting());
     EXPECT_FALSE(markerExists());
@@ -98,13 +98,12 @@ TEST_F(Launch, reportsAGameThatClosesAtOnceAndImportsAgainNextTime)
 TEST_F(Launch, keepsTheMarkerOfACSharpGameThatClosesAtOnce)
 {
     installGame("config/features=PoolStringArray(\"C#\")\n");
-    installEngine("exit 0", QStringLiteral("3.5.3-stable-mono"));
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"));
+    installEngine("exit 0", u"3.5.3-stable-mono"_s);
+    home.write(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"_s);
     startModel().play();
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::Kind::needs);
-    EXPECT_TRUE(
-        home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono")));
+    EXPECT_TRUE(home.exists(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"_s));
 }
 
 TEST_F(Launch, reportsACrashOfARunningGameAndKeepsTheMarker)
@@ -112,8 +111,7 @@ TEST_F(Launch, reportsACrashOfARunningGameAndKeepsTheMarker)
     startReady("sleep 0.5; exit 1");
     model().play();
     waitForFlow();
-    EXPECT_EQ(model().phase(),
-              Phase::needs(QStringLiteral("The game stopped unexpectedly (exit code 1).")));
+    EXPECT_EQ(model().phase(), Phase::needs(u"The game stopped unexpectedly (exit code 1)."_s));
     EXPECT_TRUE(markerExists());
 }
 
@@ -158,7 +156,7 @@ TEST_F(Launch, killsAGameThatIgnoresTheRequestToStop)
 TEST_F(Launch, reportsAnEngineThatCannotBeStarted)
 {
     startReady("exit 0");
-    home.write(QStringLiteral("data/Cavernyx Platformer/Engine/3.5.3-stable/Godot_v3.5.3"),
+    home.write(u"data/Cavernyx Platformer/Engine/3.5.3-stable/Godot_v3.5.3"_s,
                "\x7f"
                "ELF is not what this is");
     model().play();
@@ -166,7 +164,7 @@ TEST_F(Launch, reportsAnEngineThatCannotBeStarted)
     EXPECT_EQ(model().phase(), Phase::Kind::needs);
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not start "))
         << model().phase().message().toStdString();
-    EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + model().phase().message());
+    EXPECT_EQ(logged().last(), u"Error: "_s + model().phase().message());
     EXPECT_FALSE(model().stillStarting());
 }
 
@@ -180,7 +178,7 @@ TEST_F(Launch, ignoresAPressOfPlayWhileTheGameRuns)
     model().play();
     EXPECT_EQ(logged(), before);
     waitForFlow();
-    EXPECT_EQ(logged().filter(QStringLiteral("Step 4 of 4")).size(), 1);
+    EXPECT_EQ(logged().filter(u"Step 4 of 4"_s).size(), 1);
 }
 
 TEST_F(Launch, judgesACancelDuringPlayByTheOutcomeAndSaysCancelled)

@@ -6,6 +6,8 @@
 #include <functional>
 #include <ostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Action
@@ -40,7 +42,7 @@ protected:
 
     [[nodiscard]] bool isUnchanged() const
     {
-        return home.exists(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"));
+        return home.exists(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s);
     }
 };
 

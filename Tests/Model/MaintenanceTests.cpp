@@ -2,6 +2,8 @@
 #include "Support/AppModelAccess.h"
 #include "Support/ModelTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Maintenance = ModelTest;
@@ -10,7 +12,7 @@ TEST_F(Maintenance, copiesTheFailureReportWhenThereIsOne)
 {
     startModel().copyFailure();
     EXPECT_TRUE(desktop.copied.isEmpty());
-    AppModelAccess::fail(model(), QStringLiteral("No."));
+    AppModelAccess::fail(model(), u"No."_s);
     model().copyFailure();
     EXPECT_EQ(desktop.copied, QStringList{*model().failureText()});
 }
@@ -57,7 +59,7 @@ TEST_F(Maintenance, doesNothingWhenDeclined)
     model().removeEverything();
     EXPECT_EQ(desktop.questions.size(), 3);
     EXPECT_FALSE(model().isBusy());
-    EXPECT_TRUE(home.exists(QStringLiteral("data/Cavernyx Platformer/Game")));
+    EXPECT_TRUE(home.exists(u"data/Cavernyx Platformer/Game"_s));
 }
 
 TEST_F(Maintenance, showsTheSavesOnlyOnceThereAreSome)
@@ -67,7 +69,7 @@ TEST_F(Maintenance, showsTheSavesOnlyOnceThereAreSome)
     EXPECT_FALSE(model().savesFolder());
     model().showSaves();
     EXPECT_TRUE(desktop.opened.isEmpty());
-    const auto saves = home.makeFolder(QStringLiteral("data/godot/app_userdata/Tether"));
+    const auto saves = home.makeFolder(u"data/godot/app_userdata/Tether"_s);
     EXPECT_EQ(model().savesFolder(), saves);
     model().showSaves();
     EXPECT_EQ(desktop.opened, QStringList{saves});
@@ -76,7 +78,7 @@ TEST_F(Maintenance, showsTheSavesOnlyOnceThereAreSome)
 TEST_F(Maintenance, revealsTheRootOrElseItsParent)
 {
     startModel().revealInFinder();
-    EXPECT_EQ(desktop.revealed, QStringList{home.path(QStringLiteral("data"))});
+    EXPECT_EQ(desktop.revealed, QStringList{home.path(u"data"_s)});
     installGame();
     model().revealInFinder();
     EXPECT_EQ(desktop.revealed.last(), root());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "PlayOutcome.h"
+#include "Model/PlayOutcome.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ProgressRelay.h"
+#include "Model/ProgressRelay.h"
 #include "Support/Await.h"
 
 #include <gtest/gtest.h>

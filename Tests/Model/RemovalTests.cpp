@@ -2,6 +2,7 @@
 // What "Remove everything" removes, and what it leaves alone.
 
 #include "Support/Await.h"
+#include "Support/BusyPool.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/ModelTest.h"
 
@@ -16,6 +17,8 @@
 #if defined(Q_OS_LINUX)
 #include <sys/mount.h>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,15 +58,13 @@ constexpr auto ownMounts = "CAVERNYX_TEST_HAS_OWN_MOUNTS";
 std::optional<int> runAgainWithOwnMounts()
 {
     const auto& test = *testing::UnitTest::GetInstance()->current_test_info();
-    const auto filter =
-        QStringLiteral("--gtest_filter=%1.%2")
-            .arg(QString::fromUtf8(test.test_suite_name()), QString::fromUtf8(test.name()));
-    QStringList arguments{QStringLiteral("--mount"), QStringLiteral("--propagation"),
-                          QStringLiteral("private")};
+    const auto filter = u"--gtest_filter=%1.%2"_s.arg(QString::fromUtf8(test.test_suite_name()),
+                                                      QString::fromUtf8(test.name()));
+    QStringList arguments{u"--mount"_s, u"--propagation"_s, u"private"_s};
     if (::geteuid() != 0)
-        arguments.append(QStringLiteral("--map-root-user"));
-    const auto unshare = QStringLiteral("unshare");
-    if (QProcess::execute(unshare, arguments + QStringList{QStringLiteral("true")}) != 0)
+        arguments.append(u"--map-root-user"_s);
+    const auto unshare = u"unshare"_s;
+    if (QProcess::execute(unshare, arguments + QStringList{u"true"_s}) != 0)
         return std::nullopt;
     const EnvironmentScope inside(ownMounts, "yes");
     return QProcess::execute(
@@ -76,18 +77,16 @@ TEST_F(RemovalTest, removesEverythingAndEmptiesTheLog)
 {
     installGame();
     startModel();
-    model().log().append(QStringLiteral("a line"));
+    model().log().append(u"a line"_s);
     ASSERT_TRUE(waitUntil([this] { return !model().installedSize().isEmpty(); }));
     const auto size = model().installedSize();
     model().removeEverything();
     ASSERT_EQ(desktop.questions.size(), 1);
-    EXPECT_EQ(
-        desktop.questions[0].message,
-        QStringLiteral("This deletes the downloaded game and engine and frees %1. Your save files "
-                       "in Godot's folder are not touched.")
-            .arg(size));
-    waitForFlow();
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_EQ(desktop.questions[0].message,
+              u"This deletes the downloaded game and engine and frees %1. Your save files "
+              "in Godot's folder are not touched."_s.arg(size));
+    waitForDeletion();
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_TRUE(logged().isEmpty());
     EXPECT_TRUE(waitUntil([this] { return model().installedSize().isEmpty(); }));
@@ -97,48 +96,47 @@ TEST_F(RemovalTest, saysWhatCouldNotBeRemovedAndKeepsTheLog)
 {
     installGame();
     startModel();
-    model().log().append(QStringLiteral("a line"));
-    const auto locked = root(QStringLiteral("Game/tetherwalk-master")).toUtf8();
+    model().log().append(u"a line"_s);
+    const auto locked = root(u"Game/tetherwalk-master"_s).toUtf8();
     ASSERT_EQ(::chmod(home.path().toUtf8().constData(), 0755), 0);
     ASSERT_EQ(::chmod(locked.constData(), 0555), 0);
     {
         const OrdinaryUserScope ordinary;
         model().removeEverything();
-        waitForFlow();
+        waitForDeletion();
     }
 
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
         << model().statusDetail().toStdString();
     EXPECT_TRUE(model().failureText());
-    EXPECT_EQ(logged(), QStringList{QStringLiteral("a line")});
-    for (const auto& name :
-         {QStringLiteral("Game"), home.names(QStringLiteral("data/Cavernyx Platformer")).value(0)})
-        ::chmod((root(name) + QStringLiteral("/tetherwalk-master")).toUtf8().constData(), 0755);
+    EXPECT_EQ(logged(), QStringList{u"a line"_s});
+    for (const auto& name : {u"Game"_s, home.names(u"data/Cavernyx Platformer"_s).value(0)})
+        ::chmod((root(name) + u"/tetherwalk-master"_s).toUtf8().constData(), 0755);
     model().removeEverything();
-    waitForFlow();
+    waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
 }
 
 TEST_F(RemovalTest, removesOnlyTheLinkOfARootThatIsALink)
 {
-    const auto elsewhere = home.write(QStringLiteral("elsewhere/Game/project.godot"), "x");
-    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), root()));
+    const auto elsewhere = home.write(u"elsewhere/Game/project.godot"_s, "x");
+    ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), root()));
     startModel().removeEverything();
-    waitForFlow();
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    waitForDeletion();
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
     EXPECT_TRUE(QFile::exists(elsewhere));
 }
 
 TEST_F(RemovalTest, removesOnlyTheLinkOfAGameThatIsALink)
 {
-    const auto elsewhere = home.write(QStringLiteral("elsewhere/project.godot"), "x");
-    home.makeFolder(QStringLiteral("data/Cavernyx Platformer"));
-    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), root(QStringLiteral("Game"))));
+    const auto elsewhere = home.write(u"elsewhere/project.godot"_s, "x");
+    home.makeFolder(u"data/Cavernyx Platformer"_s);
+    ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), root(u"Game"_s)));
     startModel().removeEverything();
-    waitForFlow();
+    waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
     EXPECT_TRUE(QFile::exists(elsewhere));
 }
 
@@ -154,58 +152,89 @@ TEST_F(RemovalTest, leavesAFolderThatIsMountedIntoTheGameAloneAndSaysSo)
         return;
     }
     installGame();
-    const auto kept = home.write(QStringLiteral("elsewhere/kept"));
+    const auto kept = home.write(u"elsewhere/kept"_s);
     const auto place =
-        home.makeFolder(QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/mounted"));
-    ASSERT_EQ(::mount(QFile::encodeName(home.path(QStringLiteral("elsewhere"))).constData(),
+        home.makeFolder(u"data/Cavernyx Platformer/Game/tetherwalk-master/mounted"_s);
+    ASSERT_EQ(::mount(QFile::encodeName(home.path(u"elsewhere"_s)).constData(),
                       QFile::encodeName(place).constData(), nullptr, MS_BIND, nullptr),
               0);
     startModel().removeEverything();
-    waitForFlow();
+    waitForDeletion();
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
         << model().statusDetail().toStdString();
     EXPECT_TRUE(model().phase().message().contains(u"another file system is mounted there"));
     EXPECT_TRUE(QFile::exists(kept));
 
-    const auto left = home.names(QStringLiteral("data/Cavernyx Platformer"));
+    const auto left = home.names(u"data/Cavernyx Platformer"_s);
     ASSERT_EQ(left.size(), 1);
-    const auto placeNow = root(left.constFirst() + QStringLiteral("/tetherwalk-master/mounted"));
+    const auto placeNow = root(left.constFirst() + u"/tetherwalk-master/mounted"_s);
     ASSERT_EQ(::umount(QFile::encodeName(placeNow).constData()), 0);
     model().removeEverything();
-    waitForFlow();
+    waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
     EXPECT_TRUE(QFile::exists(kept));
 }
 
 #endif
 
-TEST_F(RemovalTest, refusesEverythingWhileADeletionIsUnderWay)
+TEST_F(RemovalTest, refusesEverythingUntilTheFoldersAreMovedAside)
 {
     installGame();
     startModel();
+    {
+        const BusyPool busy;
+        model().removeEverything();
+        EXPECT_TRUE(model().isBusy());
+        model().play();
+        model().reinstall();
+        model().removeEverything();
+        EXPECT_EQ(desktop.questions.size(), 1);
+    }
+    waitForDeletion();
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+}
+
+TEST_F(RemovalTest, saysThatNothingIsDownloadedWhileItStillDeletes)
+{
+    installGame();
+    for (int file = 0; file < 20'000; ++file)
+        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    startModel();
     model().removeEverything();
-    ASSERT_TRUE(model().isBusy());
-    model().play();
-    model().reinstall();
-    model().removeEverything();
-    EXPECT_EQ(desktop.questions.size(), 1);
-    EXPECT_TRUE(model().confirmQuit());
     waitForFlow();
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_EQ(model().phase(), Phase::notDownloaded());
+    EXPECT_FALSE(model().isBusy());
+    EXPECT_FALSE(stagingFolders().isEmpty()) << "It was deleted before anybody could look.";
+    waitForDeletion();
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+}
+
+TEST_F(RemovalTest, leavesToTheNextStartWhatItHasNotDeletedWhenThePlayerQuits)
+{
+    installGame();
+    for (int file = 0; file < 20'000; ++file)
+        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    startModel();
+    model().removeEverything();
+    waitForFlow();
+    EXPECT_TRUE(model().confirmQuit());
+    EXPECT_FALSE(leftovers().isEmpty()) << "It was deleted before anybody could quit.";
+    EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
+    EXPECT_EQ(leftovers(), QStringList());
 }
 
 TEST_F(RemovalTest, namesAllFilesWhenTheirSizeIsNotKnown)
 {
     startModel();
-    model().log().append(QStringLiteral("a line"));
+    model().log().append(u"a line"_s);
     model().removeEverything();
     EXPECT_EQ(desktop.questions[0].title, u"Remove everything?");
     EXPECT_EQ(
         desktop.questions[0].message,
         u"This deletes the downloaded game and engine and frees all downloaded files. Your save "
         u"files in Godot's folder are not touched.");
-    waitForFlow();
+    waitForDeletion();
     EXPECT_TRUE(logged().isEmpty());
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
 }

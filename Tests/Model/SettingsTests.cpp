@@ -4,6 +4,8 @@
 #include <QSettings>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Settings : public ModelTest
@@ -24,22 +26,22 @@ TEST_F(Settings, surviveARestart)
     startModel();
     EXPECT_TRUE(model().fullscreen());
     EXPECT_EQ(model().resolution(), ResolutionChoice::r1080);
-    EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), u"1920x1080");
+    EXPECT_EQ(QSettings().value(u"resolution"_s).toString(), u"1920x1080");
 }
 
 TEST_F(Settings, areStoredUnderTheirOwnKeys)
 {
     startModel().setFullscreen(true);
-    EXPECT_TRUE(QSettings().value(QStringLiteral("fullscreen")).toBool());
-    QSettings().remove(QStringLiteral("fullscreen"));
+    EXPECT_TRUE(QSettings().value(u"fullscreen"_s).toBool());
+    QSettings().remove(u"fullscreen"_s);
     EXPECT_FALSE(startModel().fullscreen());
 }
 
 TEST_F(Settings, takeAnUnknownStoredResolutionForTheGamesOwn)
 {
-    for (const auto& stored : {QStringLiteral("800x600"), QStringLiteral("1280X720"),
-                               QStringLiteral("1280x720 "), QStringLiteral("@ByteArray(\\x1)")}) {
-        QSettings().setValue(QStringLiteral("resolution"), stored);
+    for (const auto& stored :
+         {u"800x600"_s, u"1280X720"_s, u"1280x720 "_s, u"@ByteArray(\\x1)"_s}) {
+        QSettings().setValue(u"resolution"_s, stored);
         EXPECT_EQ(startModel().resolution(), ResolutionChoice::gameDefault) << stored.toStdString();
     }
 }
@@ -48,8 +50,8 @@ TEST_F(Settings, storeTheGamesOwnSizeAsTheEmptyText)
 {
     startModel().setResolution(ResolutionChoice::r720);
     model().setResolution(ResolutionChoice::gameDefault);
-    EXPECT_TRUE(QSettings().contains(QStringLiteral("resolution")));
-    EXPECT_EQ(QSettings().value(QStringLiteral("resolution")).toString(), QString());
+    EXPECT_TRUE(QSettings().contains(u"resolution"_s));
+    EXPECT_EQ(QSettings().value(u"resolution"_s).toString(), QString());
 }
 
 TEST_F(Settings, areNeitherStoredNorAnnouncedWhenNothingChanges)

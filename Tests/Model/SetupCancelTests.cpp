@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using SetupCancelTest = SetupTest;
@@ -25,7 +27,7 @@ TEST_F(SetupCancelTest, cancelsDuringTheGamesDownload)
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
-    EXPECT_FALSE(exists(QStringLiteral("Game")));
+    EXPECT_FALSE(exists(u"Game"_s));
 }
 
 TEST_F(SetupCancelTest, showsNoProgressOnceTheDownloadHasEnded)
@@ -48,37 +50,37 @@ TEST_F(SetupCancelTest, showsNoProgressOnceTheDownloadHasEnded)
 
 TEST_F(SetupCancelTest, cancelsDuringTheChecksumList)
 {
-    server.on(releasePath + QStringLiteral("SHA512-SUMS.txt"), HttpServer::silence());
+    server.on(releasePath + u"SHA512-SUMS.txt"_s, HttpServer::silence());
     model().play();
-    ASSERT_TRUE(waitUntil([this] { return requestsOf(QStringLiteral("SHA512-SUMS.txt")) > 0; }));
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(u"SHA512-SUMS.txt"_s) > 0; }));
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
-    EXPECT_TRUE(exists(QStringLiteral("Game")));
+    EXPECT_TRUE(exists(u"Game"_s));
 }
 
 TEST_F(SetupCancelTest, cancelsDuringTheEnginesDownload)
 {
-    server.on(releasePath + engineName + QStringLiteral(".zip"), HttpServer::silence());
+    server.on(releasePath + engineName + u".zip"_s, HttpServer::silence());
     model().play();
     ASSERT_TRUE(waitUntil([this] { return requestsOf(engineName) > 0; }));
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
-    EXPECT_FALSE(exists(QStringLiteral("Engine/3.5.3-stable")));
+    EXPECT_FALSE(exists(u"Engine/3.5.3-stable"_s));
 }
 
 TEST_F(SetupCancelTest, cancelsDuringTheImportAndEndsTheEngine)
 {
     serveEngine("echo up $$; exec sleep 60");
     model().play();
-    ASSERT_TRUE(waitUntil([this] { return !logged().filter(QStringLiteral("up ")).isEmpty(); }));
-    const auto engine = logged().filter(QStringLiteral("up ")).first().mid(3);
+    ASSERT_TRUE(waitUntil([this] { return !logged().filter(u"up "_s).isEmpty(); }));
+    const auto engine = logged().filter(u"up "_s).first().mid(3);
     model().cancelSetup();
     waitForFlow();
     expectNothingInstalled();
-    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
-    EXPECT_FALSE(QFile::exists(QStringLiteral("/proc/") + engine));
+    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_FALSE(QFile::exists(u"/proc/"_s + engine));
 }
 
 TEST_F(SetupCancelTest, cancelsAlreadyInItsSilentChecks)
@@ -109,15 +111,15 @@ TEST_F(SetupCancelTest, quitsDuringADownloadWithoutAQuestion)
 TEST_F(SetupCancelTest, removesTheMarkerBeforeAnImport)
 {
     playToTheEnd();
-    ASSERT_TRUE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
+    ASSERT_TRUE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
     installEngine("echo up; exec sleep 60");
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Engine/3.5.3-stable/") + engineName)));
+    ASSERT_TRUE(QFile::remove(root(u"Engine/3.5.3-stable/"_s + engineName)));
     model().play();
-    ASSERT_TRUE(waitUntil([this] { return logged().contains(QStringLiteral("up")); }));
+    ASSERT_TRUE(waitUntil([this] { return logged().contains(u"up"_s); }));
     model().cancelSetup();
     waitForFlow();
-    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
 }
 
 } // namespace

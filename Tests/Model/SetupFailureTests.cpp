@@ -4,6 +4,8 @@
 #include <QDir>
 #include <chrono>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -12,20 +14,19 @@ using SetupFailureTest = SetupTest;
 
 TEST_F(SetupFailureTest, refusesAGameForGodot4BeforeAnyEngineDownload)
 {
-    const auto sentence = QStringLiteral(
-        "This game is made for Godot 4, but this app only knows how to install Godot 3.");
+    const auto sentence =
+        u"This game is made for Godot 4, but this app only knows how to install Godot 3."_s;
     for (const auto version : {5, 6}) {
         serveGame("config_version=" + QByteArray::number(version) + "\nconfig/name=\"Next\"\n");
         playToTheEnd();
         EXPECT_EQ(model().phase(), Phase::needs(sentence));
-        EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
+        EXPECT_EQ(logged().last(), u"Error: "_s + sentence);
         EXPECT_TRUE(logged().contains(
-            QStringLiteral("project.godot: config_version=%1 → Godot 4.x, C#: no, main scene: ")
-                .arg(version)));
+            u"project.godot: config_version=%1 → Godot 4.x, C#: no, main scene: "_s.arg(version)));
         ASSERT_TRUE(model().info());
         EXPECT_EQ(model().info()->name, u"Next");
         EXPECT_EQ(model().facts().summary, u"A tiny game.");
-        ASSERT_TRUE(QDir(root(QStringLiteral("Game"))).removeRecursively());
+        ASSERT_TRUE(QDir(root(u"Game"_s)).removeRecursively());
     }
     EXPECT_EQ(requestsOf(releasePath), 0);
 }
@@ -35,7 +36,7 @@ TEST_F(SetupFailureTest, refusesAGameWithoutAReadableProject)
     serveGame("config_version=abc\n");
     playToTheEnd();
     EXPECT_EQ(model().phase(),
-              Phase::needs(QStringLiteral("The downloaded folder has no readable project.godot.")));
+              Phase::needs(u"The downloaded folder has no readable project.godot."_s));
 }
 
 TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
@@ -44,10 +45,10 @@ TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
     playToTheEnd();
     EXPECT_EQ(
         model().phase(),
-        Phase::needs(QStringLiteral(
-            "The engine download did not match its official checksum, so it was discarded.")));
-    EXPECT_FALSE(exists(QStringLiteral("Engine")));
-    EXPECT_TRUE(exists(QStringLiteral("Game")));
+        Phase::needs(
+            u"The engine download did not match its official checksum, so it was discarded."_s));
+    EXPECT_FALSE(exists(u"Engine"_s));
+    EXPECT_TRUE(exists(u"Game"_s));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
@@ -55,25 +56,23 @@ TEST_F(SetupFailureTest, goesOnWhereAFailedRunStopped)
 {
     serveList({});
     playToTheEnd();
-    ASSERT_EQ(model().phase(),
-              Phase::needs(QStringLiteral(
-                  "The checksum list has no entry for Godot_v3.5.3-stable_x11.64.zip.")));
+    ASSERT_EQ(
+        model().phase(),
+        Phase::needs(u"The checksum list has no entry for Godot_v3.5.3-stable_x11.64.zip."_s));
     serveEngine(goodEngine);
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
     EXPECT_FALSE(model().failureText());
-    EXPECT_TRUE(
-        logged().contains(QStringLiteral("Step 1 of 4 · Game already downloaded, skipping.")));
-    EXPECT_EQ(logged().filter(QStringLiteral("Downloading the game source")).size(), 1);
+    EXPECT_TRUE(logged().contains(u"Step 1 of 4 · Game already downloaded, skipping."_s));
+    EXPECT_EQ(logged().filter(u"Downloading the game source"_s).size(), 1);
 }
 
 TEST_F(SetupFailureTest, reportsAnAnswerThatIsNoSuccess)
 {
     server.on(gamePath, HttpServer::reply(404, "not here"));
     playToTheEnd();
-    EXPECT_EQ(model().phase(),
-              Phase::needs(QStringLiteral("The server answered with HTTP 404 for %1.")
-                               .arg(server.url(gamePath).toString())));
+    EXPECT_EQ(model().phase(), Phase::needs(u"The server answered with HTTP 404 for %1."_s.arg(
+                                   server.url(gamePath).toString())));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
@@ -81,22 +80,22 @@ TEST_F(SetupFailureTest, reportsAssetsThatTheEngineDidNotImport)
 {
     serveEngine("exit 3");
     playToTheEnd();
-    EXPECT_EQ(model().phase(), Phase::needs(QStringLiteral(
-                                   "The first-time setup did not finish: 1 game assets were not "
-                                   "imported (engine exit code 3).")));
-    EXPECT_FALSE(exists(QStringLiteral("Game/.setup-v2-3.5.3-stable")));
+    EXPECT_EQ(model().phase(),
+              Phase::needs(u"The first-time setup did not finish: 1 game assets were not "
+                           "imported (engine exit code 3)."_s));
+    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
 }
 
 TEST_F(SetupFailureTest, stopsAnImportThatTakesTooLong)
 {
-    durations.importLimit = 50ms;
+    durations.importTimeout = 50ms;
     startModel();
     serveEngine("exec sleep 60");
     playToTheEnd();
-    EXPECT_TRUE(logged().contains(QStringLiteral("Setup took too long, stopping it.")));
-    EXPECT_EQ(model().phase(), Phase::needs(QStringLiteral(
-                                   "The first-time setup did not finish: 1 game assets were not "
-                                   "imported (engine exit code 15).")));
+    EXPECT_TRUE(logged().contains(u"Setup took too long, stopping it."_s));
+    EXPECT_EQ(model().phase(),
+              Phase::needs(u"The first-time setup did not finish: 1 game assets were not "
+                           "imported (engine exit code 15)."_s));
 }
 
 } // namespace

@@ -8,11 +8,12 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 const QString SetupTest::gamePath =
-    QStringLiteral("/brindlework-demos/tetherwalk/archive/refs/heads/master.zip");
-const QString SetupTest::releasePath =
-    QStringLiteral("/godotengine/godot/releases/download/3.5.3-stable/");
-const QString SetupTest::engineName = QStringLiteral("Godot_v3.5.3-stable_x11.64");
+    u"/brindlework-demos/tetherwalk/archive/refs/heads/master.zip"_s;
+const QString SetupTest::releasePath = u"/godotengine/godot/releases/download/3.5.3-stable/"_s;
+const QString SetupTest::engineName = u"Godot_v3.5.3-stable_x11.64"_s;
 
 const QByteArray SetupTest::goodEngine = R"(
 case "$*" in
@@ -35,7 +36,7 @@ SetupTest::SetupTest()
     serveEngine(goodEngine);
     startModel();
     QObject::connect(&model(), &AppModel::changed, &model(), [this] {
-        const auto step = model().statusTitle() + QStringLiteral(": ") + model().stepText();
+        const auto step = model().statusTitle() + u": "_s + model().stepText();
         if (steps.isEmpty() || steps.last() != step)
             steps.append(step);
     });
@@ -57,14 +58,14 @@ void SetupTest::serveEngine(const QByteArray& script, const QString& name)
     ZipWriter zip;
     zip.addFile(name.toUtf8(), "#!/bin/sh\n" + script);
     const auto archive = zip.archive();
-    server.on(releasePath + name + QStringLiteral(".zip"), HttpServer::reply(200, archive));
+    server.on(releasePath + name + u".zip"_s, HttpServer::reply(200, archive));
     serveList(QCryptographicHash::hash(archive, QCryptographicHash::Sha512).toHex() + "  " +
               name.toUtf8() + ".zip\n");
 }
 
 void SetupTest::serveList(const QByteArray& list)
 {
-    server.on(releasePath + QStringLiteral("SHA512-SUMS.txt"), HttpServer::reply(200, list));
+    server.on(releasePath + u"SHA512-SUMS.txt"_s, HttpServer::reply(200, list));
 }
 
 void SetupTest::playToTheEnd()

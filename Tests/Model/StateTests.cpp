@@ -5,6 +5,8 @@
 
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class State : public ModelTest
@@ -30,16 +32,15 @@ TEST_F(State, isNotDownloadedWithNothingOnDisk)
     EXPECT_FALSE(model().showLog());
     EXPECT_FALSE(model().stillStarting());
     EXPECT_FALSE(model().progress());
-    AppModelAccess::finishMeasuring(model());
+    AppModelAccess::finishMeasuring();
     EXPECT_TRUE(model().installedSize().isEmpty());
-    EXPECT_FALSE(home.exists(QStringLiteral("data/Cavernyx Platformer")));
+    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
 }
 
 TEST_F(State, describesAGameWhoseEngineIsMissing)
 {
     installGame();
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/README.org"),
-               "#+DESCRIPTION: A tiny game.\n");
+    home.write(u"data/Cavernyx Platformer/Game/README.org"_s, "#+DESCRIPTION: A tiny game.\n");
     startModel();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     ASSERT_TRUE(model().info());
@@ -73,8 +74,8 @@ TEST_F(State, wantsTheOtherEngineAndMarkerForACSharpGame)
     installEngine("exit 0");
     writeMarker();
     EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
-    installEngine("exit 0", QStringLiteral("3.5.3-stable-mono"));
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"));
+    installEngine("exit 0", u"3.5.3-stable-mono"_s);
+    home.write(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"_s);
     EXPECT_EQ(startModel().phase(), Phase::ready());
 }
 
@@ -83,8 +84,7 @@ TEST_F(State, forgetsAGameThatIsNotReadableAnyMore)
     installGame();
     startModel();
     ASSERT_TRUE(model().info());
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/project.godot"),
-               "nothing");
+    home.write(u"data/Cavernyx Platformer/Game/tetherwalk-master/project.godot"_s, "nothing");
     model().refreshState();
     EXPECT_FALSE(model().info());
     EXPECT_EQ(model().facts(), RepoFacts());
@@ -93,11 +93,11 @@ TEST_F(State, forgetsAGameThatIsNotReadableAnyMore)
 
 TEST_F(State, measuresWhatIsInstalledAndIsEmptyAgainWhenNothingIs)
 {
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/big"), QByteArray(300'000, 'x'));
+    home.write(u"data/Cavernyx Platformer/Game/big"_s, QByteArray(300'000, 'x'));
     startModel();
     waitForSize(false);
     EXPECT_TRUE(model().installedSize().endsWith(u"KB")) << model().installedSize().toStdString();
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/big"))));
+    ASSERT_TRUE(QFile::remove(root(u"Game/big"_s)));
     model().updateSize();
     waitForSize(true);
 }
@@ -133,9 +133,9 @@ TEST_F(State, showsAtMostAWholeDownload)
 TEST_F(State, keepsAFailureUntilTheNextRefresh)
 {
     startModel();
-    model().log().append(QStringLiteral("a line"));
-    AppModelAccess::fail(model(), QStringLiteral("Something is wrong."));
-    EXPECT_EQ(model().phase(), Phase::needs(QStringLiteral("Something is wrong.")));
+    model().log().append(u"a line"_s);
+    AppModelAccess::fail(model(), u"Something is wrong."_s);
+    EXPECT_EQ(model().phase(), Phase::needs(u"Something is wrong."_s));
     EXPECT_EQ(model().statusTitle(), u"Needs something");
     EXPECT_EQ(model().statusDetail(), u"Something is wrong.");
     EXPECT_EQ(model().failureText(),
@@ -148,11 +148,11 @@ TEST_F(State, keepsAFailureUntilTheNextRefresh)
 TEST_F(State, quotesAtMostThirtyLogLinesInAFailureReport)
 {
     startModel();
-    AppModelAccess::fail(model(), QStringLiteral("No."));
+    AppModelAccess::fail(model(), u"No."_s);
     EXPECT_EQ(model().failureText(), u"What happened: No.\n\nLast log lines:\n");
     for (int line = 1; line <= 31; ++line)
         model().log().append(QString::number(line));
-    AppModelAccess::fail(model(), QStringLiteral("No."));
+    AppModelAccess::fail(model(), u"No."_s);
     EXPECT_TRUE(model().failureText()->contains(u"Last log lines:\n2\n3\n"));
     EXPECT_TRUE(model().failureText()->endsWith(u"\n30\n31"));
 }
@@ -160,7 +160,7 @@ TEST_F(State, quotesAtMostThirtyLogLinesInAFailureReport)
 TEST_F(State, namesEachPhaseInItsOwnWords)
 {
     startModel();
-    AppModelAccess::setStep(model(), QStringLiteral("the step"));
+    AppModelAccess::setStep(model(), u"the step"_s);
     AppModelAccess::setPhase(model(), Phase::downloading());
     EXPECT_EQ(model().statusTitle(), u"Downloading");
     EXPECT_EQ(model().statusDetail(), u"the step");
@@ -182,8 +182,7 @@ TEST_F(State, ignoresARelativeDataFolder)
 {
     const EnvironmentScope data("XDG_DATA_HOME", "relative/path");
     const EnvironmentScope user("HOME", home.path().toUtf8());
-    home.write(QStringLiteral(".local/share/Cavernyx Platformer/Game/project.godot"),
-               "config_version=4\n");
+    home.write(u".local/share/Cavernyx Platformer/Game/project.godot"_s, "config_version=4\n");
     EXPECT_TRUE(startModel().info());
 }
 
@@ -193,7 +192,7 @@ TEST_F(State, announcesEachChangeOfAPropertyAfterIt)
     QStringList titles;
     const auto connection = QObject::connect(&model(), &AppModel::changed, &model(),
                                              [&] { titles.append(model().statusTitle()); });
-    AppModelAccess::fail(model(), QStringLiteral("No."));
+    AppModelAccess::fail(model(), u"No."_s);
     EXPECT_EQ(titles.last(), u"Needs something");
     model().setShowLog(true);
     EXPECT_EQ(titles.size(), 2);

@@ -3,6 +3,8 @@
 #include "Support/MarkedLanguage.h"
 #include "Support/ModelTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ModelTranslation : public ModelTest
@@ -24,30 +26,30 @@ TEST_F(ModelTranslation, reachesTheFailureAndTheStepAndLeavesTheLogAsItIs)
 {
     startReady("exit 7").play();
     waitForFlow();
-    const auto sentence = QStringLiteral(
-        "<The game closed after 0 seconds (exit code 7), so it did not start properly.>");
+    const auto sentence =
+        u"<The game closed after 0 seconds (exit code 7), so it did not start properly.>"_s;
     EXPECT_EQ(model().phase(), Phase::needs(sentence));
     EXPECT_EQ(model().stepText(), u"<Step 4 of 4 · Play>");
     EXPECT_EQ(logged().first(), u"Step 1 of 4 · Game already downloaded, skipping.");
-    EXPECT_EQ(logged().last(), QStringLiteral("Error: ") + sentence);
-    EXPECT_EQ(*model().failureText(), QStringLiteral("<What happened: %1\n\nLast log lines:\n%2>")
-                                          .arg(sentence, logged().join(u'\n')));
+    EXPECT_EQ(logged().last(), u"Error: "_s + sentence);
+    EXPECT_EQ(*model().failureText(),
+              u"<What happened: %1\n\nLast log lines:\n%2>"_s.arg(sentence, logged().join(u'\n')));
 }
 
 TEST_F(ModelTranslation, reachesTheStepsAndTheFailureOfASetup)
 {
     QStringList steps;
     startReady("exit 3");
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
+    ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
     QObject::connect(&model(), &AppModel::changed, &model(),
                      [&] { steps.append(model().stepText()); });
     model().play();
     waitForFlow();
-    EXPECT_TRUE(steps.contains(
-        QStringLiteral("<Step 3 of 4 · First-time setup, this can take a minute or more>")));
-    EXPECT_EQ(model().phase(), Phase::needs(QStringLiteral(
-                                   "<The first-time setup did not finish: 1 game assets were not "
-                                   "imported (engine exit code 3).>")));
+    EXPECT_TRUE(
+        steps.contains(u"<Step 3 of 4 · First-time setup, this can take a minute or more>"_s));
+    EXPECT_EQ(model().phase(),
+              Phase::needs(u"<The first-time setup did not finish: 1 game assets were not "
+                           "imported (engine exit code 3).>"_s));
 }
 
 TEST_F(ModelTranslation, reachesTheStepsOfTheDownloads)
@@ -64,8 +66,7 @@ TEST_F(ModelTranslation, reachesTheStepsOfTheDownloads)
 TEST_F(ModelTranslation, reachesTheRefusalOfAGameThatCannotBePlayed)
 {
     installGame();
-    const auto project =
-        QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/project.godot");
+    const auto project = u"data/Cavernyx Platformer/Game/tetherwalk-master/project.godot"_s;
     home.write(project, "config_version=5\n");
     startModel().play();
     waitForFlow();

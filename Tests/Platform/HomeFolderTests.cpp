@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Platform/HomeFolder.h"
+#include "Platform/Platform.h"
 
 #include "Support/EnvironmentScope.h"
 
@@ -10,12 +10,14 @@
 #include <pwd.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(HomeFolder, isWhatTheEnvironmentSaysWithoutATrailingSlash)
 {
     const EnvironmentScope home("HOME", "/home/größe/");
-    EXPECT_EQ(homeFolder(), QStringLiteral("/home/größe"));
+    EXPECT_EQ(homeFolder(), u"/home/größe"_s);
 }
 
 TEST(HomeFolder, isWhatTheUserDatabaseSaysWhenTheEnvironmentNamesNone)

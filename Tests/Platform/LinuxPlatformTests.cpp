@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/LinuxPlatform.h"
 
-#include "AppError.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/TestFolder.h"
+#include "System/Errors.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
+
+#include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,13 +20,13 @@ TEST(LinuxPlatform, keepsDataInTheUsersDataFolder)
 {
     const EnvironmentScope home("HOME", "/home/player");
     const EnvironmentScope data("XDG_DATA_HOME", std::nullopt);
-    EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/home/player/.local/share"));
+    EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/home/player/.local/share"_s);
 }
 
 TEST(LinuxPlatform, keepsDataWhereTheEnvironmentSaysSo)
 {
     const EnvironmentScope data("XDG_DATA_HOME", "/data/größe/");
-    EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/data/größe"));
+    EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/data/größe"_s);
 }
 
 TEST(LinuxPlatform, ignoresADataFolderThatIsRelativeOrEmpty)
@@ -30,14 +34,14 @@ TEST(LinuxPlatform, ignoresADataFolderThatIsRelativeOrEmpty)
     const EnvironmentScope home("HOME", "/home/player");
     for (const auto* value : {"relative/data", "", "~/data"}) {
         const EnvironmentScope data("XDG_DATA_HOME", value);
-        EXPECT_EQ(LinuxPlatform::applicationSupport(), QStringLiteral("/home/player/.local/share"));
+        EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/home/player/.local/share"_s);
     }
 }
 
 TEST(LinuxPlatform, namesTheEngineArchiveOfEachProcessorAndEdition)
 {
     const auto suffix = [](bool mono, const char* processor) {
-        return LinuxPlatform::engineArchiveSuffix(mono, QString::fromUtf8(processor)).toStdString();
+        return LinuxPlatform(QString::fromUtf8(processor)).engineArchiveSuffix(mono).toStdString();
     };
     EXPECT_EQ(suffix(false, "x86_64"), "x11.64.zip");
     EXPECT_EQ(suffix(true, "x86_64"), "mono_x11_64.zip");
@@ -48,7 +52,7 @@ TEST(LinuxPlatform, namesTheEngineArchiveOfEachProcessorAndEdition)
 TEST(LinuxPlatform, saysThatThereIsNoEngineForAnotherProcessor)
 {
     try {
-        LinuxPlatform::engineArchiveSuffix(false, QStringLiteral("arm64"));
+        std::ignore = LinuxPlatform(u"arm64"_s).engineArchiveSuffix(false);
         FAIL() << "There is one.";
     } catch (const AppError& error) {
         EXPECT_TRUE(error.message().contains(u"(arm64)")) << error.what();
@@ -63,7 +67,7 @@ protected:
     /// The found program, as seen from the engine folder; "none" when none was found.
     [[nodiscard]] std::string found() const
     {
-        const auto program = LinuxPlatform::findEngineProgram(m_folder.path());
+        const auto program = LinuxPlatform().findEngineProgram(m_folder.path());
         return program ? QDir(m_folder.path()).relativeFilePath(*program).toStdString() : "none";
     }
 
@@ -96,11 +100,11 @@ TEST_F(LinuxEngineProgram, isRecognisedInAnyCaseAndPlaceOfItsName)
 
 TEST_F(LinuxEngineProgram, isARegularFile)
 {
-    m_folder.makeFolder(QStringLiteral("godot"));
+    m_folder.makeFolder(u"godot"_s);
     const TestFolder elsewhere;
-    const auto outside = elsewhere.write(QStringLiteral("file"));
-    ASSERT_TRUE(QFile::link(outside, m_folder.path(QStringLiteral("Godot_link"))));
-    ASSERT_TRUE(QFile::link(elsewhere.path(), m_folder.path(QStringLiteral("folder"))));
+    const auto outside = elsewhere.write(u"file"_s);
+    ASSERT_TRUE(QFile::link(outside, m_folder.path(u"Godot_link"_s)));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), m_folder.path(u"folder"_s)));
     write("readme.txt");
     EXPECT_EQ(found(), "none");
     write("godot/godot");
@@ -109,14 +113,13 @@ TEST_F(LinuxEngineProgram, isARegularFile)
 
 TEST_F(LinuxEngineProgram, isNotThereWithoutTheFolder)
 {
-    EXPECT_EQ(LinuxPlatform::findEngineProgram(m_folder.path(QStringLiteral("none"))),
-              std::nullopt);
+    EXPECT_EQ(LinuxPlatform().findEngineProgram(m_folder.path(u"none"_s)), std::nullopt);
 }
 
 TEST_F(LinuxEngineProgram, isFoundWithoutWriting)
 {
     write("godot");
-    const auto path = m_folder.path(QStringLiteral("godot"));
+    const auto path = m_folder.path(u"godot"_s);
     const auto before = QFile::permissions(path);
     EXPECT_EQ(found(), "godot");
     EXPECT_EQ(QFile::permissions(path), before);
@@ -124,17 +127,16 @@ TEST_F(LinuxEngineProgram, isFoundWithoutWriting)
 
 TEST(LinuxPlatform, unpacksWithoutATool)
 {
-    EXPECT_EQ(LinuxPlatform::unpackCommand(QStringLiteral("/a.zip"), QStringLiteral("/b")),
-              std::nullopt);
-    EXPECT_EQ(LinuxPlatform::clearQuarantineCommand(QStringLiteral("/b")), std::nullopt);
+    EXPECT_EQ(LinuxPlatform().unpackCommand(u"/a.zip"_s, u"/b"_s), std::nullopt);
+    EXPECT_EQ(LinuxPlatform().clearQuarantineCommand(u"/b"_s), std::nullopt);
 }
 
 TEST(LinuxPlatform, namesTheSavesFolderAsTheEngineDoes)
 {
     const EnvironmentScope data("XDG_DATA_HOME", "/data");
     const auto saves = [](const char* name) {
-        const auto folder = LinuxPlatform::savesFolder(QString::fromUtf8(name));
-        const auto parent = QStringLiteral("/data/godot/app_userdata/");
+        const auto folder = LinuxPlatform().savesFolder(QString::fromUtf8(name));
+        const auto parent = u"/data/godot/app_userdata/"_s;
         EXPECT_TRUE(folder.startsWith(parent)) << folder.toStdString();
         return folder.sliced(parent.size()).toStdString();
     };

@@ -8,43 +8,34 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(MacPlatform, keepsDataInTheLibraryOfTheHomeFolder)
 {
     const EnvironmentScope home("HOME", "/Users/player");
-    EXPECT_EQ(MacPlatform::applicationSupport(),
-              QStringLiteral("/Users/player/Library/Application Support"));
-    EXPECT_EQ(
-        MacPlatform::savesFolder(QStringLiteral("Tiny: Game")),
-        QStringLiteral("/Users/player/Library/Application Support/Godot/app_userdata/Tiny: Game"));
+    EXPECT_EQ(MacPlatform().applicationSupport(), u"/Users/player/Library/Application Support"_s);
+    EXPECT_EQ(MacPlatform().savesFolder(u"Tiny: Game"_s),
+              u"/Users/player/Library/Application Support/Godot/app_userdata/Tiny: Game"_s);
 }
 
 TEST(MacPlatform, namesOneEngineArchiveForEveryProcessor)
 {
-    for (const auto* processor : {"x86_64", "arm64"}) {
-        const auto name = QString::fromUtf8(processor);
-        EXPECT_EQ(MacPlatform::engineArchiveSuffix(false, name),
-                  QStringLiteral("osx.universal.zip"));
-        EXPECT_EQ(MacPlatform::engineArchiveSuffix(true, name),
-                  QStringLiteral("mono_osx.universal.zip"));
-    }
+    EXPECT_EQ(MacPlatform().engineArchiveSuffix(false), u"osx.universal.zip"_s);
+    EXPECT_EQ(MacPlatform().engineArchiveSuffix(true), u"mono_osx.universal.zip"_s);
 }
 
 TEST(MacPlatform, unpacksAndClearsTheQuarantineWithTheSystemsTools)
 {
-    const auto unpack =
-        MacPlatform::unpackCommand(QStringLiteral("/a b.zip"), QStringLiteral("/c d"));
+    const auto unpack = MacPlatform().unpackCommand(u"/a b.zip"_s, u"/c d"_s);
     ASSERT_TRUE(unpack);
-    EXPECT_EQ(unpack->program, QStringLiteral("/usr/bin/ditto"));
-    EXPECT_EQ(unpack->arguments, (QStringList{QStringLiteral("-x"), QStringLiteral("-k"),
-                                              QStringLiteral("/a b.zip"), QStringLiteral("/c d")}));
-    const auto clear = MacPlatform::clearQuarantineCommand(QStringLiteral("/c d"));
+    EXPECT_EQ(unpack->program, u"/usr/bin/ditto"_s);
+    EXPECT_EQ(unpack->arguments, (QStringList{u"-x"_s, u"-k"_s, u"/a b.zip"_s, u"/c d"_s}));
+    const auto clear = MacPlatform().clearQuarantineCommand(u"/c d"_s);
     ASSERT_TRUE(clear);
-    EXPECT_EQ(clear->program, QStringLiteral("/usr/bin/xattr"));
-    EXPECT_EQ(clear->arguments,
-              (QStringList{QStringLiteral("-dr"), QStringLiteral("com.apple.quarantine"),
-                           QStringLiteral("/c d")}));
+    EXPECT_EQ(clear->program, u"/usr/bin/xattr"_s);
+    EXPECT_EQ(clear->arguments, (QStringList{u"-dr"_s, u"com.apple.quarantine"_s, u"/c d"_s}));
 }
 
 class MacEngineProgram : public testing::Test
@@ -55,7 +46,7 @@ protected:
     /// The found program, as seen from the engine folder; "none" when none was found.
     [[nodiscard]] std::string found() const
     {
-        const auto program = MacPlatform::findEngineProgram(m_folder.path());
+        const auto program = MacPlatform().findEngineProgram(m_folder.path());
         return program ? QDir(m_folder.path()).relativeFilePath(*program).toStdString() : "none";
     }
 
@@ -96,7 +87,7 @@ TEST_F(MacEngineProgram, isNotThereWithoutABundle)
     write("Godot");
     write("Godot.APP/Contents/MacOS/Godot");
     EXPECT_EQ(found(), "none");
-    EXPECT_EQ(MacPlatform::findEngineProgram(m_folder.path(QStringLiteral("none"))), std::nullopt);
+    EXPECT_EQ(MacPlatform().findEngineProgram(m_folder.path(u"none"_s)), std::nullopt);
 }
 
 } // namespace

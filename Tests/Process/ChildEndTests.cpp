@@ -6,6 +6,8 @@
 #include <csignal>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -25,58 +27,55 @@ TEST_F(EndOfAChild, givesTheNumberOfTheSignalThatCausedIt)
 
 TEST_F(EndOfAChild, makesItCountAsNotRunning)
 {
-    EXPECT_FALSE(m_process.isRunning());
+    EXPECT_FALSE(m_process->isRunning());
+    EXPECT_FALSE(m_process->isRunning());
     auto run = startShell("echo ready; exec sleep 600");
-    EXPECT_TRUE(m_process.isRunning());
     ASSERT_TRUE(waitForLines(1));
-    EXPECT_TRUE(m_process.isRunning());
-    m_process.terminate();
+    EXPECT_TRUE(m_process->isRunning());
+    m_process->terminate();
     EXPECT_EQ(await(run), SIGTERM);
-    EXPECT_FALSE(m_process.isRunning());
+    EXPECT_FALSE(m_process->isRunning());
 }
 
 TEST_F(EndOfAChild, isRememberedWhenAskedForBeforeTheStart)
 {
-    m_process.terminate();
+    m_process->terminate();
     EXPECT_EQ(runShell("exec sleep 600"), SIGTERM);
 }
 
 TEST_F(EndOfAChild, comesWhenAskedForDuringTheStart)
 {
     auto run = startShell("exec sleep 600");
-    m_process.terminate();
+    m_process->terminate();
     EXPECT_EQ(await(run), SIGTERM);
 }
 
 TEST_F(EndOfAChild, isAskedForHarmlesslyAfterItAndMoreThanOnce)
 {
     EXPECT_EQ(runShell("exit 0"), 0);
-    m_process.terminate();
-    m_process.terminate();
-    // The thread has dealt with it once it has run another child.
-    ManagedProcess next;
-    EXPECT_EQ(await(next.run(QStringLiteral("/bin/true"), {}, m_output.callback())), 0);
+    m_process->terminate();
+    m_process->terminate();
 }
 
 TEST_F(EndOfAChild, isLeftToTheChildItselfAtFirst)
 {
     auto run = startShell("trap 'echo bye; exit 7' TERM; echo ready; while :; do sleep 0.01; done");
     ASSERT_TRUE(waitForLines(1));
-    m_process.terminate();
+    m_process->terminate();
     EXPECT_EQ(await(run), 7);
-    EXPECT_EQ(lines().last(), QStringLiteral("bye"));
+    EXPECT_EQ(lines().last(), u"bye"_s);
 }
 
 TEST_F(EndOfAChild, isForcedOnOneThatIgnoresThePoliteRequestAndOnItsWholeGroup)
 {
-    ManagedProcess stubborn(ManagedProcess::Lifetime::endsWithLauncher, 100ms);
-    auto run =
-        stubborn.run(QStringLiteral("/bin/sh"),
+    const auto stubborn =
+        std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::endsWithLauncher, 100ms);
+    auto run = start(stubborn, u"/bin/sh"_s,
                      shell("trap '' TERM; sleep 600 & echo $!; wait; while :; do sleep 600; done"),
                      m_output.callback());
     ASSERT_TRUE(waitForLines(1));
     const auto grandchild = lines().first().toLongLong();
-    stubborn.terminate();
+    stubborn->terminate();
     EXPECT_EQ(await(run), SIGKILL);
     EXPECT_TRUE(waitUntil([&] { return !processRuns(grandchild); }));
 }
@@ -87,21 +86,27 @@ TEST_F(EndOfAChild, alsoEndsWhatTheChildLeavesBehindWhenItWasAskedFor)
                           "echo $!; trap 'exit 5' TERM; while :; do sleep 0.01; done");
     ASSERT_TRUE(waitForLines(2));
     const auto output = lines();
-    const auto grandchild =
-        output.at(output.first() == QLatin1String("ready") ? 1 : 0).toLongLong();
-    m_process.terminate();
+    const auto grandchild = output.at(output.first() == "ready"_L1 ? 1 : 0).toLongLong();
+    m_process->terminate();
     EXPECT_EQ(await(run), 5);
     EXPECT_TRUE(waitUntil([&] { return !processRuns(grandchild); }));
 }
 
-TEST_F(EndOfAChild, isWaitedForThoughTheOwnerIsGone)
+TEST_F(EndOfAChild, isAlsoThatOfWhatAToolLeavesBehind)
 {
-    auto owned = std::make_unique<ManagedProcess>();
-    auto run = owned->run(QStringLiteral("/bin/sh"), shell("sleep 0.1; echo done; exit 4"),
-                          m_output.callback());
-    owned.reset();
-    EXPECT_EQ(await(run), 4);
-    EXPECT_EQ(lines(), QStringList{QStringLiteral("done")});
+    EXPECT_EQ(runShell("sleep 600 & echo $!"), 0);
+    const auto grandchild = lines().value(0).toLongLong();
+    ASSERT_GT(grandchild, 0);
+    EXPECT_TRUE(waitUntil([&] { return !processRuns(grandchild); }));
+}
+
+TEST_F(EndOfAChild, letsWhatTheGameLeavesBehindGoOn)
+{
+    EXPECT_EQ(m_game->run(u"/bin/sh"_s, shell("sleep 600 & echo $!"), m_output.callback()), 0);
+    const auto grandchild = lines().value(0).toInt();
+    ASSERT_GT(grandchild, 0);
+    EXPECT_TRUE(processRuns(grandchild)); // Nobody asked for its end.
+    ::kill(grandchild, SIGKILL);
 }
 
 } // namespace

@@ -1,27 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Runs the program given as its arguments, after the words "ends" or "outlives", as a child of the
-// named lifetime, and gives its exit status. A test kills it to see what becomes of the child.
+// named lifetime, and returns its exit status. A test kills it to see what becomes of the child.
 #include "Process/ManagedProcess.h"
 
 #include <QCoreApplication>
-#include <QFutureWatcher>
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 int main(int argumentCount, char** arguments)
 {
-    QCoreApplication application(argumentCount, arguments);
+    const QCoreApplication application(argumentCount, arguments);
     auto programAndArguments = QCoreApplication::arguments().sliced(1);
-    const auto lifetime = programAndArguments.takeFirst() == QLatin1String("ends")
+    const auto lifetime = programAndArguments.takeFirst() == "ends"_L1
                               ? ManagedProcess::Lifetime::endsWithLauncher
                               : ManagedProcess::Lifetime::mayOutliveLauncher;
     const auto program = programAndArguments.takeFirst();
 
-    ManagedProcess process(lifetime);
-    QFutureWatcher<int> watcher;
-    QObject::connect(&watcher, &QFutureWatcher<int>::finished, &application,
-                     [&watcher] { QCoreApplication::exit(watcher.result()); });
-    watcher.setFuture(process.run(program, programAndArguments,
-                                  [](const QString& line) { std::puts(qPrintable(line)); }));
-    return QCoreApplication::exec();
+    return ManagedProcess(lifetime).run(program, programAndArguments,
+                                        [](const QString& lines) { std::puts(qPrintable(lines)); });
 }

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ChildTest.h"
 
-#include "Platform/ServiceThread.h"
 #include "Process/LogStore.h"
-#include "Support/ProcessState.h"
 #include "Support/TestFolder.h"
 
 #include <QFile>
 #include <QThread>
 
-#include <atomic>
 #include <csignal>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,30 +19,30 @@ using OutputOfAChild = ChildTest;
 TEST_F(OutputOfAChild, isDeliveredLineByLineAndTheLastOneWithoutALineFeed)
 {
     EXPECT_EQ(runShell("printf 'a\\nb'"), 0);
-    EXPECT_EQ(lines(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    EXPECT_EQ(lines(), (QStringList{u"a"_s, u"b"_s}));
 }
 
 TEST_F(OutputOfAChild, isThatOfStandardErrorToo)
 {
     EXPECT_EQ(runShell("echo one >&2; echo two >&2"), 0);
-    EXPECT_EQ(lines(), (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(lines(), (QStringList{u"one"_s, u"two"_s}));
 }
 
 TEST_F(OutputOfAChild, isDeliveredInTheOrderInWhichBothStreamsWereWritten)
 {
     QStringList expected;
     for (int i = 0; i < 50; ++i)
-        expected << QStringLiteral("out %1").arg(i) << QStringLiteral("err %1").arg(i);
+        expected << u"out %1"_s.arg(i) << u"err %1"_s.arg(i);
     runShell("i=0; while [ $i -lt 50 ]; do echo out $i; echo err $i >&2; i=$((i+1)); done");
     EXPECT_EQ(lines(), expected);
 }
 
 TEST_F(OutputOfAChild, isDeliveredThoughStillInThePipeAtTheEnd)
 {
-    EXPECT_EQ(runShell("head -c 60000 /dev/zero | tr '\\0' x; echo; printf end"), 0);
-    ASSERT_EQ(lines().size(), 2);
-    EXPECT_EQ(lines().first().size(), 60'000);
-    EXPECT_EQ(lines().last(), QStringLiteral("end"));
+    EXPECT_EQ(runShell("yes 123456789 | head -n 6000; printf end"), 0);
+    ASSERT_EQ(lines().size(), 6001);
+    EXPECT_EQ(lines().at(5999), u"123456789"_s);
+    EXPECT_EQ(lines().last(), u"end"_s);
 }
 
 TEST_F(OutputOfAChild, isDeliveredThoughItFillsTheWholePipeAtTheEnd)
@@ -53,93 +52,94 @@ TEST_F(OutputOfAChild, isDeliveredThoughItFillsTheWholePipeAtTheEnd)
     constexpr auto* program = "fcntl(STDOUT, 1031, 1 << 20) or exit 9; $| = 1; print qq(first\n); "
                               "print join(qq(\n), 1..100000);";
     const auto deliver = m_output.callback();
-    const auto deliverSlowly = [deliver](const QString& line) {
-        if (line == QLatin1String("first"))
+    const auto deliverSlowly = [deliver](const QString& lines) {
+        if (lines.startsWith("first"_L1))
             QThread::msleep(400);
-        deliver(line);
+        deliver(lines);
     };
     EXPECT_EQ(
-        await(m_process.run(QStringLiteral("/usr/bin/perl"),
-                            {QStringLiteral("-e"), QString::fromUtf8(program)}, deliverSlowly)),
+        m_process->run(u"/usr/bin/perl"_s, {u"-e"_s, QString::fromUtf8(program)}, deliverSlowly),
         0);
     ASSERT_EQ(lines().size(), 100'001);
-    EXPECT_EQ(lines().last(), QStringLiteral("100000"));
+    EXPECT_EQ(lines().last(), u"100000"_s);
 }
 
 TEST_F(OutputOfAChild, isDeliveredWholeWhenItIsLarge)
 {
     EXPECT_EQ(runShell("seq 1 200000"), 0);
     ASSERT_EQ(lines().size(), 200'000);
-    EXPECT_EQ(lines().at(123'455), QStringLiteral("123456"));
-    EXPECT_EQ(lines().last(), QStringLiteral("200000"));
+    EXPECT_EQ(lines().at(123'455), u"123456"_s);
+    EXPECT_EQ(lines().last(), u"200000"_s);
 }
 
 TEST_F(OutputOfAChild, keepsACarriageReturnOnItsLine)
 {
     runShell("printf 'a\\r\\nb\\r\\n'");
-    EXPECT_EQ(lines(), (QStringList{QStringLiteral("a\r"), QStringLiteral("b\r")}));
+    EXPECT_EQ(lines(), (QStringList{u"a\r"_s, u"b\r"_s}));
 }
 
-TEST_F(OutputOfAChild, isDeliveredOnAnotherThread)
+TEST_F(OutputOfAChild, isDeliveredOnTheThreadThatRunsTheChild)
 {
-    std::atomic<QThread*> deliverer = nullptr;
-    await(m_process.run(QStringLiteral("/bin/sh"), shell("echo x"),
-                        [&](const QString&) { deliverer = QThread::currentThread(); }));
-    EXPECT_EQ(deliverer, &ServiceThread::children());
+    QThread* deliverer = nullptr;
+    m_process->run(u"/bin/sh"_s, shell("echo x"),
+                   [&](const QString&) { deliverer = QThread::currentThread(); });
+    EXPECT_EQ(deliverer, QThread::currentThread());
 }
 
-TEST_F(OutputOfAChild, isHandedToALogInBlocksWithTheSameEffect)
+TEST_F(OutputOfAChild, comesInPiecesCutBetweenCharactersWhenALineDoesNotEnd)
 {
-    LogStore log;
-    await(m_process.run(QStringLiteral("/bin/sh"), shell("printf 'a\\r\\n\\nb'"), log.callback()));
-    EXPECT_EQ(log.newest(10), (QStringList{QStringLiteral("a\r"), QString(), QStringLiteral("b")}));
+    // 100,000 times a character of three bytes, one byte aside.
+    EXPECT_EQ(run(u"/usr/bin/perl"_s, {u"-e"_s, u"print 'x', qq(\\xe2\\x82\\xac) x 100000"_s}), 0);
+    EXPECT_GT(lines().size(), 1);
+    EXPECT_EQ(lines().join(QString()), u'x' + QString(100'000, u'€'));
+}
+
+TEST_F(OutputOfAChild, isWholeWhenALineIsShorterThanThat)
+{
+    EXPECT_EQ(runShell("head -c 16000 /dev/zero | tr '\\0' x; sleep 0.05; echo end"), 0);
+    ASSERT_EQ(lines().size(), 1);
+    EXPECT_EQ(lines().first().size(), 16'003);
 }
 
 TEST_F(OutputOfAChild, isCompleteThoughAGrandchildHoldsThePipe)
 {
-    EXPECT_EQ(runShell("sleep 600 & echo $!; printf unfinished"), 0);
+    EXPECT_EQ(m_game->run(u"/bin/sh"_s, shell("sleep 600 & echo $!; printf unfinished"),
+                          m_output.callback()),
+              0);
     ASSERT_EQ(lines().size(), 2);
-    EXPECT_EQ(lines().last(), QStringLiteral("unfinished"));
-    const auto grandchild = lines().first().toInt();
-    EXPECT_TRUE(processRuns(grandchild)); // Nobody asked for its end.
-    ::kill(grandchild, SIGKILL);
+    EXPECT_EQ(lines().last(), u"unfinished"_s);
+    ::kill(lines().first().toInt(), SIGKILL);
 }
 
 TEST_F(OutputOfAChild, isCompleteThoughAGrandchildFloodsThePipe)
 {
     const TestFolder folder;
-    const auto flooded = folder.path(QStringLiteral("flooded"));
+    const auto flooded = folder.path(u"flooded"_s);
     auto noteFlood = [flooded, isNoted = false](const QString&) mutable {
         if (!std::exchange(isNoted, true))
             QFile(flooded).open(QIODevice::WriteOnly);
     };
-    EXPECT_EQ(await(m_process.run(QStringLiteral("/bin/sh"),
-                                  shell("yes & while [ ! -e \"$0\" ]; do sleep 0.01; done") +
-                                      QStringList{flooded},
-                                  std::move(noteFlood))),
+    EXPECT_EQ(m_process->run(u"/bin/sh"_s,
+                             shell("yes & while [ ! -e \"$0\" ]; do sleep 0.01; done") +
+                                 QStringList{flooded},
+                             std::move(noteFlood)),
               0);
+}
+
+TEST_F(OutputOfAChild, mayEndBeforeTheChildDoes)
+{
+    EXPECT_EQ(runShell("echo last; exec >&- 2>&-; sleep 0.1; exit 6"), 6);
+    EXPECT_EQ(lines(), QStringList{u"last"_s});
 }
 
 TEST_F(OutputOfAChild, doesNotKeepAFloodingChildFromBeingTerminated)
 {
     LogStore log;
-    auto run = m_process.run(QStringLiteral("/usr/bin/yes"), {}, log.callback());
+    auto run = start(m_process, u"/usr/bin/yes"_s, {}, log.callback());
     ASSERT_TRUE(waitUntil([&log] { return log.newest(2000).size() == 2000; }));
-    m_process.terminate();
+    m_process->terminate();
     EXPECT_EQ(await(run), SIGTERM);
     EXPECT_EQ(log.newest(3000).size(), 2000);
-}
-
-TEST_F(OutputOfAChild, doesNotKeepAnotherChildFromBeingServed)
-{
-    LogStore log;
-    auto flood = m_process.run(QStringLiteral("/usr/bin/yes"), {}, log.callback());
-    ManagedProcess other;
-    EXPECT_EQ(await(other.run(QStringLiteral("/bin/sh"), shell("echo other"), m_output.callback())),
-              0);
-    EXPECT_EQ(lines(), QStringList{QStringLiteral("other")});
-    m_process.terminate();
-    await(flood);
 }
 
 } // namespace

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ChildTest.h"
 
-#include "Platform/FileDescriptor.h"
-#include "Platform/PlatformError.h"
-#include "Platform/ServiceThread.h"
 #include "Support/TestFolder.h"
+#include "System/Errors.h"
+#include "System/FileDescriptor.h"
 
 #include <QDir>
-#include <QPromise>
 
 #include <csignal>
-#include <memory>
+#include <thread>
 
 #include <fcntl.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,50 +24,48 @@ constexpr qulonglong brokenPipeBit = 1ULL << (SIGPIPE - 1);
 TEST_F(StartOfAChild, ofAMissingProgramIsReportedInASentence)
 {
     try {
-        await(m_process.run(QStringLiteral("/nowhere/program"), {}, m_output.callback()));
+        run(u"/nowhere/program"_s);
         FAIL() << "It started.";
     } catch (const PlatformError& error) {
         EXPECT_EQ(error.message().toStdString(),
                   "Could not start “/nowhere/program”: No such file or directory.");
     }
     EXPECT_EQ(lines(), QStringList());
-    EXPECT_FALSE(m_process.isRunning());
+    EXPECT_FALSE(m_process->isRunning());
 }
 
 TEST_F(StartOfAChild, ofAFileThatIsNoProgramIsReportedInASentence)
 {
     const TestFolder folder;
-    const auto file = folder.write(QStringLiteral("data"), "no program");
+    const auto file = folder.write(u"data"_s, "no program");
     try {
-        await(m_process.run(file, {}, m_output.callback()));
+        run(file);
         FAIL() << "It started.";
     } catch (const PlatformError& error) {
-        EXPECT_EQ(error.message(),
-                  QStringLiteral("Could not start “%1”: Permission denied.").arg(file));
+        EXPECT_EQ(error.message(), u"Could not start “%1”: Permission denied."_s.arg(file));
     }
 }
 
 TEST_F(StartOfAChild, passesArgumentsUnchanged)
 {
-    const QStringList arguments{QStringLiteral("%s\\n"), QStringLiteral("two words"),
-                                QStringLiteral("$HOME \"quoted\" 'x'"), QString(),
-                                QStringLiteral("größe €")};
-    await(m_process.run(QStringLiteral("/usr/bin/printf"), arguments, m_output.callback()));
+    const QStringList arguments{u"%s\\n"_s, u"two words"_s, u"$HOME \"quoted\" 'x'"_s, QString(),
+                                u"größe €"_s};
+    run(u"/usr/bin/printf"_s, arguments);
     EXPECT_EQ(lines(), arguments.sliced(1));
 }
 
 TEST_F(StartOfAChild, takesAProgramWhoseNameIsNotAscii)
 {
     const TestFolder folder;
-    const auto script = folder.writeScript(QStringLiteral("Spiel „€“ ✓/läuft nicht?"), "echo $0");
-    EXPECT_EQ(await(m_process.run(script, {}, m_output.callback())), 0);
+    const auto script = folder.writeScript(u"Spiel „€“ ✓/läuft nicht?"_s, "echo $0");
+    EXPECT_EQ(run(script), 0);
     EXPECT_EQ(lines(), QStringList{script});
 }
 
 TEST_F(StartOfAChild, givesTheChildTheNullDeviceAsStandardInput)
 {
     runShell("readlink /proc/$$/fd/0");
-    EXPECT_EQ(lines(), QStringList{QStringLiteral("/dev/null")});
+    EXPECT_EQ(lines(), QStringList{u"/dev/null"_s});
 }
 
 TEST_F(StartOfAChild, givesTheChildItsEnvironmentAndWorkingFolder)
@@ -75,7 +73,7 @@ TEST_F(StartOfAChild, givesTheChildItsEnvironmentAndWorkingFolder)
     qputenv("CAVERNYX_TEST_VALUE", "inherited");
     runShell("echo $CAVERNYX_TEST_VALUE; pwd");
     qunsetenv("CAVERNYX_TEST_VALUE");
-    EXPECT_EQ(lines(), (QStringList{QStringLiteral("inherited"), QDir::currentPath()}));
+    EXPECT_EQ(lines(), (QStringList{u"inherited"_s, QDir::currentPath()}));
 }
 
 TEST_F(StartOfAChild, givesTheChildNoOtherDescriptor)
@@ -86,8 +84,7 @@ TEST_F(StartOfAChild, givesTheChildNoOtherDescriptor)
     const FileDescriptor distant(::fcntl(leaking.get(), F_DUPFD, 200));
     ASSERT_TRUE(distant.isOpen());
     runShell("ls -v /proc/$$/fd");
-    EXPECT_EQ(lines(),
-              (QStringList{QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(lines(), (QStringList{u"0"_s, u"1"_s, u"2"_s}));
 }
 
 TEST_F(StartOfAChild, makesTheChildLeaderOfItsOwnGroup)
@@ -99,26 +96,15 @@ TEST_F(StartOfAChild, makesTheChildLeaderOfItsOwnGroup)
 
 TEST_F(StartOfAChild, letsEverySignalThroughToTheChild)
 {
-    const auto setMask = [](int how) {
-        const auto done = std::make_shared<QPromise<void>>();
-        auto future = done->future();
-        ServiceThread::children().post([how, done] {
-            sigset_t set;
-            sigemptyset(&set);
-            sigaddset(&set, SIGTERM);
-            pthread_sigmask(how, &set, nullptr);
-            done->start();
-            done->finish();
-        });
-        future.waitForFinished();
-    };
-    setMask(SIG_BLOCK);
-    // Not by way of the shell, which lets every signal through itself.
-    await(m_process.run(QStringLiteral("/bin/grep"),
-                        {QStringLiteral("SigBlk"), QStringLiteral("/proc/self/status")},
-                        m_output.callback()));
-    setMask(SIG_UNBLOCK);
-    EXPECT_EQ(lines(), QStringList{QStringLiteral("SigBlk:\t0000000000000000")});
+    std::thread([this] {
+        sigset_t set;
+        sigemptyset(&set);
+        sigaddset(&set, SIGTERM);
+        pthread_sigmask(SIG_BLOCK, &set, nullptr);
+        // Not by way of the shell, which lets every signal through itself.
+        run(u"/bin/grep"_s, {u"SigBlk"_s, u"/proc/self/status"_s});
+    }).join();
+    EXPECT_EQ(lines(), QStringList{u"SigBlk:\t0000000000000000"_s});
 }
 
 TEST_F(StartOfAChild, leavesBrokenPipesDeadlyToATool)
@@ -130,9 +116,7 @@ TEST_F(StartOfAChild, leavesBrokenPipesDeadlyToATool)
 
 TEST_F(StartOfAChild, sparesTheGameFromBrokenPipes)
 {
-    ManagedProcess game(ManagedProcess::Lifetime::mayOutliveLauncher);
-    await(game.run(QStringLiteral("/bin/sh"), shell("grep SigIgn /proc/self/status"),
-                   m_output.callback()));
+    m_game->run(u"/bin/sh"_s, shell("grep SigIgn /proc/self/status"), m_output.callback());
     ASSERT_EQ(lines().size(), 1);
     EXPECT_NE(lines().first().section(u'\t', 1).toULongLong(nullptr, 16) & brokenPipeBit, 0U);
 }

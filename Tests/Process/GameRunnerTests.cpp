@@ -14,33 +14,32 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
 
 TEST(GameRunner, playsInAWindowOfTheGamesOwnSize)
 {
-    EXPECT_EQ(GameRunner::playArguments(QStringLiteral("/the project"), false,
-                                        ResolutionChoice::gameDefault),
-              (QStringList{QStringLiteral("--path"), QStringLiteral("/the project"),
-                           QStringLiteral("--windowed")}));
+    EXPECT_EQ(GameRunner::playArguments(u"/the project"_s, false, ResolutionChoice::gameDefault),
+              (QStringList{u"--path"_s, u"/the project"_s, u"--windowed"_s}));
 }
 
 TEST(GameRunner, playsFullScreenInAChosenSize)
 {
     EXPECT_EQ(
-        GameRunner::playArguments(QStringLiteral("/p"), true, ResolutionChoice::r1440),
-        (QStringList{QStringLiteral("--path"), QStringLiteral("/p"), QStringLiteral("--fullscreen"),
-                     QStringLiteral("--resolution"), QStringLiteral("2560x1440")}));
+        GameRunner::playArguments(u"/p"_s, true, ResolutionChoice::r1440),
+        (QStringList{u"--path"_s, u"/p"_s, u"--fullscreen"_s, u"--resolution"_s, u"2560x1440"_s}));
 }
 
 Durations shortDurations()
 {
     Durations durations;
-    durations.importPoll = 30ms;
-    durations.importSettled = 60ms;
+    durations.importPollInterval = 30ms;
+    durations.importSettleTime = 60ms;
     // Longer than any test: an engine that ends because it was killed fails it.
-    durations.killGrace = 10min;
+    durations.killTimeout = 10min;
     return durations;
 }
 
@@ -48,14 +47,14 @@ Durations shortDurations()
 Durations durationsWithoutACount()
 {
     auto durations = shortDurations();
-    durations.importPoll = 1h;
+    durations.importPollInterval = 1h;
     return durations;
 }
 
 Durations durationsWithAShortGrace()
 {
     auto durations = shortDurations();
-    durations.killGrace = 100ms;
+    durations.killTimeout = 100ms;
     return durations;
 }
 
@@ -68,7 +67,7 @@ protected:
     /// Starts the import with the shell script `body` as the engine.
     void start(const QByteArray& body, std::chrono::milliseconds timeout = 60s)
     {
-        startEngine(m_folder.writeScript(QStringLiteral("engine"), body), timeout);
+        startEngine(m_folder.writeScript(u"engine"_s, body), timeout);
     }
 
     void startEngine(const QString& engine, std::chrono::milliseconds timeout = 60s)
@@ -79,10 +78,10 @@ protected:
     /// Waits for the end of the import that was started.
     Outcome<int> finish() { return eventually(std::move(*m_run)); }
 
-    void writeAsset() const { m_folder.write(QStringLiteral("project/a.png")); }
+    void writeAsset() const { m_folder.write(u"project/a.png"_s); }
 
     TestFolder m_folder;
-    QString m_project = m_folder.makeFolder(QStringLiteral("project"));
+    QString m_project = m_folder.makeFolder(u"project"_s);
     CollectedLines m_output;
     std::optional<GameRunner> m_runner{std::in_place, shortDurations()};
     std::optional<QCoro::Task<int>> m_run;
@@ -94,8 +93,7 @@ TEST_F(ImportRunTest, startsTheEditorOnTheProjectWithoutAWindow)
     start("for a in \"$@\"; do echo \"$a\"; done; exit 3");
     EXPECT_EQ(finish().value, 3);
     EXPECT_EQ(m_output.lines(),
-              (QStringList{QStringLiteral("--path"), m_project, QStringLiteral("--editor"),
-                           QStringLiteral("--no-window")}));
+              (QStringList{u"--path"_s, m_project, u"--editor"_s, u"--no-window"_s}));
 }
 
 TEST_F(ImportRunTest, holdsItsChildUntilItEnds)
@@ -103,7 +101,7 @@ TEST_F(ImportRunTest, holdsItsChildUntilItEnds)
     EXPECT_EQ(m_runner->process, nullptr);
     start("exec sleep 600");
     ASSERT_NE(m_runner->process, nullptr);
-    EXPECT_TRUE(m_runner->process->isRunning());
+    EXPECT_TRUE(waitUntil([this] { return m_runner->process->isRunning(); }));
     m_runner->terminateCurrent();
     EXPECT_EQ(finish().value, SIGTERM);
     EXPECT_EQ(m_runner->process, nullptr);
@@ -123,12 +121,11 @@ TEST_F(ImportRunTest, isClosedOnceEverythingIsImported)
     writeAsset();
     start("exec sleep 600");
     ASSERT_TRUE(waitUntil([this] { return !m_output.lines().isEmpty(); }));
-    m_folder.write(QStringLiteral("project/a.png.import"));
+    m_folder.write(u"project/a.png.import"_s);
     EXPECT_EQ(finish().value, SIGTERM);
-    EXPECT_EQ(m_output.lines(),
-              (QStringList{QStringLiteral("Import progress: 1 assets still to import"),
-                           QStringLiteral("Import progress: 0 assets still to import"),
-                           QStringLiteral("All assets imported, closing the setup run.")}));
+    EXPECT_EQ(m_output.lines(), (QStringList{u"Import progress: 1 assets still to import"_s,
+                                             u"Import progress: 0 assets still to import"_s,
+                                             u"All assets imported, closing the setup run."_s}));
 }
 
 TEST_F(ImportRunTest, isStoppedWhenItTakesTooLong)
@@ -136,9 +133,8 @@ TEST_F(ImportRunTest, isStoppedWhenItTakesTooLong)
     writeAsset();
     start("exec sleep 600", 100ms);
     EXPECT_EQ(finish().value, SIGTERM);
-    EXPECT_EQ(m_output.lines(),
-              (QStringList{QStringLiteral("Import progress: 1 assets still to import"),
-                           QStringLiteral("Setup took too long, stopping it.")}));
+    EXPECT_EQ(m_output.lines(), (QStringList{u"Import progress: 1 assets still to import"_s,
+                                             u"Setup took too long, stopping it."_s}));
 }
 
 TEST_F(ImportRunTest, killsAnEngineThatIgnoresTheRequestToStop)
@@ -161,7 +157,7 @@ TEST_F(ImportRunTest, canBeStoppedFromOutside)
 
 TEST_F(ImportRunTest, passesOnThatTheEngineCannotBeStarted)
 {
-    startEngine(QStringLiteral("/nowhere/engine"));
+    startEngine(u"/nowhere/engine"_s);
     EXPECT_TRUE(finish().isPlatformError);
     EXPECT_EQ(m_runner->process, nullptr);
     EXPECT_EQ(m_output.lines(), QStringList());

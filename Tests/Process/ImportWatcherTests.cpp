@@ -5,6 +5,8 @@
 
 #include <initializer_list>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -13,13 +15,11 @@ using Verdict = ImportWatcher::Verdict;
 
 QString progress(int count)
 {
-    return QStringLiteral("Import progress: %1 assets still to import").arg(count);
+    return u"Import progress: %1 assets still to import"_s.arg(count);
 }
 
-const auto allImported = [] {
-    return QStringLiteral("All assets imported, closing the setup run.");
-};
-const auto tooLong = [] { return QStringLiteral("Setup took too long, stopping it."); };
+const auto allImported = [] { return u"All assets imported, closing the setup run."_s; };
+const auto tooLong = [] { return u"Setup took too long, stopping it."_s; };
 
 /// What a watcher of production's durations logs for these counts, one every two seconds, and how
 /// many of them it took to end the run; none when it did not.

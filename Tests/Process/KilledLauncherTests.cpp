@@ -10,6 +10,8 @@
 
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ChildOfAKilledLauncher : public testing::Test
@@ -19,14 +21,11 @@ protected:
     qint64 startChild(const QString& lifetime)
     {
         m_launcher.start(QStringLiteral(CHILD_LAUNCHER),
-                         {lifetime, QStringLiteral("/bin/sh"), QStringLiteral("-c"),
-                          QStringLiteral("echo $$ >\"$0\"; exec sleep 600"),
-                          m_folder.path(QStringLiteral("id"))});
-        EXPECT_TRUE(waitUntil([this] {
-            return m_folder.exists(QStringLiteral("id")) &&
-                   m_folder.read(QStringLiteral("id")).endsWith('\n');
-        }));
-        return m_folder.read(QStringLiteral("id")).trimmed().toLongLong();
+                         {lifetime, u"/bin/sh"_s, u"-c"_s, u"echo $$ >\"$0\"; exec sleep 600"_s,
+                          m_folder.path(u"id"_s)});
+        EXPECT_TRUE(waitUntil(
+            [this] { return m_folder.exists(u"id"_s) && m_folder.read(u"id"_s).endsWith('\n'); }));
+        return m_folder.read(u"id"_s).trimmed().toLongLong();
     }
 
     void killLauncher()
@@ -41,7 +40,7 @@ protected:
 
 TEST_F(ChildOfAKilledLauncher, endsWithIt)
 {
-    const auto child = startChild(QStringLiteral("ends"));
+    const auto child = startChild(u"ends"_s);
     ASSERT_TRUE(processRuns(child));
     killLauncher();
     EXPECT_TRUE(waitUntil([&] { return !processRuns(child); }));
@@ -49,11 +48,24 @@ TEST_F(ChildOfAKilledLauncher, endsWithIt)
 
 TEST_F(ChildOfAKilledLauncher, goesOnWhenItIsTheGame)
 {
-    const auto child = startChild(QStringLiteral("outlives"));
+    const auto child = startChild(u"outlives"_s);
     killLauncher();
     QThread::msleep(200);
     EXPECT_TRUE(processRuns(child));
     ::kill(static_cast<pid_t>(child), SIGKILL);
+}
+
+TEST(ChildOfALauncherThatExits, endsWithIt)
+{
+    QProcess launcher;
+    launcher.start(QStringLiteral(EXITING_LAUNCHER));
+    ASSERT_TRUE(waitUntil([&] { return launcher.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(launcher.exitStatus(), QProcess::NormalExit)
+        << launcher.readAllStandardError().data();
+    EXPECT_EQ(launcher.exitCode(), 7);
+    const auto child = launcher.readAllStandardOutput().trimmed().toLongLong();
+    ASSERT_GT(child, 0);
+    EXPECT_TRUE(waitUntil([&] { return !processRuns(child); }));
 }
 
 } // namespace

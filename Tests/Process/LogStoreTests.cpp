@@ -9,7 +9,10 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 using namespace std::chrono_literals;
 
@@ -23,11 +26,6 @@ QStringList numbered(int first, int last)
     return lines;
 }
 
-QByteArray block(const QStringList& lines)
-{
-    return lines.join(u'\n').toUtf8() + '\n';
-}
-
 class LogStoreTest : public testing::Test
 {
 protected:
@@ -37,22 +35,22 @@ protected:
 
 TEST_F(LogStoreTest, publishesABurstInOneChangeAfterTheDelay)
 {
-    m_log.append(QStringLiteral("one"));
-    m_log.append(QStringLiteral("two"));
+    m_log.append(u"one"_s);
+    m_log.append(u"two"_s);
     EXPECT_EQ(m_log.lines(), QStringList());
     ASSERT_TRUE(m_changes.wait());
-    EXPECT_EQ(m_log.lines(), (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(m_log.lines(), (QStringList{u"one"_s, u"two"_s}));
     EXPECT_FALSE(m_changes.wait(200));
     EXPECT_EQ(m_changes.count(), 1);
 }
 
 TEST_F(LogStoreTest, publishesWhatComesAfterAPublication)
 {
-    m_log.append(QStringLiteral("one"));
+    m_log.append(u"one"_s);
     ASSERT_TRUE(m_changes.wait());
-    m_log.append(QStringLiteral("two"));
+    m_log.append(u"two"_s);
     ASSERT_TRUE(m_changes.wait());
-    EXPECT_EQ(m_log.lines(), (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
+    EXPECT_EQ(m_log.lines(), (QStringList{u"one"_s, u"two"_s}));
 }
 
 TEST_F(LogStoreTest, keepsTheNewestLinesOfALongText)
@@ -60,7 +58,6 @@ TEST_F(LogStoreTest, keepsTheNewestLinesOfALongText)
     m_log.append(numbered(1, 2500).join(u'\n'));
     ASSERT_TRUE(m_changes.wait());
     EXPECT_EQ(m_log.lines(), numbered(501, 2500));
-    EXPECT_EQ(m_log.firstLineNumber(), 500);
 }
 
 TEST_F(LogStoreTest, keepsTheNewestLinesOfManyAppends)
@@ -78,19 +75,18 @@ TEST_F(LogStoreTest, addsAnEmptyLineForAnEmptyText)
 
 TEST_F(LogStoreTest, splitsATextAtEveryLineFeed)
 {
-    m_log.append(QStringLiteral("x\n"));
-    m_log.append(QStringLiteral("a\n\nb"));
-    EXPECT_EQ(m_log.newest(10), (QStringList{QStringLiteral("x"), QString(), QStringLiteral("a"),
-                                             QString(), QStringLiteral("b")}));
+    m_log.append(u"x\n"_s);
+    m_log.append(u"a\n\nb"_s);
+    EXPECT_EQ(m_log.newest(10), (QStringList{u"x"_s, QString(), u"a"_s, QString(), u"b"_s}));
 }
 
 TEST_F(LogStoreTest, keepsACarriageReturnOnItsLine)
 {
-    m_log.append(QStringLiteral("a\r\nb\r"));
-    EXPECT_EQ(m_log.newest(10), (QStringList{QStringLiteral("a\r"), QStringLiteral("b\r")}));
+    m_log.append(u"a\r\nb\r"_s);
+    EXPECT_EQ(m_log.newest(10), (QStringList{u"a\r"_s, u"b\r"_s}));
 }
 
-TEST_F(LogStoreTest, givesTheNewestLinesBeforeTheyArePublished)
+TEST_F(LogStoreTest, returnsTheNewestLinesBeforeTheyArePublished)
 {
     m_log.append(numbered(1, 10).join(u'\n'));
     EXPECT_EQ(m_log.newest(3), numbered(8, 10));
@@ -100,21 +96,20 @@ TEST_F(LogStoreTest, givesTheNewestLinesBeforeTheyArePublished)
 
 TEST_F(LogStoreTest, publishesAClearAtOnceAndLaterWhatCameAfterIt)
 {
-    m_log.append(QStringLiteral("before"));
+    m_log.append(u"before"_s);
     m_log.clear();
-    m_log.append(QStringLiteral("after"));
+    m_log.append(u"after"_s);
     QCoreApplication::sendPostedEvents(&m_log);
     // The line after the clear was there when the clear was published.
     EXPECT_EQ(m_changes.count(), 1);
-    EXPECT_EQ(m_log.lines(), QStringList{QStringLiteral("after")});
-    EXPECT_EQ(m_log.firstLineNumber(), 1);
+    EXPECT_EQ(m_log.lines(), QStringList{u"after"_s});
     ASSERT_TRUE(m_changes.wait());
-    EXPECT_EQ(m_log.lines(), QStringList{QStringLiteral("after")});
+    EXPECT_EQ(m_log.lines(), QStringList{u"after"_s});
 }
 
 TEST_F(LogStoreTest, isEmptyAfterAClearWhileAPublicationIsPending)
 {
-    m_log.append(QStringLiteral("before"));
+    m_log.append(u"before"_s);
     m_log.clear();
     ASSERT_TRUE(m_changes.wait());
     EXPECT_EQ(m_log.lines(), QStringList());
@@ -124,7 +119,7 @@ TEST_F(LogStoreTest, isEmptyAfterAClearWhileAPublicationIsPending)
 
 TEST_F(LogStoreTest, clearsLinesThatWerePublished)
 {
-    m_log.append(QStringLiteral("before"));
+    m_log.append(u"before"_s);
     ASSERT_TRUE(m_changes.wait());
     m_log.clear();
     ASSERT_TRUE(m_changes.wait());
@@ -138,63 +133,67 @@ TEST_F(LogStoreTest, publishesOnItsOwnThread)
     QObject::connect(
         &m_log, &LogStore::linesChanged, &m_log, [&] { publisher = QThread::currentThread(); },
         Qt::DirectConnection);
-    std::thread([this] { m_log.append(QStringLiteral("from elsewhere")); }).join();
+    std::thread([this] { m_log.append(u"from elsewhere"_s); }).join();
     ASSERT_TRUE(m_changes.wait());
     EXPECT_EQ(publisher, QThread::currentThread());
 }
 
-TEST_F(LogStoreTest, takesABlockAsItsLines)
+/// What the log shows, put together from nothing but the changes that it announces.
+class ShownLines final
 {
-    m_log.append(QStringLiteral("first"));
-    m_log.appendBlock("a\r\n\n\xff\xe2\x82\xac\n\xef\xbb\xbf\n");
-    m_log.append(QStringLiteral("last"));
-    EXPECT_EQ(m_log.newest(10), (QStringList{QStringLiteral("first"), QStringLiteral("a\r"),
-                                             QString(), QStringLiteral("\uFFFD€"),
-                                             QStringLiteral("\uFEFF"), QStringLiteral("last")}));
+public:
+    explicit ShownLines(const LogStore& log)
+    {
+        QObject::connect(&log, &LogStore::linesChanged,
+                         [this](qsizetype dropped, const QStringList& added) {
+                             m_lines = m_lines.sliced(dropped) + added;
+                             m_addedCount += added.size();
+                         });
+    }
+
+    [[nodiscard]] const QStringList& lines() const { return m_lines; }
+    /// How many lines were added in all.
+    [[nodiscard]] qsizetype addedCount() const { return m_addedCount; }
+
+private:
+    QStringList m_lines;
+    qsizetype m_addedCount = 0;
+};
+
+TEST_F(LogStoreTest, announcesWhatWasDroppedAndWhatWasAdded)
+{
+    const ShownLines shown(m_log);
+    for (const auto& [first, last] :
+         {std::pair(1, 1500), {1501, 1900}, {1901, 2400}, {2401, 9000}}) {
+        m_log.append(numbered(first, last).join(u'\n'));
+        ASSERT_TRUE(m_changes.wait());
+        EXPECT_EQ(shown.lines(), m_log.lines());
+    }
+    // Of the last 6,600 lines 2,000 were kept; no line was added twice.
+    EXPECT_EQ(shown.addedCount(), 2400 + 2000);
 }
 
-TEST_F(LogStoreTest, keepsTheNewestLinesOfLinesAndBlocks)
+TEST_F(LogStoreTest, announcesAClearAndWhatFollows)
 {
-    m_log.append(numbered(1, 1500).join(u'\n'));
-    m_log.appendBlock(block(numbered(1501, 1800)));
-    m_log.appendBlock(block(numbered(1801, 2400)));
-    EXPECT_EQ(m_log.newest(5000), numbered(401, 2400));
+    const ShownLines shown(m_log);
+    m_log.append(u"before"_s);
     ASSERT_TRUE(m_changes.wait());
-    EXPECT_EQ(m_log.firstLineNumber(), 400);
-}
-
-TEST_F(LogStoreTest, keepsTheNewestLinesOfManyBlocks)
-{
-    m_log.append(QStringLiteral("gone"));
-    for (int first = 1; first <= 9901; first += 100)
-        m_log.appendBlock(block(numbered(first, first + 99)));
-    m_log.appendBlock(block(numbered(10'001, 10'001)));
-    ASSERT_TRUE(m_changes.wait());
-    EXPECT_EQ(m_log.lines(), numbered(8002, 10'001));
-    EXPECT_EQ(m_log.firstLineNumber(), 8002);
-}
-
-TEST_F(LogStoreTest, keepsTheNewestLinesOfOneBlockBeyondTheBound)
-{
-    m_log.appendBlock(block(numbered(1, 2500)));
-    EXPECT_EQ(m_log.newest(5000), numbered(501, 2500));
-}
-
-TEST_F(LogStoreTest, clearsBlocksToo)
-{
-    m_log.appendBlock("a\n");
+    m_log.append(u"gone"_s);
     m_log.clear();
-    EXPECT_EQ(m_log.newest(10), QStringList());
+    m_log.append(u"after"_s);
+    ASSERT_TRUE(m_changes.wait());
+    EXPECT_EQ(shown.lines(), QStringList{u"after"_s});
+    ASSERT_TRUE(m_changes.wait());
+    EXPECT_EQ(shown.lines(), QStringList{u"after"_s});
+    EXPECT_EQ(shown.addedCount(), 2);
 }
 
 TEST_F(LogStoreTest, isWrittenToByItsCallback)
 {
     const auto callback = m_log.callback();
-    callback(QStringLiteral("a sentence"));
-    ASSERT_TRUE(callback.takesBlocks());
-    callback.takeBlock("output\n");
-    EXPECT_EQ(m_log.newest(10),
-              (QStringList{QStringLiteral("a sentence"), QStringLiteral("output")}));
+    callback(u"a sentence"_s);
+    callback(u"two\nlines"_s);
+    EXPECT_EQ(m_log.newest(10), (QStringList{u"a sentence"_s, u"two"_s, u"lines"_s}));
 }
 
 TEST(WritersOfTheLogStore, loseNoLine)
@@ -203,13 +202,8 @@ TEST(WritersOfTheLogStore, loseNoLine)
     std::vector<std::thread> writers;
     for (int writer = 0; writer < 4; ++writer)
         writers.emplace_back([&log, writer] {
-            for (int i = 0; i < 400; ++i) {
-                const auto line = QStringLiteral("%1 %2").arg(writer).arg(i);
-                if (i % 2 == 0)
-                    log.append(line);
-                else
-                    log.appendBlock(line.toUtf8() + '\n');
-            }
+            for (int i = 0; i < 400; ++i)
+                log.append(u"%1 %2"_s.arg(writer).arg(i));
         });
     for (auto& writer : writers)
         writer.join();
@@ -218,7 +212,7 @@ TEST(WritersOfTheLogStore, loseNoLine)
     for (int writer = 0; writer < 4; ++writer) {
         int next = 0;
         for (const auto& line : lines) {
-            if (line == QStringLiteral("%1 %2").arg(writer).arg(next))
+            if (line == u"%1 %2"_s.arg(writer).arg(next))
                 ++next;
         }
         EXPECT_EQ(next, 400) << "of writer " << writer;
@@ -230,7 +224,7 @@ TEST(LogStore, thatIsGoneBeforeAPublicationIsNotPublished)
     auto log = std::make_unique<LogStore>(2000, 1ms);
     int changes = 0;
     QObject::connect(log.get(), &LogStore::linesChanged, [&changes] { ++changes; });
-    log->append(QStringLiteral("one"));
+    log->append(u"one"_s);
     QCoreApplication::processEvents(); // The delay begins.
     log->clear();
     log.reset();

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(ResolutionChoice, isListedInTheOrderOfTheSettings)
@@ -12,9 +14,8 @@ TEST(ResolutionChoice, isListedInTheOrderOfTheSettings)
     QStringList values;
     for (const auto choice : allResolutionChoices)
         values.append(rawValue(choice));
-    EXPECT_EQ(values,
-              (QStringList{QString(), QStringLiteral("1280x720"), QStringLiteral("1600x900"),
-                           QStringLiteral("1920x1080"), QStringLiteral("2560x1440")}));
+    EXPECT_EQ(values, (QStringList{QString(), u"1280x720"_s, u"1600x900"_s, u"1920x1080"_s,
+                                   u"2560x1440"_s}));
 }
 
 TEST(ResolutionChoice, isFoundAgainByItsRawValue)
@@ -25,9 +26,9 @@ TEST(ResolutionChoice, isFoundAgainByItsRawValue)
 
 TEST(ResolutionChoice, ofAnUnknownRawValueIsNone)
 {
-    EXPECT_EQ(resolutionChoice(QStringLiteral("640x480")), std::nullopt);
-    EXPECT_EQ(resolutionChoice(QStringLiteral("1280X720")), std::nullopt);
-    EXPECT_EQ(resolutionChoice(QStringLiteral(" ")), std::nullopt);
+    EXPECT_EQ(resolutionChoice(u"640x480"_s), std::nullopt);
+    EXPECT_EQ(resolutionChoice(u"1280X720"_s), std::nullopt);
+    EXPECT_EQ(resolutionChoice(u" "_s), std::nullopt);
 }
 
 } // namespace

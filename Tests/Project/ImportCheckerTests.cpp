@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Project/ImportChecker.h"
 
-#include "Platform/TextFile.h"
 #include "Support/TestFolder.h"
+#include "System/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,8 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -73,7 +75,7 @@ TEST_F(ImportCheckerTest, isSatisfiedByAnyOfSeveralFormats)
     EXPECT_EQ(missingCount(), 1);
     write(".import/a.etc2.stex");
     EXPECT_EQ(missingCount(), 0);
-    QFile::remove(m_project.path(QStringLiteral(".import/a.etc2.stex")));
+    QFile::remove(m_project.path(u".import/a.etc2.stex"_s));
     write(".import/a.s3tc.stex");
     EXPECT_EQ(missingCount(), 0);
 }
@@ -143,16 +145,14 @@ TEST_F(ImportCheckerTest, countsARecordThatIsNotUtf8)
 TEST_F(ImportCheckerTest, countsARecordThatIsNoRegularFileOfBoundedSize)
 {
     write("folder.png");
-    m_project.makeFolder(QStringLiteral("folder.png.import"));
+    m_project.makeFolder(u"folder.png.import"_s);
     write("pipe.png");
-    ASSERT_EQ(
-        ::mkfifo(QFile::encodeName(m_project.path(QStringLiteral("pipe.png.import"))).constData(),
-                 0600),
-        0);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(m_project.path(u"pipe.png.import"_s)).constData(), 0600),
+              0);
     write("large.png");
-    write("large.png.import", QByteArray(TextFile::maximumSize + 1, ' '));
+    write("large.png.import", QByteArray(Text::maxFileSize + 1, ' '));
     write("largest.png");
-    write("largest.png.import", QByteArray(TextFile::maximumSize, ' '));
+    write("largest.png.import", QByteArray(Text::maxFileSize, ' '));
     EXPECT_EQ(missingCount(), 3);
 }
 
@@ -193,12 +193,11 @@ TEST_F(ImportCheckerTest, countsAFolderNamedLikeAnAssetAndLooksInside)
 TEST_F(ImportCheckerTest, countsALinkNamedLikeAnAssetButFollowsNone)
 {
     const TestFolder elsewhere;
-    elsewhere.write(QStringLiteral("outside.png"));
-    ASSERT_TRUE(QFile::link(elsewhere.path(), m_project.path(QStringLiteral("linked"))));
-    ASSERT_TRUE(QFile::link(m_project.path(), m_project.path(QStringLiteral("loop"))));
+    elsewhere.write(u"outside.png"_s);
+    ASSERT_TRUE(QFile::link(elsewhere.path(), m_project.path(u"linked"_s)));
+    ASSERT_TRUE(QFile::link(m_project.path(), m_project.path(u"loop"_s)));
     EXPECT_EQ(missingCount(), 0);
-    ASSERT_TRUE(QFile::link(elsewhere.path(QStringLiteral("outside.png")),
-                            m_project.path(QStringLiteral("link.png"))));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"outside.png"_s), m_project.path(u"link.png"_s)));
     EXPECT_EQ(missingCount(), 1);
 }
 
@@ -221,13 +220,13 @@ TEST_F(ImportCheckerTest, readsNamesThatAreNotUtf8)
 
 TEST_F(ImportCheckerTest, givesZeroForAFolderThatDoesNotExist)
 {
-    EXPECT_EQ(ImportChecker::missingCount(m_project.path(QStringLiteral("none"))), 0);
+    EXPECT_EQ(ImportChecker::missingCount(m_project.path(u"none"_s)), 0);
 }
 
 TEST_F(ImportCheckerTest, givesZeroForAFile)
 {
     write("a.png");
-    EXPECT_EQ(ImportChecker::missingCount(m_project.path(QStringLiteral("a.png"))), 0);
+    EXPECT_EQ(ImportChecker::missingCount(m_project.path(u"a.png"_s)), 0);
 }
 
 TEST_F(ImportCheckerTest, givesZeroWhenItIsToStop)

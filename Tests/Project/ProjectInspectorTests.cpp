@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Project/ProjectInspector.h"
 
-#include "Platform/TextFile.h"
 #include "Support/Listing.h"
 #include "Support/TestFolder.h"
+#include "System/Text.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,7 +41,7 @@ TEST_F(ProjectInspectorTest, usesDefaultsForAFileThatHoldsTheVersionOnly)
     expected.folder = m_folder.path();
     expected.configVersion = 4;
     EXPECT_EQ(inspect("config_version=4"), expected);
-    EXPECT_EQ(expected.name, QStringLiteral("Game"));
+    EXPECT_EQ(expected.name, u"Game"_s);
 }
 
 TEST_F(ProjectInspectorTest, readsARealProjectFile)
@@ -50,10 +52,10 @@ TEST_F(ProjectInspectorTest, readsARealProjectFile)
                               "run/main_scene=\"res://Main.tscn\"\n"
                               "config/features=PackedStringArray(\"3.5\", \"Mobile\")\n");
     ASSERT_TRUE(info);
-    EXPECT_EQ(info->name, QStringLiteral("Tiny Größe"));
+    EXPECT_EQ(info->name, u"Tiny Größe"_s);
     EXPECT_EQ(info->configVersion, 4);
-    EXPECT_EQ(info->mainScene, QStringLiteral("res://Main.tscn"));
-    EXPECT_EQ(info->features, (QStringList{QStringLiteral("3.5"), QStringLiteral("Mobile")}));
+    EXPECT_EQ(info->mainScene, u"res://Main.tscn"_s);
+    EXPECT_EQ(info->features, (QStringList{u"3.5"_s, u"Mobile"_s}));
     EXPECT_FALSE(info->usesCSharp);
 }
 
@@ -86,7 +88,7 @@ TEST_F(ProjectInspectorTest, readsAVersionWithASignAndBlanks)
 TEST_F(ProjectInspectorTest, doesNotReadAVersionThatACarriageReturnFollows)
 {
     EXPECT_EQ(inspect("config_version=4\r\nconfig/name=\"A\"\r\n"), std::nullopt);
-    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\r\n").name, QStringLiteral("A"));
+    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\r\n").name, u"A"_s);
 }
 
 TEST_F(ProjectInspectorTest, lastVersionWinsEvenWhenItIsUnusable)
@@ -97,7 +99,7 @@ TEST_F(ProjectInspectorTest, lastVersionWinsEvenWhenItIsUnusable)
 
 TEST_F(ProjectInspectorTest, ignoresANameWithABlankBeforeTheEqualsSign)
 {
-    EXPECT_EQ(inspectWithVersion("config/name =\"A\"\n").name, QStringLiteral("Game"));
+    EXPECT_EQ(inspectWithVersion("config/name =\"A\"\n").name, u"Game"_s);
 }
 
 TEST_F(ProjectInspectorTest, readsAnEmptyName)
@@ -107,8 +109,8 @@ TEST_F(ProjectInspectorTest, readsAnEmptyName)
 
 TEST_F(ProjectInspectorTest, keepsTheNameWhenALineHoldsNoQuotedText)
 {
-    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\nconfig/name=B\n").name, QStringLiteral("A"));
-    EXPECT_EQ(inspectWithVersion("config/name=\"unclosed\n").name, QStringLiteral("Game"));
+    EXPECT_EQ(inspectWithVersion("config/name=\"A\"\nconfig/name=B\n").name, u"A"_s);
+    EXPECT_EQ(inspectWithVersion("config/name=\"unclosed\n").name, u"Game"_s);
 }
 
 TEST_F(ProjectInspectorTest, clearsTheMainSceneWhenALineHoldsNoQuotedText)
@@ -119,7 +121,7 @@ TEST_F(ProjectInspectorTest, clearsTheMainSceneWhenALineHoldsNoQuotedText)
 
 TEST_F(ProjectInspectorTest, knowsNoEscapesInQuotes)
 {
-    EXPECT_EQ(inspectWithVersion("config/name=\"a \\\" b\"\n").name, QStringLiteral("a \\"));
+    EXPECT_EQ(inspectWithVersion("config/name=\"a \\\" b\"\n").name, u"a \\"_s);
 }
 
 TEST_F(ProjectInspectorTest, seesCSharpInTheFeatures)
@@ -136,13 +138,13 @@ TEST_F(ProjectInspectorTest, seesCSharpInAMonoSection)
 
 TEST_F(ProjectInspectorTest, seesCSharpInASolutionOrProjectFileBesideIt)
 {
-    m_folder.write(QStringLiteral("sub/Game.sln"));
-    m_folder.write(QStringLiteral("Game.SLN"));
+    m_folder.write(u"sub/Game.sln"_s);
+    m_folder.write(u"Game.SLN"_s);
     EXPECT_FALSE(inspectWithVersion("").usesCSharp);
-    const auto solution = m_folder.write(QStringLiteral("Game.sln"));
+    const auto solution = m_folder.write(u"Game.sln"_s);
     EXPECT_TRUE(inspectWithVersion("").usesCSharp);
     QFile::remove(solution);
-    m_folder.write(QStringLiteral(".hidden.csproj"));
+    m_folder.write(u".hidden.csproj"_s);
     EXPECT_TRUE(inspectWithVersion("").usesCSharp);
 }
 
@@ -150,7 +152,7 @@ TEST_F(ProjectInspectorTest, givesNothingForAFileItCannotUse)
 {
     EXPECT_EQ(ProjectInspector::inspect(m_folder.path()), std::nullopt);
     EXPECT_EQ(inspect("config_version=4\nconfig/name=\"\xff\"\n"), std::nullopt);
-    EXPECT_EQ(inspect("config_version=4\n" + QByteArray(TextFile::maximumSize, ' ')), std::nullopt);
+    EXPECT_EQ(inspect("config_version=4\n" + QByteArray(Text::maxFileSize, ' ')), std::nullopt);
     const TestFolder other;
     other.makeFolder(QString::fromUtf8(projectFile));
     EXPECT_EQ(ProjectInspector::inspect(other.path()), std::nullopt);
@@ -161,7 +163,7 @@ class FindProjectTest : public testing::Test
 protected:
     void writeProject(const char* folder) const
     {
-        m_root.write(QString::fromUtf8(folder) + QStringLiteral("/project.godot"));
+        m_root.write(QString::fromUtf8(folder) + u"/project.godot"_s);
     }
 
     /// The found folder, as seen from the root; "none" when none was found.
@@ -169,7 +171,7 @@ protected:
     {
         const auto folder = ProjectInspector::findProject(m_root.path());
         if (!folder)
-            return QStringLiteral("none");
+            return u"none"_s;
         EXPECT_TRUE(folder->startsWith(m_root.path()));
         return folder->sliced(m_root.path().size());
     }
@@ -186,16 +188,16 @@ TEST_F(FindProjectTest, prefersTheRoot)
 
 TEST_F(FindProjectTest, findsAProjectOneFolderBelowTheTop)
 {
-    m_root.write(QStringLiteral("tetherwalk-master/README.md"));
+    m_root.write(u"tetherwalk-master/README.md"_s);
     writeProject("tetherwalk-master/game");
-    EXPECT_EQ(found(), QStringLiteral("/tetherwalk-master/game"));
+    EXPECT_EQ(found(), u"/tetherwalk-master/game"_s);
 }
 
 TEST_F(FindProjectTest, prefersTheShallowestFolder)
 {
     writeProject("a/b/c");
     writeProject("z/y");
-    EXPECT_EQ(found(), QStringLiteral("/z/y"));
+    EXPECT_EQ(found(), u"/z/y"_s);
 }
 
 TEST_F(FindProjectTest, prefersTheFolderThatIsListedFirst)
@@ -216,29 +218,29 @@ TEST_F(FindProjectTest, prefersAFolderWhoseParentIsListedFirst)
 TEST_F(FindProjectTest, looksFourLevelsDownAndNoDeeper)
 {
     writeProject("1/2/3/4/5");
-    EXPECT_EQ(found(), QStringLiteral("none"));
+    EXPECT_EQ(found(), u"none"_s);
     writeProject("1/2/3/4");
-    EXPECT_EQ(found(), QStringLiteral("/1/2/3/4"));
+    EXPECT_EQ(found(), u"/1/2/3/4"_s);
 }
 
 TEST_F(FindProjectTest, doesNotEnterHiddenFolders)
 {
     writeProject(".hidden");
-    EXPECT_EQ(found(), QStringLiteral("none"));
+    EXPECT_EQ(found(), u"none"_s);
 }
 
 TEST_F(FindProjectTest, doesNotFollowLinks)
 {
     const TestFolder elsewhere;
-    elsewhere.write(QStringLiteral("project.godot"));
-    ASSERT_TRUE(QFile::link(elsewhere.path(), m_root.path(QStringLiteral("link"))));
-    EXPECT_EQ(found(), QStringLiteral("none"));
+    elsewhere.write(u"project.godot"_s);
+    ASSERT_TRUE(QFile::link(elsewhere.path(), m_root.path(u"link"_s)));
+    EXPECT_EQ(found(), u"none"_s);
 }
 
 TEST_F(FindProjectTest, findsNothingInAnEmptyOrMissingFolder)
 {
-    EXPECT_EQ(found(), QStringLiteral("none"));
-    EXPECT_EQ(ProjectInspector::findProject(m_root.path(QStringLiteral("none"))), std::nullopt);
+    EXPECT_EQ(found(), u"none"_s);
+    EXPECT_EQ(ProjectInspector::findProject(m_root.path(u"none"_s)), std::nullopt);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class RepoFactsTest : public testing::Test
@@ -12,15 +14,14 @@ class RepoFactsTest : public testing::Test
 protected:
     void write(const char* relative, const QByteArray& text) const
     {
-        m_root.write(QStringLiteral("Game/") + QString::fromUtf8(relative), text);
+        m_root.write(u"Game/"_s + QString::fromUtf8(relative), text);
     }
 
     /// The facts for a folder of the game, with the game folder as the one to stop at.
     [[nodiscard]] RepoFacts facts(const char* folder = ".") const
     {
-        return ProjectInspector::facts(
-            m_root.path(QStringLiteral("Game/") + QString::fromUtf8(folder)),
-            m_root.path(QStringLiteral("Game")));
+        return ProjectInspector::facts(m_root.path(u"Game/"_s + QString::fromUtf8(folder)),
+                                       m_root.path(u"Game"_s));
     }
 
     TestFolder m_root;
@@ -28,7 +29,7 @@ protected:
 
 TEST_F(RepoFactsTest, areTheDefaultsWithoutAnyFile)
 {
-    m_root.makeFolder(QStringLiteral("Game"));
+    m_root.makeFolder(u"Game"_s);
     EXPECT_EQ(facts(), RepoFacts());
     EXPECT_EQ(facts("missing"), RepoFacts());
 }
@@ -36,7 +37,7 @@ TEST_F(RepoFactsTest, areTheDefaultsWithoutAnyFile)
 TEST_F(RepoFactsTest, takeTheSummaryFromAKeywordInAnyCaseWithoutBlanks)
 {
     write("README.org", "* Title\n#+description:   A tiny game  \n");
-    EXPECT_EQ(facts().summary, QStringLiteral("A tiny game"));
+    EXPECT_EQ(facts().summary, u"A tiny game"_s);
 }
 
 TEST_F(RepoFactsTest, ignoreAnIndentedKeyword)
@@ -48,13 +49,13 @@ TEST_F(RepoFactsTest, ignoreAnIndentedKeyword)
 TEST_F(RepoFactsTest, ignoreAKeywordWithNothingAfterIt)
 {
     write("README.org", "#+DESCRIPTION: First\n#+DESCRIPTION: \t\n#+DESCRIPTION:");
-    EXPECT_EQ(facts().summary, QStringLiteral("First"));
+    EXPECT_EQ(facts().summary, u"First"_s);
 }
 
 TEST_F(RepoFactsTest, takeTheLastOfSeveralSummaries)
 {
     write("readme", "#+DESCRIPTION: First\n#+Description:Second\n");
-    EXPECT_EQ(facts().summary, QStringLiteral("Second"));
+    EXPECT_EQ(facts().summary, u"Second"_s);
 }
 
 TEST_F(RepoFactsTest, takeNameAndCopyrightFromALicenceFile)
@@ -62,8 +63,8 @@ TEST_F(RepoFactsTest, takeNameAndCopyrightFromALicenceFile)
     write("LICENSE", "\n \t\n  The Zero License \n\n text\n\tCopyright (c) 2019 Somebody \n"
                      "Copyright (c) 2020 Somebody else\n");
     RepoFacts expected;
-    expected.license = QStringLiteral("The Zero License");
-    expected.author = QStringLiteral("Copyright (c) 2019 Somebody");
+    expected.license = u"The Zero License"_s;
+    expected.author = u"Copyright (c) 2019 Somebody"_s;
     EXPECT_EQ(facts(), expected);
 }
 
@@ -71,7 +72,7 @@ TEST_F(RepoFactsTest, takeOnlyTheNameFromALicenceFileWithoutACopyrightLine)
 {
     write("license.txt", "Some License\nNo copyright line starts with that word.\n");
     RepoFacts expected;
-    expected.license = QStringLiteral("Some License");
+    expected.license = u"Some License"_s;
     EXPECT_EQ(facts(), expected);
 }
 
@@ -79,7 +80,7 @@ TEST_F(RepoFactsTest, takeNothingFromAnEmptyOrUnreadableLicenceFile)
 {
     write("LICENSE", "\n \n");
     write("a/LICENSE.md", "Latin \xe9\n");
-    m_root.makeFolder(QStringLiteral("Game/a/b/LICENSE"));
+    m_root.makeFolder(u"Game/a/b/LICENSE"_s);
     EXPECT_EQ(facts("a/b"), RepoFacts());
 }
 
@@ -95,14 +96,14 @@ TEST_F(RepoFactsTest, ofAFileThatIsListedLaterOverrideThoseOfAnEarlierOne)
         write("license." + name, "License " + name + "\nCopyright " + name + '\n');
         write("readme." + name, "#+DESCRIPTION: Summary " + name + '\n');
     }
-    const auto names = listing(m_root.path(QStringLiteral("Game")));
+    const auto names = listing(m_root.path(u"Game"_s));
     const auto lastOf = [&names](QLatin1String kind) {
         return names.filter(kind).last().sliced(kind.size() + 1);
     };
-    const auto license = lastOf(QLatin1String("license"));
-    EXPECT_EQ(facts().license, QStringLiteral("License ") + license);
-    EXPECT_EQ(facts().author, QStringLiteral("Copyright ") + license);
-    EXPECT_EQ(facts().summary, QStringLiteral("Summary ") + lastOf(QLatin1String("readme")));
+    const auto license = lastOf("license"_L1);
+    EXPECT_EQ(facts().license, u"License "_s + license);
+    EXPECT_EQ(facts().author, u"Copyright "_s + license);
+    EXPECT_EQ(facts().summary, u"Summary "_s + lastOf("readme"_L1));
 }
 
 TEST_F(RepoFactsTest, stayWhenAFileThatIsListedLaterLacksThem)
@@ -115,9 +116,9 @@ TEST_F(RepoFactsTest, stayWhenAFileThatIsListedLaterLacksThem)
         write(QByteArray("LICENSE") + empty, " \n");
         write(QByteArray("README") + empty, "#+DESCRIPTION:\n");
         RepoFacts expected;
-        expected.license = QStringLiteral("A License");
-        expected.author = QStringLiteral("Copyright Somebody");
-        expected.summary = QStringLiteral("A tiny game");
+        expected.license = u"A License"_s;
+        expected.author = u"Copyright Somebody"_s;
+        expected.summary = u"A tiny game"_s;
         EXPECT_EQ(facts(), expected);
     }
 }
@@ -128,37 +129,36 @@ TEST_F(RepoFactsTest, ofAnOuterFolderOverrideThoseOfAnInnerOne)
     write("a/b/README.org", "#+DESCRIPTION: Inner\n");
     write("a/b/LICENSE", "Inner License\n");
     const auto read = facts("a/b");
-    EXPECT_EQ(read.summary, QStringLiteral("Outer"));
-    EXPECT_EQ(read.license, QStringLiteral("Inner License"));
+    EXPECT_EQ(read.summary, u"Outer"_s);
+    EXPECT_EQ(read.license, u"Inner License"_s);
 }
 
 TEST_F(RepoFactsTest, areReadUpToTheStopFolderAndNoFurther)
 {
-    m_root.write(QStringLiteral("LICENSE"), "Outside\n");
+    m_root.write(u"LICENSE"_s, "Outside\n");
     write("LICENSE", "Inside\n");
-    EXPECT_EQ(facts().license, QStringLiteral("Inside"));
-    EXPECT_EQ(facts("a/..").license, QStringLiteral("Inside"));
-    EXPECT_EQ(facts("a/").license, QStringLiteral("Inside"));
+    EXPECT_EQ(facts().license, u"Inside"_s);
+    EXPECT_EQ(facts("a/..").license, u"Inside"_s);
+    EXPECT_EQ(facts("a/").license, u"Inside"_s);
 }
 
 TEST_F(RepoFactsTest, areReadInAtMostSixFolders)
 {
     write("LICENSE", "Too far\n");
     write("1/LICENSE", "Sixth\n");
-    m_root.makeFolder(QStringLiteral("Game/1/2/3/4/5/6"));
+    m_root.makeFolder(u"Game/1/2/3/4/5/6"_s);
     const auto read = [this](const char* folder) {
-        return ProjectInspector::facts(m_root.path(QString::fromUtf8(folder)),
-                                       QStringLiteral("/nowhere"));
+        return ProjectInspector::facts(m_root.path(QString::fromUtf8(folder)), u"/nowhere"_s);
     };
-    EXPECT_EQ(read("Game/1/2/3/4/5/6").license, QStringLiteral("Sixth"));
-    EXPECT_EQ(read("Game/1/2/3/4/5").license, QStringLiteral("Too far"));
+    EXPECT_EQ(read("Game/1/2/3/4/5/6").license, u"Sixth"_s);
+    EXPECT_EQ(read("Game/1/2/3/4/5").license, u"Too far"_s);
 }
 
 TEST_F(RepoFactsTest, areReadNoFurtherThanTheRootFolder)
 {
-    const auto atRoot = ProjectInspector::facts(QStringLiteral("/"), QStringLiteral("/"));
-    EXPECT_EQ(ProjectInspector::facts(QStringLiteral("/"), QStringLiteral("/nowhere")), atRoot);
-    EXPECT_EQ(ProjectInspector::facts(QStringLiteral("/nowhere/x"), QString()), atRoot);
+    const auto atRoot = ProjectInspector::facts(u"/"_s, u"/"_s);
+    EXPECT_EQ(ProjectInspector::facts(u"/"_s, u"/nowhere"_s), atRoot);
+    EXPECT_EQ(ProjectInspector::facts(u"/nowhere/x"_s, QString()), atRoot);
 }
 
 } // namespace

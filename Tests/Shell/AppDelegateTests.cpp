@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
+#include "Shell/AppDelegate.h"
 #include "Support/AppModelAccess.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/ModelTest.h"
@@ -15,6 +15,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class AppDelegateTest : public ModelTest
@@ -26,38 +28,36 @@ protected:
         delegate.applicationDidFinishLaunching();
     }
 
-    /// Whether the program ends after `action`; by default the player closes the window.
-    bool ends(const std::function<void()>& action)
-    {
-        return runAfter(action, std::chrono::seconds{20}) == 0;
-    }
-    bool ends()
-    {
-        return ends([this] { window.close(); });
-    }
-    bool goesOn(const std::function<void()>& action)
-    {
-        return runAfter(action, std::chrono::milliseconds{300}) == timeIsUp;
-    }
-    bool goesOn()
-    {
-        return goesOn([this] { window.close(); });
-    }
+    /// Whether the program ends after `action`.
+    bool ends(const std::function<void()>& action) { return runAfter(action, 20'000) == 0; }
+    bool goesOn(const std::function<void()>& action) { return runAfter(action, 300) == timedOut; }
 
     QWidget window;
     AppDelegate delegate;
+    const std::function<void()> closeWindow = [this] { window.close(); };
+    const std::function<void()> terminate = [this] { delegate.terminate(); };
 
 private:
-    static constexpr int timeIsUp = 1;
+    static constexpr auto timedOut = 1;
 
-    int runAfter(const std::function<void()>& action, std::chrono::milliseconds limit)
+    int runAfter(const std::function<void()>& action, int milliseconds)
     {
         QTimer watchdog;
-        QObject::connect(&watchdog, &QTimer::timeout, &window,
-                         [] { QCoreApplication::exit(timeIsUp); });
-        watchdog.start(limit);
+        QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(timedOut); });
+        watchdog.start(milliseconds);
         QTimer::singleShot(0, &window, action);
         return QCoreApplication::exec();
+    }
+};
+
+/// The game runs, and the player would decline a question.
+class AppDelegateWhilePlaying : public AppDelegateTest
+{
+protected:
+    AppDelegateWhilePlaying()
+    {
+        AppModelAccess::setPhase(model(), Phase::playing());
+        desktop.answer = false;
     }
 };
 
@@ -68,47 +68,41 @@ TEST_F(AppDelegateTest, showsTheWindow)
 
 TEST_F(AppDelegateTest, quitsWithTheWindowAndWithoutAQuestion)
 {
-    EXPECT_TRUE(ends());
+    EXPECT_TRUE(ends(closeWindow));
     EXPECT_TRUE(desktop.questions.isEmpty());
 }
 
-TEST_F(AppDelegateTest, asksWhileTheGameRunsAndStaysVisibleWhenDeclined)
+TEST_F(AppDelegateWhilePlaying, asksAndStaysVisibleWhenDeclined)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false;
-    EXPECT_TRUE(goesOn());
+    EXPECT_TRUE(goesOn(closeWindow));
     ASSERT_EQ(desktop.questions.size(), 1);
-    EXPECT_EQ(desktop.questions.constFirst().title, QStringLiteral("Quit and close the game?"));
+    EXPECT_EQ(desktop.questions.constFirst().title, u"Quit and close the game?"_s);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(model().phase() == Phase::Kind::playing);
 }
 
-TEST_F(AppDelegateTest, quitsWhileTheGameRunsWhenAccepted)
+TEST_F(AppDelegateWhilePlaying, quitsWhenAccepted)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    EXPECT_TRUE(ends());
+    desktop.answer = true;
+    EXPECT_TRUE(ends(closeWindow));
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(AppDelegateTest, asksOnceHoweverOftenTheProgramIsToldToEndMeanwhile)
+TEST_F(AppDelegateWhilePlaying, asksOnceHoweverOftenTheProgramIsToldToEndMeanwhile)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false;
     desktop.whileAsking = [this] {
         if (desktop.questions.size() < 5) {
             EXPECT_FALSE(delegate.applicationShouldTerminate());
         }
     };
-    EXPECT_TRUE(goesOn());
+    EXPECT_TRUE(goesOn(closeWindow));
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(AppDelegateTest, quitsWithoutAQuestionWhenTheSystemSaysSo)
+TEST_F(AppDelegateWhilePlaying, quitsWithoutAQuestionWhenTheSystemSaysSo)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false;
     const QSignalSpy terminating(&delegate, &AppDelegate::terminating);
     EXPECT_TRUE(ends([this] {
         delegate.terminate();
@@ -119,12 +113,10 @@ TEST_F(AppDelegateTest, quitsWithoutAQuestionWhenTheSystemSaysSo)
     EXPECT_EQ(terminating.count(), 1);
 }
 
-TEST_F(AppDelegateTest, quitsWhenTheSystemSaysSoWhileTheQuestionStands)
+TEST_F(AppDelegateWhilePlaying, quitsWhenTheSystemSaysSoDuringTheQuestion)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false; // As a question does that is hidden.
-    desktop.whileAsking = [this] { delegate.terminate(); };
-    EXPECT_TRUE(ends([this] { window.close(); }));
+    desktop.whileAsking = terminate;
+    EXPECT_TRUE(ends(closeWindow));
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_FALSE(window.isVisible());
 }
@@ -133,59 +125,50 @@ TEST_F(AppDelegateTest, hidesEveryWindowWhenItQuits)
 {
     QWidget sheet(&window, Qt::Dialog);
     sheet.show();
-    EXPECT_TRUE(ends([this] { delegate.terminate(); }));
+    EXPECT_TRUE(ends(terminate));
     EXPECT_FALSE(sheet.isVisible());
 }
 
-TEST_F(AppDelegateTest, asksWhenTheApplicationIsToldToQuit)
+TEST_F(AppDelegateWhilePlaying, asksWhenTheApplicationIsToldToQuit)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false;
-    EXPECT_TRUE(goesOn([] { QCoreApplication::quit(); }));
+    EXPECT_TRUE(goesOn(QCoreApplication::quit));
     EXPECT_EQ(desktop.questions.size(), 1);
     EXPECT_TRUE(window.isVisible());
     desktop.answer = true;
-    EXPECT_TRUE(ends([] { QCoreApplication::quit(); }));
+    EXPECT_TRUE(ends(QCoreApplication::quit));
 }
 
-TEST_F(AppDelegateTest, asksNothingWhenTheApplicationIsToldToQuitAtTheSessionsEnd)
+TEST_F(AppDelegateWhilePlaying, asksNothingWhenTheApplicationIsToldToQuitAtTheSessionsEnd)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    desktop.answer = false;
     auto* const manager = qApp->findChild<QSessionManager*>();
     ASSERT_TRUE(manager) << "the application makes it";
     Q_EMIT qApp->commitDataRequest(*manager);
-    EXPECT_TRUE(goesOn()) << "another program may have kept the session from ending";
+    EXPECT_TRUE(goesOn(closeWindow)) << "another program may have kept the session from ending";
     EXPECT_EQ(desktop.questions.size(), 1);
-    EXPECT_TRUE(ends([] { QCoreApplication::quit(); }));
+    EXPECT_TRUE(ends(QCoreApplication::quit));
     EXPECT_EQ(desktop.questions.size(), 1);
 }
 
 TEST_F(AppDelegateTest, bringsTheWindowBackWhenTheProgramIsStartedAgain)
 {
+    const EnvironmentScope variable("XDG_ACTIVATION_TOKEN", "somebody else's");
     window.showMinimized();
     delegate.activate("a token");
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.isMinimized());
-}
-
-TEST_F(AppDelegateTest, leavesTheEnvironmentAloneWhereNoTokenIsLookedForInIt)
-{
-    const EnvironmentScope variable("XDG_ACTIVATION_TOKEN", "somebody else's");
-    delegate.activate("a token");
-    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "somebody else's");
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "somebody else's") << "only Wayland reads it";
 }
 
 TEST_F(AppDelegateTest, staysHiddenWhenItIsStartedAgainWhileItQuits)
 {
-    EXPECT_TRUE(ends([this] { delegate.terminate(); }));
+    EXPECT_TRUE(ends(terminate));
     delegate.activate({});
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(AppDelegateTest, waitsHiddenForWhatTheGameLeavesToDo)
+TEST_F(AppDelegateTest, waitsHiddenUntilTheGameHasEnded)
 {
-    durations.startUpWatch = std::chrono::milliseconds{20};
+    durations.startupThreshold = std::chrono::milliseconds{20};
     startModel();
     installGame();
     installEngine("sleep 60");
@@ -197,17 +180,15 @@ TEST_F(AppDelegateTest, waitsHiddenForWhatTheGameLeavesToDo)
     model().play();
     waitForPhase(Phase::Kind::playing);
 
-    QTimer::singleShot(0, &front, [this, &front] {
+    const QSignalSpy ended(&model(), &AppModel::flowEnded);
+    EXPECT_TRUE(ends([this, &front] {
         front.close();
         EXPECT_FALSE(front.isVisible());
         EXPECT_TRUE(model().isFlowRunning()) << "the game is told to end, and has not yet";
-    });
-    const QSignalSpy ended(&model(), &AppModel::flowEnded);
-    QTimer::singleShot(20'000, &front, [] { QCoreApplication::exit(1); });
-    EXPECT_EQ(QCoreApplication::exec(), 0);
+    }));
     EXPECT_EQ(ended.count(), 1);
     EXPECT_FALSE(model().isFlowRunning());
-    EXPECT_THAT(logged(), testing::Contains(QStringLiteral("Game stopped by you.")));
+    EXPECT_THAT(logged(), testing::Contains(u"Game stopped by you."_s));
 }
 
 } // namespace

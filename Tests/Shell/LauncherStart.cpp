@@ -3,8 +3,8 @@
 // milliseconds to be patient. It writes a line to standard error before it begins, and to standard
 // output what it comes to and every later start that it is told of, a line each. The first launcher
 // goes on until its standard input ends; a line there makes it stop listening.
-#include "Platform/SessionLock.h"
-#include "SingleInstance.h"
+#include "Shell/SingleInstance.h"
+#include "System/InstallationLock.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -28,8 +28,8 @@ int main(int argumentCount, char** arguments)
 {
     QCoreApplication application(argumentCount, arguments);
     const auto lockFile = QString::fromUtf8(arguments[1]);
-    SessionLock lock(lockFile);
-    SingleInstance instance(lock, SingleInstance::addressOf(lockFile));
+    InstallationLock lock(lockFile);
+    SingleInstance instance(lock, SingleInstance::serverName(lockFile));
     QObject::connect(&instance, &SingleInstance::activated,
                      [](const QByteArray& token) { say("activated " + token); });
 

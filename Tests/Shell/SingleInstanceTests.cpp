@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "SingleInstance.h"
+#include "Shell/SingleInstance.h"
 
 #include "Support/Await.h"
 #include "Support/TestFolder.h"
@@ -14,19 +14,21 @@
 #include <memory>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// One start of the launcher, a process of its own.
+/// One start of the launcher, in a process of its own.
 class Start final
 {
 public:
-    Start(const QString& lock, const QString& token, int patience = 20'000)
+    explicit Start(const QString& lock, const QString& token = {}, int timeout = 20'000)
     {
-        m_process.start(QStringLiteral(LAUNCHER_START), {lock, token, QString::number(patience)});
+        m_process.start(QStringLiteral(LAUNCHER_START), {lock, token, QString::number(timeout)});
     }
     ~Start()
     {
-        m_process.closeWriteChannel();
+        end();
         EXPECT_TRUE(waitForEnd());
     }
 
@@ -56,104 +58,80 @@ private:
     QProcess m_process;
 };
 
+/// A first launcher that listens.
 class SingleInstanceTest : public testing::Test
 {
 protected:
-    const TestFolder m_folder;
-    const QString m_lock = m_folder.path(QStringLiteral("lock"));
+    SingleInstanceTest() { EXPECT_EQ(first.nextLine(), "first"); }
+
+    const TestFolder folder;
+    const QString lock = folder.makeFolder(u"folder"_s) + u"/lock"_s;
+    Start first{lock};
 };
 
 TEST_F(SingleInstanceTest, handsALaterStartOverToTheFirst)
 {
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
-    Start second(m_lock, QStringLiteral("the token"));
+    Start second(lock, u"the token"_s);
     EXPECT_EQ(second.nextLine(), "handed over");
     EXPECT_TRUE(second.waitForEnd());
     EXPECT_EQ(first.nextLine(), "activated the token");
-    Start third(m_lock, {});
+    Start third(lock);
     EXPECT_EQ(third.nextLine(), "handed over");
     EXPECT_EQ(first.nextLine(), "activated");
 }
 
-TEST_F(SingleInstanceTest, letsOneOfSeveralStartsInTheSameInstantBeTheFirst)
+TEST_F(SingleInstanceTest, letsOneOfSeveralStartsAtTheSameTimeBeTheFirst)
 {
     std::vector<std::unique_ptr<Start>> starts;
     for (int i = 0; i < 6; ++i)
-        starts.push_back(std::make_unique<Start>(m_lock, QStringLiteral("token")));
+        starts.push_back(std::make_unique<Start>(folder.path(u"another lock"_s), u"token"_s));
     QList<QByteArray> outcomes;
     for (const auto& start : starts)
         outcomes.append(start->nextLine());
-    EXPECT_EQ(outcomes.count("first"), 1);
+    EXPECT_EQ(outcomes.count("first"), 1) << "the launcher of another installation does not count";
     EXPECT_EQ(outcomes.count("handed over"), 5);
-}
-
-TEST_F(SingleInstanceTest, knowsInstallationsApart)
-{
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
-    Start other(m_folder.path(QStringLiteral("another lock")), {});
-    EXPECT_EQ(other.nextLine(), "first");
 }
 
 TEST_F(SingleInstanceTest, knowsAnInstallationByEveryPathThatLeadsToIt)
 {
-    const auto folder = m_folder.makeFolder(QStringLiteral("folder"));
-    const auto link = m_folder.path(QStringLiteral("link"));
-    ASSERT_TRUE(QFile::link(folder, link));
-    Start first(folder + QStringLiteral("/lock"), {});
-    ASSERT_EQ(first.nextLine(), "first");
-    Start second(link + QStringLiteral("/lock"), {}, 1000);
+    const auto link = folder.path(u"link"_s);
+    ASSERT_TRUE(QFile::link(folder.path(u"folder"_s), link));
+    Start second(link + u"/lock"_s, {}, 1000);
     EXPECT_EQ(second.nextLine(), "handed over");
 }
 
-TEST_F(SingleInstanceTest, isNotHeldUpByALauncherThatWasKilled)
+TEST_F(SingleInstanceTest, isNotBlockedByAKilledLauncher)
 {
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
     first.kill();
     ASSERT_TRUE(first.waitForEnd());
-    Start second(m_lock, {});
+    Start second(lock);
     EXPECT_EQ(second.nextLine(), "first");
 }
 
-TEST_F(SingleInstanceTest, succeedsALauncherThatIsAboutToEnd)
+TEST_F(SingleInstanceTest, waitsForALauncherThatIsAboutToEndAndTakesItsPlace)
 {
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
     first.stopListening();
-    Start second(m_lock, {});
+    Start second(lock);
     second.waitUntilItBegins();
-    Start impatient(m_lock, {}, 300);
+    Start impatient(lock, {}, 300);
     ASSERT_EQ(impatient.nextLine(), "no answer");
     EXPECT_FALSE(second.hasLine()) << "It does not wait.";
     first.end();
     EXPECT_EQ(second.nextLine(), "first");
 }
 
-TEST_F(SingleInstanceTest, givesUpOnALauncherThatDoesNotAnswer)
+TEST_F(SingleInstanceTest, ignoresCallersThatSendNothingOrTooMuch)
 {
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
-    first.stopListening();
-    Start second(m_lock, {}, 100);
-    EXPECT_EQ(second.nextLine(), "no answer");
-}
-
-TEST_F(SingleInstanceTest, isNotImpressedByCallersThatSayNothingOrTooMuch)
-{
-    Start first(m_lock, {});
-    ASSERT_EQ(first.nextLine(), "first");
     QLocalSocket silent;
     QLocalSocket talkative;
     for (auto* const caller : {&silent, &talkative}) {
         caller->setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-        caller->connectToServer(SingleInstance::addressOf(m_lock));
+        caller->connectToServer(SingleInstance::serverName(lock));
         ASSERT_TRUE(caller->waitForConnected());
     }
     talkative.write(QByteArray(1'000'000, 'x'));
     talkative.flush();
-    Start second(m_lock, QStringLiteral("token"));
+    Start second(lock, u"token"_s);
     EXPECT_EQ(second.nextLine(), "handed over");
     EXPECT_EQ(first.nextLine(), "activated token");
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WidgetDesktop.h"
+#include "Shell/WidgetDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class WidgetDesktopTest : public testing::Test
@@ -20,7 +22,7 @@ class WidgetDesktopTest : public testing::Test
 protected:
     WidgetDesktopTest() { window.show(); }
 
-    /// Asks a question and does something to its alert; gives whether the action was chosen.
+    /// Asks a question and calls `answer` with its alert. Returns whether the action was chosen.
     bool ask(const std::function<void(QMessageBox&)>& answer)
     {
         QTimer::singleShot(0, &window, [&] {
@@ -31,32 +33,24 @@ protected:
             EXPECT_FALSE(alert->isVisible());
             alert->reject();
         });
-        return desktop.confirm(QStringLiteral("Really?"),
-                               QStringLiteral("It is & stays <b>so</b>."), QStringLiteral("Do it"));
+        return desktop.confirm(u"Really?"_s, u"It is & stays <b>so</b>."_s, u"Do it"_s);
     }
 
     QWidget window;
     WidgetDesktop desktop;
 };
 
-TEST_F(WidgetDesktopTest, asksOverTheWindowInPlainWords)
+TEST_F(WidgetDesktopTest, asksOverTheWindowInPlainTextWithTheActionBeforeCancel)
 {
     ask([&](QMessageBox& alert) {
         EXPECT_EQ(alert.parentWidget(), &window);
-        EXPECT_EQ(alert.text(), QStringLiteral("Really?"));
-        EXPECT_EQ(alert.informativeText(), QStringLiteral("It is & stays <b>so</b>."));
+        EXPECT_EQ(alert.text(), u"Really?"_s);
+        EXPECT_EQ(alert.informativeText(), u"It is & stays <b>so</b>."_s);
         EXPECT_EQ(alert.textFormat(), Qt::PlainText);
-        alert.reject();
-    });
-}
-
-TEST_F(WidgetDesktopTest, offersTheActionFirstAndThenCancel)
-{
-    ask([](QMessageBox& alert) {
         const auto buttons = alert.buttons();
         ASSERT_EQ(buttons.size(), 2);
-        EXPECT_EQ(buttons.at(0)->text(), QStringLiteral("Do it"));
-        EXPECT_EQ(buttons.at(1)->text(), QStringLiteral("Cancel"));
+        EXPECT_EQ(buttons.at(0)->text(), u"Do it"_s);
+        EXPECT_EQ(buttons.at(1)->text(), u"Cancel"_s);
         EXPECT_LT(buttons.at(0)->x(), buttons.at(1)->x());
         alert.reject();
     });
@@ -87,7 +81,7 @@ TEST_F(WidgetDesktopTest, padsAnAlertBy20)
 
 TEST_F(WidgetDesktopTest, copiesTextsOfAnyLengthAsTheyAre)
 {
-    const auto text = QStringLiteral("one\ntwo \u2013 <b>three</b>\n").repeated(10'000);
+    const auto text = u"one\ntwo \u2013 <b>three</b>\n"_s.repeated(10'000);
     desktop.copyText(text);
     EXPECT_EQ(QApplication::clipboard()->text(), text);
 }

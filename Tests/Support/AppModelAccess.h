@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppModel.h"
-#include "ProgressRelay.h"
+#include "Model/AppModel.h"
+#include "Model/ProgressRelay.h"
+#include "System/OffThread.h"
 
 #include <QCoreApplication>
 
@@ -61,9 +62,9 @@ public:
         model.applySize(measurement, bytes);
     }
     /// Waits until every measurement so far has ended and been applied.
-    static void finishMeasuring(AppModel& model)
+    static void finishMeasuring()
     {
-        model.m_sizePool.waitForDone();
+        workerPool().waitForDone();
         QCoreApplication::processEvents();
     }
     /// What carries the progress of the download that is going on.

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "System/OffThread.h"
+
 #include <QSemaphore>
-#include <QThreadPool>
 
 /// Keeps every thread of the program's pool busy for as long as it lives, so that what is handed to
 /// the pool meanwhile has to wait.
@@ -12,18 +13,18 @@ public:
     BusyPool()
     {
         for (int i = 0; i < m_threads; ++i)
-            QThreadPool::globalInstance()->start([this] { m_end.acquire(); });
+            workerPool().start([this] { m_end.acquire(); });
     }
     ~BusyPool()
     {
         m_end.release(m_threads);
-        QThreadPool::globalInstance()->waitForDone();
+        workerPool().waitForDone();
     }
 
     BusyPool(const BusyPool&) = delete;
     BusyPool& operator=(const BusyPool&) = delete;
 
 private:
-    const int m_threads = QThreadPool::globalInstance()->maxThreadCount();
+    const int m_threads = workerPool().maxThreadCount();
     QSemaphore m_end;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Process/LogCallback.h"
+#include "Process/LogStore.h"
 
 #include <QStringList>
 
@@ -15,9 +15,9 @@ public:
     /// What writes here. It may outlive this object.
     [[nodiscard]] LogCallback callback() const
     {
-        return [content = m_content](const QString& line) {
+        return [content = m_content](const QString& text) {
             const std::lock_guard guard(content->lock);
-            content->lines.append(line);
+            content->lines += text.split(u'\n');
         };
     }
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppError.h"
-#include "Platform/Cancelled.h"
-#include "Platform/PlatformError.h"
 #include "Support/Await.h"
+#include "System/Errors.h"
 
 #include <QCoroTask>
 #include <QFuture>
@@ -13,8 +11,9 @@
 
 #include <memory>
 #include <optional>
+#include <type_traits>
 
-/// How an asynchronous operation ended: with a value, or with one of the three kinds of error.
+/// How an operation ended: with a value, or with one of the three kinds of error.
 template<typename Value>
 struct Outcome
 {
@@ -26,15 +25,20 @@ struct Outcome
     bool isCancelled = false;
 };
 
-/// Runs the event loop until `future` has ended; a test failure when that takes over 20 s.
-template<typename Value>
-Outcome<Value> eventually(QFuture<Value> future)
+/// Runs `work` and returns how it ended. Work without a value has the value "true".
+template<typename Work>
+auto outcomeOf(const Work& work)
 {
+    using Result = std::invoke_result_t<Work>;
+    using Value = std::conditional_t<std::is_void_v<Result>, bool, Result>;
     Outcome<Value> outcome;
-    if (!waitUntil([&future] { return future.isFinished(); }))
-        return outcome;
     try {
-        outcome.value = future.result();
+        if constexpr (std::is_void_v<Result>) {
+            work();
+            outcome.value = true;
+        } else {
+            outcome.value = work();
+        }
     } catch (const AppError& error) {
         outcome.isAppError = true;
         outcome.sentence = error.message();
@@ -45,6 +49,15 @@ Outcome<Value> eventually(QFuture<Value> future)
         outcome.isCancelled = true;
     }
     return outcome;
+}
+
+/// Runs the event loop until `future` has ended; a test failure when that takes over 20 s.
+template<typename Value>
+Outcome<Value> eventually(QFuture<Value> future)
+{
+    if (!waitUntil([&future] { return future.isFinished(); }))
+        return {};
+    return outcomeOf([&future] { return future.result(); });
 }
 
 namespace Detail {
@@ -60,17 +73,6 @@ QCoro::Task<> settle(QCoro::Task<Value> task, std::shared_ptr<QPromise<Value>> p
     promise->finish();
 }
 
-inline QCoro::Task<> settle(QCoro::Task<> task, std::shared_ptr<QPromise<bool>> promise)
-{
-    try {
-        co_await task;
-        promise->addResult(true);
-    } catch (...) {
-        promise->setException(std::current_exception());
-    }
-    promise->finish();
-}
-
 } // namespace Detail
 
 /// The same for a coroutine.
@@ -78,16 +80,6 @@ template<typename Value>
 Outcome<Value> eventually(QCoro::Task<Value> task)
 {
     auto promise = std::make_shared<QPromise<Value>>();
-    promise->start();
-    const auto future = promise->future();
-    auto settled = Detail::settle(std::move(task), promise);
-    return eventually(future);
-}
-
-/// The same for a coroutine without a value, which then is "true".
-inline Outcome<bool> eventually(QCoro::Task<> task)
-{
-    auto promise = std::make_shared<QPromise<bool>>();
     promise->start();
     const auto future = promise->future();
     auto settled = Detail::settle(std::move(task), promise);

@@ -8,12 +8,14 @@
 #include <cstdlib>
 #include <iostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What the platform without a display says of calls that it has no use for.
 bool isOffscreenRemark(const QString& message)
 {
-    return message.startsWith(QLatin1String("This plugin does not support "));
+    return message.startsWith("This plugin does not support "_L1);
 }
 
 void fail(QtMsgType type, const QMessageLogContext&, const QString& message)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Desktop.h"
+#include "Model/Desktop.h"
 
 #include <QString>
 #include <QStringList>

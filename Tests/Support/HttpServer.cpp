@@ -13,6 +13,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What the client sends up to the empty line; shorter when it hangs up before.
@@ -31,7 +33,7 @@ QByteArray readHead(int socket)
 
 } // namespace
 
-const QString HttpServer::anyPath = QStringLiteral("*");
+const QString HttpServer::anyPath = u"*"_s;
 
 bool HttpServer::Connection::send(QByteArrayView bytes) const
 {
@@ -123,7 +125,7 @@ QByteArray HttpServer::head(int status, const QByteArray& headers)
 
 QString HttpServer::host() const
 {
-    return QStringLiteral("http://127.0.0.1:%1").arg(m_port);
+    return u"http://127.0.0.1:%1"_s.arg(m_port);
 }
 
 QUrl HttpServer::url(const QString& path) const

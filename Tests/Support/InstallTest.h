@@ -2,11 +2,12 @@
 #pragma once
 
 #include "Install/FileDownloader.h"
-#include "Process/LogCallback.h"
+#include "Process/LogStore.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/HttpServer.h"
 #include "Support/TestFolder.h"
 #include "Support/WebHostScope.h"
+#include "System/InstallationLock.h"
 
 #include <gtest/gtest.h>
 
@@ -33,17 +34,20 @@ protected:
     static QString root(const QString& relative);
     /// What is left in the temporary folder and the staging places.
     [[nodiscard]] QStringList leftovers() const;
+    /// Has what a cancelled installation has left cleared away.
+    void clearLeftovers();
 
     TestFolder home;
     HttpServer server;
     std::stop_source stop;
-    std::shared_ptr<FileDownloader> downloader =
-        std::make_shared<FileDownloader>([](const DownloadProgress&) {});
+    std::shared_ptr<const FileDownloader> downloader =
+        std::make_shared<const FileDownloader>([](const DownloadProgress&) {});
 
 private:
     EnvironmentScope m_data;
     EnvironmentScope m_temporary;
     WebHostScope m_host;
+    InstallationLock m_lock;
     std::mutex m_mutex;
     QStringList m_lines;
     QString m_lineText;

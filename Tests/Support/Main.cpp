@@ -6,11 +6,13 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 int main(int argumentCount, char** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
     const QCoreApplication application(argumentCount, arguments);
     failTestsOnWarnings();
-    const WebHostScope nowhere(QStringLiteral("http://127.0.0.1:1"));
+    const WebHostScope nowhere(u"http://127.0.0.1:1"_s);
     return RUN_ALL_TESTS();
 }

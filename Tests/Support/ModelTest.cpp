@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Support/ModelTest.h"
 
+#include "System/OffThread.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
@@ -9,22 +11,25 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 ModelTest::ModelTest()
-    : m_data("XDG_DATA_HOME", home.makeFolder(QStringLiteral("data")).toUtf8())
-    , m_temporary("TMPDIR", home.makeFolder(QStringLiteral("temporary")).toUtf8())
+    : m_data("XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8())
+    , m_temporary("TMPDIR", home.makeFolder(u"temporary"_s).toUtf8())
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("Cavernyx Platformer"));
-    QCoreApplication::setApplicationName(QStringLiteral("Cavernyx Platformer"));
+    lock.tryAcquire();
+    QCoreApplication::setOrganizationName(u"Cavernyx Platformer"_s);
+    QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       home.makeFolder(QStringLiteral("settings")));
-    durations.startUpWatch = 300ms;
-    durations.importPoll = 20ms;
-    durations.importSettled = 40ms;
-    durations.logPublication = 10ms;
-    durations.killGrace = 500ms;
-    durations.transferStall = 20s;
+                       home.makeFolder(u"settings"_s));
+    durations.startupThreshold = 300ms;
+    durations.importPollInterval = 20ms;
+    durations.importSettleTime = 40ms;
+    durations.logFlushInterval = 10ms;
+    durations.killTimeout = 500ms;
+    durations.stallTimeout = 20s;
 }
 
 ModelTest::~ModelTest()
@@ -39,41 +44,47 @@ ModelTest::~ModelTest()
 AppModel& ModelTest::startModel()
 {
     endModel();
-    m_model = std::make_unique<AppModel>(desktop, session, durations);
+    m_model = std::make_unique<AppModel>(desktop, lock, durations);
     return *m_model;
 }
 
 QString ModelTest::root(const QString& relative) const
 {
-    return QDir::cleanPath(home.path(QStringLiteral("data/Cavernyx Platformer/")) + relative);
+    return QDir::cleanPath(home.path(u"data/Cavernyx Platformer/"_s) + relative);
 }
 
 void ModelTest::installGame(const QByteArray& projectExtra) const
 {
-    const auto folder = QStringLiteral("data/Cavernyx Platformer/Game/tetherwalk-master/");
-    home.write(folder + QStringLiteral("project.godot"),
+    const auto folder = u"data/Cavernyx Platformer/Game/tetherwalk-master/"_s;
+    home.write(folder + u"project.godot"_s,
                "config_version=4\n[application]\nconfig/name=\"Tether\"\n"
                "run/main_scene=\"res://main.tscn\"\n" +
                    projectExtra);
-    home.write(folder + QStringLiteral("a.png"));
-    home.write(folder + QStringLiteral("a.png.import"), "[remap]\npath=\"res://.import/a.stex\"\n");
-    home.write(folder + QStringLiteral(".import/a.stex"));
+    home.write(folder + u"a.png"_s);
+    home.write(folder + u"a.png.import"_s, "[remap]\npath=\"res://.import/a.stex\"\n");
+    home.write(folder + u".import/a.stex"_s);
 }
 
 void ModelTest::installEngine(const QByteArray& body, const QString& build) const
 {
-    home.writeScript(QStringLiteral("data/Cavernyx Platformer/Engine/%1/Godot_v3.5.3").arg(build),
-                     body);
+    home.writeScript(u"data/Cavernyx Platformer/Engine/%1/Godot_v3.5.3"_s.arg(build), body);
 }
 
 void ModelTest::writeMarker() const
 {
-    home.write(QStringLiteral("data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"));
+    home.write(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s);
 }
 
 void ModelTest::waitForFlow()
 {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_model->isFlowRunning(); }, 20'000));
+}
+
+void ModelTest::waitForDeletion()
+{
+    waitForFlow();
+    workerPool().waitForDone();
+    QCoreApplication::processEvents();
 }
 
 void ModelTest::waitForPhase(Phase::Kind kind)
@@ -89,10 +100,16 @@ QStringList ModelTest::logged()
 
 QStringList ModelTest::leftovers() const
 {
-    auto left = home.names(QStringLiteral("temporary"));
-    for (const auto& place : {QStringLiteral("data/Cavernyx Platformer"),
-                              QStringLiteral("data/Cavernyx Platformer/Engine")}) {
-        left += home.names(place).filter(QStringLiteral(".new-"));
+    workerPool().waitForDone();
+    return stagingFolders();
+}
+
+QStringList ModelTest::stagingFolders() const
+{
+    auto left = home.names(u"temporary"_s);
+    for (const auto& place :
+         {u"data/Cavernyx Platformer"_s, u"data/Cavernyx Platformer/Engine"_s}) {
+        left += home.names(place).filter(u".new-"_s);
     }
     return left;
 }
@@ -100,6 +117,6 @@ QStringList ModelTest::leftovers() const
 void ModelTest::endModel()
 {
     // A measurement that ends after its receiver has gone is a programming error to Qt.
-    QThreadPool::globalInstance()->waitForDone();
+    workerPool().waitForDone();
     m_model.reset();
 }

@@ -3,9 +3,11 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 bool processRuns(qint64 id)
 {
-    QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+    QFile status(u"/proc/%1/stat"_s.arg(id));
     if (!status.open(QIODevice::ReadOnly))
         return false;
     // The state follows the program's name, which stands in parentheses and may hold any character.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Support/WebHostScope.h"
 
-#include "Install/WebHost.h"
+#include "Install/Http/WebHost.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Support/WithoutSystemCall.h"
 
-#include "Platform/PlatformError.h"
+#include "System/Errors.h"
 
 #include <gtest/gtest.h>
 

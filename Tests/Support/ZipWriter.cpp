@@ -47,10 +47,13 @@ QByteArray deflated(const QByteArray& data)
 ZipWriter& ZipWriter::add(const Entry& entry)
 {
     const Written written{entry, entry.deflated ? deflated(entry.data) : entry.data,
-                          m_bytes.size()};
-    const auto extra = extraField(written, false);
-    m_bytes += "PK\3\4" + commonHeader(written) + number16(extra.size()) + entry.name + extra +
-               written.body;
+                          entry.offset.value_or(m_bytes.size())};
+    if (!entry.offset) {
+        const auto name = entry.localName.value_or(entry.name);
+        const auto extra = extraField(written, false);
+        m_bytes += "PK\3\4" + commonHeader(written, name) + number16(extra.size()) + name + extra +
+                   written.body;
+    }
     m_entries.append(written);
     return *this;
 }
@@ -76,15 +79,15 @@ QByteArray ZipWriter::archive() const
 }
 
 /// From the version to the length of the name: what both headers of an entry have in common.
-QByteArray ZipWriter::commonHeader(const Written& written)
+QByteArray ZipWriter::commonHeader(const Written& written, const QByteArray& name)
 {
     const auto& entry = written.entry;
     const auto size = entry.size.value_or(static_cast<quint32>(entry.data.size()));
     return number16(entry.zip64 ? 45 : 20) + number16(entry.flags) +
-           number16(entry.deflated ? 8 : 0) + number32(0x5a215a21) +
+           number16(entry.method.value_or(entry.deflated ? 8 : 0)) + number32(0x5a215a21) +
            number32(entry.checksum.value_or(checksumOf(entry.data))) +
            number32(entry.zip64 ? inTheExtraField : written.body.size()) +
-           number32(entry.zip64 ? inTheExtraField : size) + number16(entry.name.size());
+           number32(entry.zip64 ? inTheExtraField : size) + number16(name.size());
 }
 
 QByteArray ZipWriter::extraField(const Written& written, bool inDirectory)
@@ -102,7 +105,7 @@ QByteArray ZipWriter::directoryHeader(const Written& written)
     const auto& entry = written.entry;
     const auto extra = extraField(written, true);
     const auto madeBy = number16(entry.mode == 0 ? 20 : (3 << 8 | 30));
-    return "PK\1\2" + madeBy + commonHeader(written) + number16(extra.size()) +
+    return "PK\1\2" + madeBy + commonHeader(written, entry.name) + number16(extra.size()) +
            QByteArray(6, '\0') + number32(static_cast<qint64>(entry.mode) << 16) +
            number32(entry.zip64 ? inTheExtraField : written.offset) + entry.name + extra;
 }

@@ -1,100 +1,93 @@
 // SPDX-License-Identifier: MIT
-#include "Support/Await.h"
-#include "Views/PlayPanelTest.h"
+#include "Views/ViewTest.h"
 
-#include "Views/AboutView.h"
-#include "Views/LinkLabel.h"
-#include "Views/LogView.h"
-#include "Views/LongTextEdit.h"
-#include "Views/SettingsView.h"
-#include "Views/StatusDot.h"
+#include "Controls/LinkLabel.h"
 
 #include <QAccessible>
 #include <QComboBox>
-#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What an assistive technology reads off the window.
-class AccessibilityTest : public PlayPanelTest
+/// What assistive technology reads off the window.
+class AccessibilityTest : public ViewTest
 {
 protected:
     static QAccessibleInterface& read(QWidget& widget)
     {
         return *QAccessible::queryAccessibleInterface(&widget);
     }
-    static QString name(QWidget& widget) { return read(widget).text(QAccessible::Name); }
-    static void expectButton(QWidget& widget, const QString& title, bool enabled = true)
+    static void expect(QWidget& widget, QAccessible::Role role, const QString& name)
     {
-        SCOPED_TRACE(qPrintable(title));
-        EXPECT_EQ(read(widget).role(), QAccessible::PushButton);
-        EXPECT_EQ(name(widget), title);
-        EXPECT_EQ(!read(widget).state().disabled, enabled);
+        SCOPED_TRACE(qPrintable(name));
+        EXPECT_EQ(read(widget).role(), role);
+        EXPECT_EQ(read(widget).text(QAccessible::Name), name);
+    }
+    static void expectButton(const QWidget& parent, const QString& title, bool isEnabled = true)
+    {
+        auto& found = *button(parent, title);
+        expect(found, QAccessible::PushButton, title);
+        EXPECT_EQ(!read(found).state().disabled, isEnabled);
     }
 };
 
-TEST_F(AccessibilityTest, saysWhatTheWindowShows)
+TEST_F(AccessibilityTest, readsTheWindow)
 {
+    EXPECT_EQ(window().windowTitle(), u"Cavernyx Platformer"_s);
+    expect(window(), QAccessible::Window, window().windowTitle());
     for (const auto& text :
-         {QStringLiteral("Cavernyx Platformer"), QStringLiteral("A 2D grappling-hook adventure"),
-          model().facts().summary, QStringLiteral("Controls"), QStringLiteral("Grappling hook"),
-          QStringLiteral("Hold F, or use the right stick"), model().statusTitle(),
-          model().statusDetail()}) {
-        auto* const found = label(text);
-        ASSERT_TRUE(found) << qPrintable(text);
-        EXPECT_EQ(read(*found).role(), QAccessible::StaticText);
-        EXPECT_EQ(name(*found), text);
+         {u"Cavernyx Platformer"_s, u"A 2D grappling-hook adventure"_s, model().facts().summary,
+          u"Controls"_s, u"Grappling hook"_s, u"Hold F, or use the right stick"_s,
+          model().statusTitle(), model().statusDetail()}) {
+        ASSERT_TRUE(label(text)) << qPrintable(text);
+        expect(*label(text), QAccessible::StaticText, text);
     }
-    for (const auto& title : {QStringLiteral("Settings\u2026"), QStringLiteral("About")})
-        expectButton(*button(title), title);
+    for (const auto& title : {u"Settings\u2026"_s, u"About"_s})
+        expectButton(window(), title);
 }
 
-TEST_F(AccessibilityTest, saysTheStatusInWords)
+TEST_F(AccessibilityTest, readsTheStatusInWords)
 {
     auto& dot = only<StatusDot>();
-    EXPECT_EQ(read(dot).role(), QAccessible::Notification);
     enter(Phase::ready());
-    EXPECT_EQ(name(dot),
-              QStringLiteral("Status: Ready \u2013 Everything is installed. Press Play."));
+    expect(dot, QAccessible::Notification,
+           u"Status: Ready \u2013 Everything is installed. Press Play."_s);
     enter(Phase::playing());
-    EXPECT_EQ(name(dot),
-              QStringLiteral("Status: Playing \u2013 The game is running in its own window."));
+    expect(dot, QAccessible::Notification,
+           u"Status: Playing \u2013 The game is running in its own window."_s);
 }
 
-TEST_F(AccessibilityTest, saysWhatThePanelsButtonsDoAndWhetherTheyCan)
+TEST_F(AccessibilityTest, readsWhichButtonsOfThePanelCanBePressed)
 {
-    expectButton(play(), QStringLiteral("Play"));
+    expectButton(panel(), u"Play"_s);
     EXPECT_TRUE(read(play()).state().defaultButton);
     EXPECT_TRUE(read(stop()).state().invisible);
     EXPECT_TRUE(read(cancel()).state().invisible);
     enter(Phase::playing());
-    expectButton(play(), QStringLiteral("Play"), false);
-    expectButton(stop(), QStringLiteral("Stop"));
+    expectButton(panel(), u"Play"_s, false);
+    expectButton(panel(), u"Stop"_s);
     EXPECT_FALSE(read(stop()).state().invisible);
     enter(Phase::settingUp());
-    expectButton(cancel(), QStringLiteral("Cancel"));
+    expectButton(panel(), u"Cancel"_s);
 }
 
-TEST_F(AccessibilityTest, saysHowFarTheWorkIs)
+TEST_F(AccessibilityTest, readsTheProgress)
 {
     enter(Phase::downloading());
-    auto& bar = read(progress());
-    EXPECT_EQ(bar.role(), QAccessible::ProgressBar);
-    EXPECT_EQ(bar.text(QAccessible::Name), QStringLiteral("Progress"));
-    ASSERT_TRUE(bar.valueInterface());
+    expect(progress(), QAccessible::ProgressBar, u"Progress"_s);
+    auto* const bar = read(progress()).valueInterface();
+    ASSERT_TRUE(bar);
     AppModelAccess::applyProgress(model(), {250, 1000, 10});
-    EXPECT_DOUBLE_EQ(bar.valueInterface()->currentValue().toDouble() /
-                         bar.valueInterface()->maximumValue().toDouble(),
-                     0.25);
+    EXPECT_DOUBLE_EQ(bar->currentValue().toDouble() / bar->maximumValue().toDouble(), 0.25);
     AppModelAccess::clearProgress(model());
-    EXPECT_EQ(bar.valueInterface()->maximumValue(), bar.valueInterface()->minimumValue())
-        << "nobody knows";
+    EXPECT_EQ(bar->maximumValue(), bar->minimumValue()) << "indeterminate";
 }
 
-TEST_F(AccessibilityTest, saysWhetherTheLogIsShown)
+TEST_F(AccessibilityTest, readsAndPressesTheLogDisclosure)
 {
     auto& interface = read(disclosure());
-    EXPECT_EQ(interface.text(QAccessible::Name), QStringLiteral("Show log"));
+    EXPECT_EQ(interface.text(QAccessible::Name), u"Show log"_s);
     EXPECT_TRUE(interface.state().checkable);
     EXPECT_FALSE(interface.state().checked);
     interface.actionInterface()->doAction(interface.actionInterface()->actionNames().constFirst());
@@ -105,72 +98,61 @@ TEST_F(AccessibilityTest, saysWhetherTheLogIsShown)
 
 TEST_F(AccessibilityTest, readsTheLogAndTheReportAsTexts)
 {
-    model().log().append(QStringLiteral("one\ntwo"));
+    model().log().append(u"one\ntwo"_s);
     model().setShowLog(true);
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    enter(Phase::needs(QStringLiteral("It broke.")));
-    auto& log = only<TextBox>(only<LogView>()).edit();
-    EXPECT_TRUE(waitUntil([&] { return log.text() == QStringLiteral("one\ntwo"); }));
+    AppModelAccess::setFailureText(model(), u"What happened"_s);
+    enter(Phase::needs(u"It broke."_s));
+    auto& log = logBox().edit();
+    EXPECT_TRUE(waitUntil([&] { return log.text() == u"one\ntwo"_s; }));
 
     for (const auto& [edit, title, text] :
-         {std::tuple(&log, QStringLiteral("Log"), QStringLiteral("one\ntwo")),
-          std::tuple(&failure().edit(), QStringLiteral("Failure report"),
-                     QStringLiteral("What happened"))}) {
-        auto& interface = read(*edit);
-        EXPECT_EQ(interface.role(), QAccessible::EditableText);
-        EXPECT_EQ(interface.text(QAccessible::Name), title);
-        EXPECT_TRUE(interface.state().readOnly);
-        ASSERT_TRUE(interface.textInterface());
-        const auto end = interface.textInterface()->characterCount();
-        EXPECT_EQ(interface.textInterface()->text(0, end), text);
+         {std::tuple(&log, u"Log"_s, u"one\ntwo"_s),
+          std::tuple(&failure().edit(), u"Failure report"_s, u"What happened"_s)}) {
+        expect(*edit, QAccessible::EditableText, title);
+        EXPECT_TRUE(read(*edit).state().readOnly);
+        auto* const content = read(*edit).textInterface();
+        ASSERT_TRUE(content);
+        EXPECT_EQ(content->text(0, content->characterCount()), text);
     }
-    expectButton(*button(QStringLiteral("Copy")), QStringLiteral("Copy"));
-    expectButton(*button(QStringLiteral("Copy log")), QStringLiteral("Copy log"));
+    for (const auto& title : {u"Copy"_s, u"Copy log"_s})
+        expectButton(window(), title);
 }
 
-TEST_F(AccessibilityTest, namesEveryControlOfTheSettingsWithItsChoice)
+TEST_F(AccessibilityTest, readsEveryControlOfTheSettingsWithItsChoice)
 {
     model().setFullscreen(true);
     model().setResolution(ResolutionChoice::r1080);
-    auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    EXPECT_EQ(read(sheet).role(), QAccessible::Dialog);
-    EXPECT_EQ(name(sheet), QStringLiteral("Settings"));
+    expect(settings(), QAccessible::Dialog, u"Settings"_s);
 
-    auto& windowed = *button(sheet, QStringLiteral("Windowed"));
-    auto& fullscreen = *button(sheet, QStringLiteral("Fullscreen"));
-    EXPECT_EQ(read(*windowed.parentWidget()).role(), QAccessible::Grouping);
-    EXPECT_EQ(name(*windowed.parentWidget()), QStringLiteral("Window"));
+    auto& windowed = *button(settings(), u"Windowed");
+    auto& fullscreen = *button(settings(), u"Fullscreen");
+    expect(*windowed.parentWidget(), QAccessible::Grouping, u"Window"_s);
     for (auto* const segment : {&windowed, &fullscreen}) {
-        EXPECT_EQ(read(*segment).role(), QAccessible::RadioButton);
-        EXPECT_EQ(name(*segment), segment->text());
+        expect(*segment, QAccessible::RadioButton, segment->text());
         EXPECT_EQ(read(*segment).state().checked, segment == &fullscreen);
     }
-    auto& resolution = only<QComboBox>(sheet);
+    auto& resolution = only<QComboBox>(settings());
     EXPECT_EQ(read(resolution).role(), QAccessible::ComboBox);
-    // Its name is the label that stands before it; where names are told as relations, by one.
-    auto* const before = label(sheet, QStringLiteral("Resolution"));
+    EXPECT_EQ(read(resolution).text(QAccessible::Value), u"1920 \u00d7 1080"_s);
+    // On the accessibility bus the label before it is its name.
     const auto relations = read(resolution).relations(QAccessible::Label);
     ASSERT_EQ(relations.size(), 1);
-    EXPECT_EQ(relations.constFirst().first->object(), before);
-    EXPECT_EQ(read(resolution).text(QAccessible::Value), QStringLiteral("1920 \u00d7 1080"));
+    EXPECT_EQ(relations.constFirst().first->object(), label(settings(), u"Resolution"));
 
     enter(Phase::playing());
-    for (const auto& title : {QStringLiteral("Update the game"), QStringLiteral("Reinstall"),
-                              QStringLiteral("Remove everything"), QStringLiteral("Show saves")})
-        expectButton(*button(sheet, title), title, false);
-    for (const auto& title : {QStringLiteral("Reveal in Finder"), QStringLiteral("Done")})
-        expectButton(*button(sheet, title), title);
-    EXPECT_TRUE(read(*button(sheet, QStringLiteral("Done"))).state().defaultButton);
+    for (const auto& title :
+         {u"Update the game"_s, u"Reinstall"_s, u"Remove everything"_s, u"Show saves"_s})
+        expectButton(settings(), title, false);
+    for (const auto& title : {u"Reveal in Finder"_s, u"Done"_s})
+        expectButton(settings(), title);
+    EXPECT_TRUE(read(*button(settings(), u"Done")).state().defaultButton);
 }
 
 TEST_F(AccessibilityTest, readsTheAboutSheet)
 {
-    auto& sheet = open<AboutView>(QStringLiteral("About"));
-    EXPECT_EQ(read(sheet).role(), QAccessible::Dialog);
-    EXPECT_EQ(name(sheet), QStringLiteral("About"));
-    auto& link = only<LinkLabel>(sheet);
-    EXPECT_EQ(read(link).role(), QAccessible::Link);
-    EXPECT_EQ(name(link), QStringLiteral("https://github.com/brindlework-demos/tetherwalk"));
+    expect(about(), QAccessible::Dialog, u"About"_s);
+    auto& link = only<LinkLabel>(about());
+    expect(link, QAccessible::Link, u"https://github.com/brindlework-demos/tetherwalk"_s);
     EXPECT_TRUE(read(link).state().focusable);
 }
 

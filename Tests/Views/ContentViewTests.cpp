@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
 #include "Views/ViewTest.h"
 
-#include "Views/AboutView.h"
 #include "Views/HeaderArt.h"
-#include "Views/PlayPanel.h"
-#include "Views/SettingsView.h"
 
-#include <QAccessible>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QWindow>
 
-#include <algorithm>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,28 +22,27 @@ TEST_F(ContentViewTest, isNoSmallerThan620By760ButMayGrow)
     window().resize(900, 1000);
     settle();
     EXPECT_EQ(window().size(), QSize(900, 1000));
-    EXPECT_EQ(place(only<PlayPanel>()).width(), window().viewport()->width() - 40);
+    EXPECT_EQ(panel().width(), window().viewport()->width() - 40);
 }
 
-TEST_F(ContentViewTest, fitsWithItsFrameOnAScreenThatIsSmaller)
+TEST_F(ContentViewTest, fitsWithItsFrameOnASmallerScreen)
 {
-    const auto screens = QGuiApplication::screens();
-    auto* const small = screens.constLast();
+    auto* const small = QGuiApplication::screens().constLast();
     ASSERT_EQ(small->availableSize(), QSize(800, 600));
     const auto frame = window().windowHandle()->frameMargins();
     ASSERT_GT(frame.top(), 0);
-    const QSize least(620, 600 - frame.top() - frame.bottom());
+    const QSize fitting(620, 600 - frame.top() - frame.bottom());
     window().windowHandle()->setScreen(small);
     settle();
-    EXPECT_EQ(window().minimumSize(), least);
-    EXPECT_EQ(window().size(), least);
+    EXPECT_EQ(window().minimumSize(), fitting);
+    EXPECT_EQ(window().size(), fitting);
     window().resize(100, 100);
     settle();
-    EXPECT_EQ(window().size(), least);
+    EXPECT_EQ(window().size(), fitting);
     EXPECT_GT(window().verticalScrollBar()->maximum(), 0);
 }
 
-TEST_F(ContentViewTest, fitsAnewWhenTheRoomOnItsScreenChanges)
+TEST_F(ContentViewTest, fitsAgainWhenTheRoomOnItsScreenChanges)
 {
     auto& screen = *window().screen();
     window().setMinimumSize(100, 100);
@@ -62,104 +56,87 @@ TEST_F(ContentViewTest, fitsAnewWhenTheRoomOnItsScreenChanges)
     EXPECT_EQ(window().minimumSize(), QSize(100, 100)) << "it is on another screen now";
 }
 
-TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindow)
+TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindowAndNoFurther)
 {
     auto& bar = *window().verticalScrollBar();
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    AppModelAccess::setPhase(model(), Phase::needs(QStringLiteral("It broke.")));
-    model().setShowLog(true);
-    settle();
+    showAllBlocks();
+    enter(Phase::needs(u"It broke. "_s.repeated(20)));
     ASSERT_GT(window().widget()->height(), window().viewport()->height());
     EXPECT_TRUE(bar.isVisible());
     bar.setValue(bar.maximum());
     settle();
-    EXPECT_EQ(place(*button(QStringLiteral("About"))).bottom() + 1 + 20,
-              window().viewport()->height());
+    EXPECT_EQ(rectOf(*button(u"About")).bottom() + 1 + 20, window().viewport()->height());
+    EXPECT_EQ(rectOf(*window().widget()).bottom() + 1, window().viewport()->height());
     EXPECT_EQ(window().horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ContentViewTest, scrollsToTheLogWhenThatIsDisclosedBelow)
 {
-    AppModelAccess::fail(model(), QStringLiteral("It broke."));
+    AppModelAccess::fail(model(), u"It broke."_s);
     settle();
     const auto& bar = *window().verticalScrollBar();
     ASSERT_EQ(bar.value(), 0);
-    button(QStringLiteral("Show log"))->click();
+    disclosure().click();
     settle();
-    auto& copy = *button(QStringLiteral("Copy log"));
-    EXPECT_EQ(place(copy).bottom() + 1 + 20, window().viewport()->height());
+    EXPECT_EQ(rectOf(*button(u"Copy log")).bottom() + 1 + 20, window().viewport()->height());
     const auto reached = bar.value();
     EXPECT_GT(reached, 0);
-    model().log().append(QStringLiteral("one more"));
+    model().log().append(u"one more"_s);
     settle();
-    EXPECT_EQ(bar.value(), reached) << "from there on the window stays where it is";
+    EXPECT_EQ(bar.value(), reached) << "from now on the window does not scroll by itself";
 }
 
-TEST_F(ContentViewTest, wrapsNothingAnewWhenTheScrollBarComes)
+TEST_F(ContentViewTest, wrapsItsTextsAsBeforeWhenTheScrollBarComes)
 {
-    const auto& panel = only<PlayPanel>();
-    const auto width = panel.width();
+    const auto width = panel().width();
     EXPECT_EQ(width, window().width() - 40);
     model().setShowLog(true);
     settle();
     ASSERT_TRUE(window().verticalScrollBar()->isVisible());
-    EXPECT_EQ(panel.width(), width);
-    EXPECT_EQ(place(panel).left(), 20);
+    EXPECT_EQ(panel().width(), width);
+    EXPECT_EQ(rectOf(panel()).left(), 20);
     model().setShowLog(false);
     settle();
     ASSERT_FALSE(window().verticalScrollBar()->isVisible());
-    EXPECT_EQ(panel.width(), width);
-}
-
-TEST_F(ContentViewTest, hasTheNameOfTheProgramAsItsTitle)
-{
-    EXPECT_EQ(window().windowTitle(), QStringLiteral("Cavernyx Platformer"));
-}
-
-TEST_F(ContentViewTest, isAWindowToAssistiveTechnology)
-{
-    auto* const accessible = QAccessible::queryAccessibleInterface(&window());
-    EXPECT_EQ(accessible->role(), QAccessible::Window);
-    EXPECT_EQ(accessible->text(QAccessible::Name), window().windowTitle());
+    EXPECT_EQ(panel().width(), width);
 }
 
 TEST_F(ContentViewTest, pads20AroundAColumnSpacedBy16)
 {
-    const auto banner = place(only<HeaderArt>());
-    const auto panel = place(only<PlayPanel>());
-    const auto settings = place(*button(QStringLiteral("Settings\u2026")));
-    EXPECT_EQ(banner.topLeft(), QPoint(20, 20));
+    const auto& banner = only<HeaderArt>();
+    const auto& first = *button(u"Settings\u2026");
+    EXPECT_EQ(rectOf(banner).topLeft(), QPoint(20, 20));
     EXPECT_EQ(banner.width(), window().viewport()->width() - 40);
-    EXPECT_EQ(panel.left(), 20);
-    EXPECT_EQ(panel.width(), banner.width());
-    EXPECT_EQ(place(*label(model().facts().summary)).top() - banner.bottom() - 1, 16);
-    EXPECT_EQ(settings.top() - panel.bottom() - 1, 16);
-    EXPECT_EQ(settings.left(), 20);
+    EXPECT_EQ(rectOf(panel()).left(), 20);
+    EXPECT_EQ(panel().width(), banner.width());
+    EXPECT_EQ(gapBelow(banner, *label(model().facts().summary)), 16);
+    EXPECT_EQ(gapBelow(panel(), first), 16);
+    EXPECT_EQ(rectOf(first).left(), 20);
 }
 
 TEST_F(ContentViewTest, showsTheFactsWithLicenceAndAuthor)
 {
-    EXPECT_TRUE(label(QStringLiteral("A short platform/adventure demo project to teach how to "
-                                     "create similar 2D games, inspired by cavernyxes.")));
-    EXPECT_TRUE(label(QStringLiteral("MIT License \u00b7 Quennet (Brindlework)")));
+    expectTexts(window(), {{u"A short platform/adventure demo project to teach how to create "
+                            u"similar 2D games, inspired by cavernyxes.",
+                            13},
+                           {u"MIT License \u00b7 Quennet (Brindlework)", 10, QFont::Normal, true}});
 
-    AppModelAccess::setFacts(
-        model(), {QStringLiteral("<b>S</b>"), QStringLiteral("L"), QStringLiteral("A")});
+    AppModelAccess::setFacts(model(), {u"<b>S</b>"_s, u"L"_s, u"A"_s});
     settle();
-    auto* const summary = label(QStringLiteral("<b>S</b>"));
+    auto* const summary = label(u"<b>S</b>");
     ASSERT_TRUE(summary);
     EXPECT_EQ(summary->textFormat(), Qt::PlainText) << "what a repository says is no markup";
-    auto* const credits = label(QStringLiteral("L \u00b7 A"));
+    auto* const credits = label(u"L \u00b7 A");
     ASSERT_TRUE(credits);
-    EXPECT_EQ(place(*credits).top() - place(*summary).bottom() - 1, 6);
+    EXPECT_EQ(gapBelow(*summary, *credits), 6);
 }
 
 TEST_F(ContentViewTest, shortensAFactThatIsFarTooLong)
 {
     const QString endless(4'000'000, u'x');
-    AppModelAccess::setFacts(model(), {endless, QStringLiteral("L"), QStringLiteral("A")});
+    AppModelAccess::setFacts(model(), {endless, u"L"_s, u"A"_s});
     settle();
-    EXPECT_TRUE(label(endless.left(2000) + QChar(u'\u2026')));
+    EXPECT_TRUE(label(QString(endless.left(2000) + u'\u2026')));
 }
 
 TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
@@ -170,81 +147,63 @@ TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
     EXPECT_EQ(summary->text(), QString());
     EXPECT_TRUE(summary->isVisible());
     EXPECT_GE(summary->height(), summary->fontMetrics().height()) << "an empty line";
-    auto* const credits = label(QStringLiteral(" \u00b7 "));
+    auto* const credits = label(u" \u00b7 ");
     ASSERT_TRUE(credits);
-    EXPECT_EQ(place(*credits).top() - place(*summary).bottom() - 1, 6);
+    EXPECT_EQ(gapBelow(*summary, *credits), 6);
 }
 
 TEST_F(ContentViewTest, listsTheFiveControlsInOrder)
 {
-    const std::pair<QString, QString> controls[]{
-        {QStringLiteral("Move"), QStringLiteral("A / D, or the left stick")},
-        {QStringLiteral("Jump"), QStringLiteral("Space or W, or the A button")},
-        {QStringLiteral("Grappling hook"),
-         QStringLiteral("Left mouse button, or a shoulder button")},
-        {QStringLiteral("Aim"), QStringLiteral("Hold F, or use the right stick")},
-        {QStringLiteral("Restart"), QStringLiteral("Alt + R")},
-    };
-    auto above = place(*label(QStringLiteral("Controls")));
-    for (const auto& [action, binding] : controls) {
-        auto* const left = label(action);
-        auto* const right = label(binding);
-        ASSERT_TRUE(left && right) << action.toStdString();
-        EXPECT_EQ(place(*left).width(), 120);
-        EXPECT_EQ(place(*right).left() - place(*left).right() - 1, 8);
-        EXPECT_EQ(place(*left).top(), place(*right).top());
-        EXPECT_EQ(place(*left).top() - above.bottom() - 1, 4);
-        EXPECT_EQ(left->font().weight(), QFont::Medium);
-        above = place(*right);
+    expectTexts(window(), {{u"Controls", 13, QFont::Bold}});
+    const QWidget* above = label(u"Controls");
+    for (const auto& [action, binding] :
+         {std::pair(u"Move", u"A / D, or the left stick"),
+          std::pair(u"Jump", u"Space or W, or the A button"),
+          std::pair(u"Grappling hook", u"Left mouse button, or a shoulder button"),
+          std::pair(u"Aim", u"Hold F, or use the right stick"),
+          std::pair(u"Restart", u"Alt + R")}) {
+        expectTexts(window(), {{action, 13, QFont::Medium}});
+        expectTexts(window(), {{binding, 13, QFont::Normal, true}});
+        const auto* const left = label(action);
+        const auto* const right = label(binding);
+        ASSERT_TRUE(left && right);
+        EXPECT_EQ(left->width(), 120);
+        EXPECT_EQ(gapBeside(*left, *right), 8);
+        EXPECT_EQ(rectOf(*left).top(), rectOf(*right).top());
+        EXPECT_EQ(gapBelow(*above, *left), 4);
+        above = right;
     }
-    EXPECT_TRUE(label(QStringLiteral("The README has no controls list (see README); these come "
-                                     "from the game's input settings.")));
+    expectTexts(window(), {{u"The README has no controls list (see README); these come from the "
+                            u"game's input settings.",
+                            10, QFont::Normal, true}});
 }
 
-TEST_F(ContentViewTest, opensOneSheetAtATimeAndTakesItAwayWithEscape)
+TEST_F(ContentViewTest, opensOneSheetAtATimeAndClosesItWithEscape)
 {
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    EXPECT_TRUE(settings.isVisible());
-    button(QStringLiteral("About"))->click();
+    EXPECT_TRUE(settings().isVisible());
+    button(u"About")->click();
     settle();
     EXPECT_FALSE(window().findChild<AboutView*>());
-    QTest::keyClick(&settings, Qt::Key_Escape);
+    QTest::keyClick(&settings(), Qt::Key_Escape);
     settle();
     EXPECT_FALSE(window().findChild<SettingsView*>());
-    EXPECT_TRUE(open<AboutView>(QStringLiteral("About")).isVisible());
+    EXPECT_TRUE(about().isVisible());
 }
 
-TEST_F(ContentViewTest, leavesEscapeWithoutEffectInTheWindow)
+TEST_F(ContentViewTest, ignoresEscape)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
+    enter(Phase::playing());
     QTest::keyClick(&window(), Qt::Key_Escape);
     EXPECT_TRUE(window().isVisible());
     EXPECT_TRUE(model().phase() == Phase::Kind::playing);
 }
 
-TEST_F(ContentViewTest, scrollsNoFurtherThanItsContent)
-{
-    AppModelAccess::setPhase(model(), Phase::needs(QStringLiteral("It broke. ").repeated(20)));
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    model().setShowLog(true);
-    settle();
-    const auto last = place(*button(QStringLiteral("About")));
-    const auto end = window().widget()->mapTo(&window(), QPoint(0, window().widget()->height()));
-    const auto bottom = std::max(last.bottom() + 1 + 20, window().viewport()->height());
-    EXPECT_EQ(end.y(), bottom);
-}
-
 TEST_F(ContentViewTest, growsItsTextsWithTheSystemsFont)
 {
-    auto* const title = label(QStringLiteral("Controls"));
+    auto* const title = label(u"Controls");
     const auto before = title->font().pointSizeF();
-    const auto system = QApplication::font();
-    auto larger = system;
-    larger.setPointSizeF(system.pointSizeF() * 4 / 3);
-    QApplication::setFont(larger);
-    settle();
+    enlargeFont();
     EXPECT_NEAR(title->font().pointSizeF(), before * 4 / 3, 0.01);
-    QApplication::setFont(system);
 }
 
 } // namespace

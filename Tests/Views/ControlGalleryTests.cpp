@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// What answers to the pointer and to the keyboard, and the window in unusual surroundings.
+// How controls answer to the pointer and the keyboard, and the window in unusual surroundings.
 
-#include "Support/AppModelAccess.h"
-#include "Support/Await.h"
 #include "Views/Picture.h"
 
-#include "Views/AboutView.h"
-#include "Views/LogView.h"
-#include "Views/LongTextEdit.h"
-#include "Views/PlayButton.h"
-#include "Views/SettingsView.h"
+#include "Shell/WidgetDesktop.h"
 
 #include <QComboBox>
+#include <QIcon>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPainter>
 #include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,20 +25,20 @@ protected:
     {
     }
 
-    /// The stops of the keyboard's focus in a window, from where it is until it comes around.
-    QList<QImage> focusStops(QWidget& stopping)
+    /// Everything in `visited` that Tab moves the focus to.
+    QList<QImage> focusStops(QWidget& visited)
     {
         QList<QImage> stops;
-        auto* const first = stopping.focusWidget();
+        auto* const first = visited.focusWidget();
         do {
-            QTest::keyClick(stopping.focusWidget(), Qt::Key_Tab);
-            EXPECT_TRUE(stopping.focusWidget()->isVisible());
-            stops.append(detail(*stopping.focusWidget()));
-        } while (stopping.focusWidget() != first);
+            QTest::keyClick(visited.focusWidget(), Qt::Key_Tab);
+            EXPECT_TRUE(visited.focusWidget()->isVisible());
+            stops.append(detail(*visited.focusWidget()));
+        } while (visited.focusWidget() != first);
         return stops;
     }
 
-    /// A button as it is, under the pointer, held down, and disabled.
+    /// A button as it is, under the pointer, pressed, and disabled.
     static QList<QImage> looks(QAbstractButton& button)
     {
         QList<QImage> looks{detail(button)};
@@ -52,38 +52,46 @@ protected:
         looks.append(detail(button));
         return looks;
     }
+
+    /// The window with its sheet and alert where they are.
+    QImage everything()
+    {
+        settle();
+        auto picture = window().grab().toImage();
+        QPainter painter(&picture);
+        for (auto* const front : window().findChildren<QDialog*>())
+            painter.drawPixmap(front->pos() - window().pos(), front->grab());
+        return picture;
+    }
 };
 
 TEST_P(ControlGallery, showsWhereTheFocusIsInTheWindow)
 {
-    AppModelAccess::fail(model(), QStringLiteral("The disk is full."));
-    model().setShowLog(true);
+    showAllBlocks();
     showAll();
     save(focusStops(window()), "focus-window");
 }
 
 TEST_P(ControlGallery, showsWhereTheFocusIsInTheSheets)
 {
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    auto stops = focusStops(settings);
-    settings.reject();
+    auto stops = focusStops(settings());
+    settings().reject();
     settle();
-    save(stops + focusStops(open<AboutView>(QStringLiteral("About"))), "focus-sheets");
+    save(stops + focusStops(about()), "focus-sheets");
 }
 
 TEST_P(ControlGallery, showsHowButtonsAnswer)
 {
     showAll();
-    auto all = looks(only<PlayButton>()) + looks(*button(QStringLiteral("About")));
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    for (const auto& title : {"Fullscreen", "Remove everything", "Done"})
-        all += looks(*button(settings, QLatin1String(title)));
+    auto all = looks(play()) + looks(*button(u"About"));
+    for (const auto* const title : {u"Fullscreen", u"Remove everything", u"Done"})
+        all += looks(*button(settings(), title));
     save(all, "looks");
 }
 
 TEST_P(ControlGallery, showsTheListOfResolutions)
 {
-    auto& list = only<QComboBox>(open<SettingsView>(QStringLiteral("Settings\u2026")));
+    auto& list = only<QComboBox>(settings());
     list.showPopup();
     save(*QApplication::activePopupWidget(), "resolutions");
     list.hidePopup();
@@ -91,14 +99,33 @@ TEST_P(ControlGallery, showsTheListOfResolutions)
 
 TEST_P(ControlGallery, showsTheMenuOfTheLog)
 {
-    model().log().append(QStringLiteral("a line"));
+    model().log().append(u"a line"_s);
     model().setShowLog(true);
-    auto& log = only<LongTextEdit>(only<LogView>());
+    auto& log = logBox().edit();
     ASSERT_TRUE(waitUntil([&] { return log.lineCount() == 1; }));
     const std::unique_ptr<QMenu> menu(log.createStandardContextMenu());
     menu->popup(QPoint(0, 0));
     QTest::keyClick(menu.get(), Qt::Key_Down);
     save(*menu, "menu");
+}
+
+TEST_P(ControlGallery, asksOverTheSheet)
+{
+    QApplication::setWindowIcon(QIcon(QStringLiteral(ICON_FILE)));
+    AppModelAccess::setPhase(model(), Phase::ready());
+    showAll();
+    settings();
+    QTimer::singleShot(0, &window(), [this] {
+        auto& alert = only<QMessageBox>();
+        save({everything()}, "alert");
+        alert.reject();
+    });
+    EXPECT_FALSE(WidgetDesktop().confirm(
+        u"Remove everything?"_s,
+        u"This deletes the downloaded game and engine and frees 312.4 MB. Your save "
+        u"files in Godot's folder are not touched."_s,
+        u"Remove"_s));
+    QApplication::setWindowIcon({});
 }
 
 TEST_P(ControlGallery, scrollsOnASmallScreen)
@@ -112,41 +139,34 @@ TEST_P(ControlGallery, scrollsOnASmallScreen)
 TEST_P(ControlGallery, takesLongTexts)
 {
     AppModelAccess::setFacts(
-        model(),
-        {.summary = QStringLiteral("A platform game in which a small explorer swings through caves "
-                                   "on a grappling hook. It shows how such a game is built: its "
-                                   "scenes, its camera, its physics and its sounds, each with a "
-                                   "chapter of its own in the manual that comes with it."),
-         .license = QStringLiteral("Creative Commons Attribution-ShareAlike 4.0 International"),
-         .author =
-             QStringLiteral("The Brindlework Demonstration Projects and their contributors")});
-    AppModelAccess::fail(
-        model(), QStringLiteral("The file \u201c/home/player/.local/share/cavernyx/"
-                                "a-folder-with-a-name-that-is-longer-than-the-window-is-wide/"
-                                "and-another-one-inside-of-it\u201d could not be written: No space "
-                                "left on device."));
+        model(), {.summary = u"A platform game in which a small explorer swings through caves "
+                             u"on a grappling hook. It shows how such a game is built: its "
+                             u"scenes, its camera, its physics and its sounds, each with a "
+                             u"chapter of its own in the manual that comes with it."_s,
+                  .license = u"Creative Commons Attribution-ShareAlike 4.0 International"_s,
+                  .author = u"The Brindlework Demonstration Projects and their contributors"_s});
+    AppModelAccess::fail(model(),
+                         u"The file \u201c/home/player/.local/share/cavernyx/"
+                         u"a-folder-with-a-name-that-is-longer-than-the-window-is-wide/"
+                         u"and-another-one-inside-of-it\u201d could not be written: No space "
+                         u"left on device."_s);
     showAll();
     save(window(), "long-texts");
 }
 
 TEST_P(ControlGallery, takesALargerFont)
 {
-    const auto font = QApplication::font();
-    auto larger = font;
-    larger.setPointSizeF(font.pointSizeF() * 4 / 3);
-    QApplication::setFont(larger);
+    enlargeFont();
     AppModelAccess::setPhase(model(), Phase::downloading());
-    AppModelAccess::setStep(
-        model(), QStringLiteral("Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"));
+    AppModelAccess::setStep(model(),
+                            u"Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"_s);
     AppModelAccess::applyProgress(model(), {7'300'000, 70'100'000, 2'400'000});
     showAll();
     save(window(), "larger-font");
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    save(settings, "larger-font-settings");
-    settings.reject();
+    save(settings(), "larger-font-settings");
+    settings().reject();
     settle();
-    save(open<AboutView>(QStringLiteral("About")), "larger-font-about");
-    QApplication::setFont(font);
+    save(about(), "larger-font-about");
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, ControlGallery, testing::Values(Theme::light, Theme::dark));

@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Every state of the window and of its sheets.
 
-#include "Support/AppModelAccess.h"
-#include "Support/Await.h"
 #include "Views/Picture.h"
 
-#include "Views/AboutView.h"
-#include "Views/SettingsView.h"
-
-#include <QTest>
-#include <QThreadPool>
-
 #include <ostream>
-#include <string>
 #include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 struct State
 {
-    const char* name;
+    std::string name;
     void (*enter)(AppModel& model);
 };
 
@@ -31,17 +24,17 @@ void PrintTo(const State& state, std::ostream* stream)
 void downloading(AppModel& model)
 {
     AppModelAccess::setPhase(model, Phase::downloading());
-    AppModelAccess::setStep(
-        model, QStringLiteral("Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"));
+    AppModelAccess::setStep(model,
+                            u"Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"_s);
 }
 
 void failing(AppModel& model)
 {
     for (auto i = 0; i < 30; ++i)
-        model.log().append(QStringLiteral("Downloading the checksum list, attempt %1").arg(i));
-    AppModelAccess::fail(
-        model, QStringLiteral("The engine's archive is damaged: its SHA-512 checksum is not the "
-                              "one that the engine's makers published. Nothing was installed."));
+        model.log().append(u"Downloading the checksum list, attempt %1"_s.arg(i));
+    AppModelAccess::fail(model, u"The engine's archive is damaged: its SHA-512 checksum is not the "
+                                u"one that the engine's makers published. Nothing was "
+                                u"installed."_s);
 }
 
 const State states[]{
@@ -56,8 +49,7 @@ const State states[]{
      [](AppModel& model) {
          AppModelAccess::setPhase(model, Phase::settingUp());
          AppModelAccess::setStep(
-             model,
-             QStringLiteral("Step 3 of 4 \u00b7 First-time setup, this can take a minute or more"));
+             model, u"Step 3 of 4 \u00b7 First-time setup, this can take a minute or more"_s);
      }},
     {"ready", [](AppModel& model) { AppModelAccess::setPhase(model, Phase::ready()); }},
     {"starting",
@@ -80,19 +72,20 @@ class Gallery : public Picture, public testing::WithParamInterface<std::tuple<Th
 protected:
     Gallery()
         : Picture(std::get<Theme>(GetParam()))
+        , state(std::get<State>(GetParam()))
     {
     }
 
-    static const State& state() { return std::get<State>(GetParam()); }
+    const State state;
 };
 
 TEST_P(Gallery, showsTheState)
 {
-    state().enter(model());
+    state.enter(model());
     auto& log = model().log();
     ASSERT_TRUE(waitUntil([&] { return log.lines() == log.newest(2000); }));
     showAll();
-    save(window(), state().name);
+    save(window(), state.name);
 }
 
 INSTANTIATE_TEST_SUITE_P(States, Gallery,
@@ -103,31 +96,30 @@ using SheetGallery = Gallery;
 
 TEST_P(SheetGallery, showsTheSheets)
 {
-    home.makeFolder(QStringLiteral("data/godot/app_userdata/Tether"));
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    // What was measured when the sheet opened, in a folder that is empty, comes first.
-    QThreadPool::globalInstance()->waitForDone();
+    home.makeFolder(u"data/godot/app_userdata/Tether"_s);
+    settings();
+    // The sheet has started to measure an empty folder.
+    AppModelAccess::finishMeasuring();
+    state.enter(model());
+    save(settings(), "settings-" + state.name);
+    settings().reject();
     settle();
-    state().enter(model());
-    save(settings, (std::string("settings-") + state().name).c_str());
-    only<SettingsView>().reject();
-    settle();
-    save(open<AboutView>(QStringLiteral("About")), "about");
+    save(about(), "about");
 }
 
 const State sheetStates[]{
     states[0],
     {"installed",
      [](AppModel& model) {
-         AppModelAccess::setInstalledSize(model, QStringLiteral("312.4 MB"));
+         AppModelAccess::setInstalledSize(model, u"312.4 MB"_s);
          ProjectInfo info;
-         info.name = QStringLiteral("Tether");
+         info.name = u"Tether"_s;
          AppModelAccess::setInfo(model, info);
          AppModelAccess::setPhase(model, Phase::ready());
      }},
     {"busy",
      [](AppModel& model) {
-         AppModelAccess::setInstalledSize(model, QStringLiteral("312.4 MB"));
+         AppModelAccess::setInstalledSize(model, u"312.4 MB"_s);
          AppModelAccess::setPhase(model, Phase::playing());
      }},
 };

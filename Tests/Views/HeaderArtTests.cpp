@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "Views/ViewTest.h"
-
 #include "Views/HeaderArt.h"
 
+#include <gtest/gtest.h>
+
+#include <QApplication>
 #include <QImage>
+#include <QLabel>
 
 namespace {
 
 constexpr auto width = 580;
 constexpr auto height = 150;
-/// Where the row of platforms starts when the banner is this wide.
+/// The left edge of the row of platforms in a banner of this width.
 constexpr auto firstBar = (width - 475) / 2.0;
 
-/// The banner alone on nothing, as the painter draws it.
+/// The banner alone, on a transparent image.
 class HeaderArtTest : public testing::Test
 {
 protected:
@@ -56,25 +58,30 @@ protected:
         EXPECT_NEAR(found.blue(), wanted.blue() * share, 2.5);
         EXPECT_EQ(found.alpha(), 255);
     }
-    /// Where the symbol lies.
+    /// The share of the gradient's light that is left at a point of the background.
+    double lightAt(const QPoint& point)
+    {
+        return background.pixelColor(point).redF() / gradient(point.x(), point.y()).redF();
+    }
     QRect symbol()
     {
-        const auto widgets = art.findChildren<QWidget*>();
-        for (auto* const widget : widgets) {
+        for (auto* const widget : art.findChildren<QWidget*>()) {
             if (widget->size() == QSize(76, 56))
-                return place(*widget);
+                return rectOf(*widget);
         }
-        qFatal("There is no place for the symbol.");
+        qFatal("The banner has no symbol.");
     }
-    QRect place(const QWidget& widget) { return {widget.mapTo(&art, QPoint(0, 0)), widget.size()}; }
-    QLabel& text(const QString& wanted)
+    QLabel& text(QStringView wanted)
     {
-        const auto labels = art.findChildren<QLabel*>();
-        for (auto* const label : labels) {
+        for (auto* const label : art.findChildren<QLabel*>()) {
             if (label->text() == wanted)
                 return *label;
         }
         qFatal("A text of the banner is missing.");
+    }
+    QRect rectOf(const QWidget& widget)
+    {
+        return {widget.mapTo(&art, QPoint(0, 0)), widget.size()};
     }
 
     HeaderArt art;
@@ -94,16 +101,11 @@ TEST_F(HeaderArtTest, runsThroughThreeColoursFromCornerToCorner)
     expectNear(QColor::fromRgbF(0.45F, 0.2F, 0.62F), gradient(306.9, 4));
 }
 
-TEST_F(HeaderArtTest, hasSixPlatformsOfTheirSizes)
-{
-    EXPECT_EQ(HeaderArt::barSizes(),
-              (QList<QSize>{{40, 10}, {63, 27}, {86, 10}, {59, 27}, {82, 10}, {55, 27}}));
-}
-
-TEST_F(HeaderArtTest, standsItsPlatformsOnTheBottomEdge18ApartAQuarterDarker)
+TEST_F(HeaderArtTest, standsSixPlatformsOnTheBottomEdge18ApartAQuarterDarker)
 {
     auto left = firstBar;
-    for (const auto& size : HeaderArt::barSizes()) {
+    for (const auto& size : {QSize(40, 10), QSize(63, 27), QSize(86, 10), QSize(59, 27),
+                             QSize(82, 10), QSize(55, 27)}) {
         SCOPED_TRACE(left);
         const auto right = left + size.width();
         const auto middle = int(left + right) / 2;
@@ -135,30 +137,27 @@ TEST_F(HeaderArtTest, isClippedToRoundCorners)
 
 TEST_F(HeaderArtTest, showsAWhiteControllerWithASoftShadowAllAround)
 {
-    const auto place = symbol();
+    const auto area = symbol();
     const auto at = [&](double x, double y) {
-        return QPoint(place.left() + int(x * place.width()),
-                      place.center().y() + int((y - 0.5) * place.height()));
+        return QPoint(area.left() + int(x * area.width()),
+                      area.center().y() + int((y - 0.5) * area.height()));
     };
     EXPECT_EQ(picture.pixelColor(at(0.5, 0.4)), QColor(Qt::white));
     EXPECT_NE(picture.pixelColor(at(0.29, 0.37)), QColor(Qt::white)) << "the directional pad";
 
-    const auto share = [this](const QPoint& point) {
-        return background.pixelColor(point).redF() / gradient(point.x(), point.y()).redF();
-    };
-    EXPECT_LT(share(at(0.5, 0.74)), 0.97) << "between the grips";
-    EXPECT_LT(share(at(0.5, 0.74)), share(at(0.5, 0.8))) << "softer further away";
-    EXPECT_NEAR(share({place.left() - 2, place.center().y()}),
-                share({place.right() + 2, place.center().y()}), 0.06)
+    EXPECT_LT(lightAt(at(0.5, 0.74)), 0.97) << "between the grips";
+    EXPECT_LT(lightAt(at(0.5, 0.74)), lightAt(at(0.5, 0.8))) << "softer further away";
+    EXPECT_NEAR(lightAt({area.left() - 2, area.center().y()}),
+                lightAt({area.right() + 2, area.center().y()}), 0.06)
         << "it has no offset";
-    EXPECT_LT(share({place.left() - 2, place.center().y() + 8}), 0.97);
-    EXPECT_NEAR(share({place.left() - 14, place.center().y()}), 1, 0.02) << "radius 6";
+    EXPECT_LT(lightAt({area.left() - 2, area.center().y() + 8}), 0.97);
+    EXPECT_NEAR(lightAt({area.left() - 14, area.center().y()}), 1, 0.02) << "radius 6";
 }
 
 TEST_F(HeaderArtTest, putsItsNameBesideTheSymbolInTheMiddle)
 {
-    auto& title = text(QStringLiteral("Cavernyx Platformer"));
-    auto& subtitle = text(QStringLiteral("A 2D grappling-hook adventure"));
+    auto& title = text(u"Cavernyx Platformer");
+    auto& subtitle = text(u"A 2D grappling-hook adventure");
     EXPECT_EQ(title.font().pixelSize(), 30);
     EXPECT_EQ(title.font().weight(), QFont::Bold);
     EXPECT_EQ(title.palette().color(title.foregroundRole()), QColor(Qt::white));
@@ -168,17 +167,17 @@ TEST_F(HeaderArtTest, putsItsNameBesideTheSymbolInTheMiddle)
     EXPECT_EQ(faint.rgb(), QColor(Qt::white).rgb());
     EXPECT_NEAR(faint.alphaF(), 0.85, 0.01);
 
-    EXPECT_EQ(place(title).left() - symbol().right() - 1, 14);
-    EXPECT_EQ(place(subtitle).left(), place(title).left());
-    EXPECT_EQ(place(subtitle).top() - place(title).bottom() - 1, 2);
+    EXPECT_EQ(rectOf(title).left() - symbol().right() - 1, 14);
+    EXPECT_EQ(rectOf(subtitle).left(), rectOf(title).left());
+    EXPECT_EQ(rectOf(subtitle).top() - rectOf(title).bottom() - 1, 2);
     for (const auto* const line : {&title, &subtitle})
         EXPECT_EQ(line->height(), line->sizeHint().height()) << "no room around the words";
-    const auto all = symbol().united(place(title)).united(place(subtitle));
+    const auto all = symbol().united(rectOf(title)).united(rectOf(subtitle));
     EXPECT_NEAR(all.center().x(), width / 2, 1);
     EXPECT_NEAR(all.center().y(), height / 2, 1);
 }
 
-TEST_F(HeaderArtTest, leadsFromTheRightWhereTextDoes)
+TEST_F(HeaderArtTest, isMirroredInRightToLeftLayouts)
 {
     art.setLayoutDirection(Qt::RightToLeft);
     const auto mirrored = drawn(1, {});
@@ -192,8 +191,7 @@ TEST_F(HeaderArtTest, isDrawnInTheFinerPixelsOfADenseScreen)
     // The first platform begins between two pixels of a plain screen, not of one twice as fine.
     static_assert(firstBar == 52.5);
     const auto row = height - 5;
-    const auto edge = background.pixelColor(52, row).redF() / gradient(52, row).redF();
-    EXPECT_NEAR(edge, 0.875, 0.03) << "half covered";
+    EXPECT_NEAR(lightAt({52, row}), 0.875, 0.03) << "half covered";
     const auto fine = drawn(2, {});
     expectNear(fine.pixelColor(104, 2 * row), gradient(51.75, row));
     expectNear(fine.pixelColor(105, 2 * row), gradient(52.25, row), 0.75);

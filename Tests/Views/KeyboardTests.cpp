@@ -1,22 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
 #include "Views/ViewTest.h"
 
-#include "Views/AboutView.h"
-#include "Views/LinkLabel.h"
-#include "Views/LongTextEdit.h"
-#include "Views/SettingsView.h"
+#include "Controls/LinkLabel.h"
 
 #include <QAccessible>
-#include <QImage>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 class KeyboardTest : public ViewTest
 {
 protected:
-    /// What takes the focus in a window, from what has it now until that has it again.
+    /// What `key` moves the focus to, from what has it until that has it again.
     static QList<QWidget*> stops(QWidget& visited, Qt::Key key = Qt::Key_Tab)
     {
         QList<QWidget*> result;
@@ -29,20 +26,20 @@ protected:
         return result;
     }
 
-    /// The names by which an assistive technology would tell of `widgets`.
-    static QStringList names(const QList<QWidget*>& widgets)
+    /// The accessible names of these stops.
+    static QStringList stopNames(QWidget& visited)
     {
         QStringList result;
-        for (auto* const widget : widgets)
-            result.append(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name));
+        for (auto* const stop : stops(visited))
+            result.append(QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name));
         return result;
     }
 
-    /// Each stop of the focus changes what is seen around it.
+    /// Checks that each stop looks different while it has the focus.
     static void expectARingAtEachStop(QWidget& visited)
     {
         const auto around = [&visited](const QWidget& widget) {
-            return visited.grab(place(widget).adjusted(-6, -6, 6, 6)).toImage();
+            return visited.grab(rectOf(widget).adjusted(-6, -6, 6, 6)).toImage();
         };
         const auto visits = stops(visited);
         for (auto i = 0; i < visits.size(); ++i) {
@@ -51,83 +48,63 @@ protected:
             QTest::keyClick(visited.focusWidget(), Qt::Key_Tab);
             settle();
             ASSERT_EQ(visited.focusWidget(), &next);
-            EXPECT_NE(around(next), before) << qPrintable(names({visits.at(i)}).constFirst());
+            EXPECT_NE(around(next), before) << "stop " << i;
         }
-    }
-
-    /// The window with everything in it that can take the focus.
-    void fill()
-    {
-        AppModelAccess::fail(model(), QStringLiteral("The disk is full."));
-        model().setShowLog(true);
-        settle();
     }
 };
 
 TEST_F(KeyboardTest, goesThroughTheWindowFromTopToBottom)
 {
-    fill();
-    const QStringList fromTop{QStringLiteral("Play"),
-                              QStringLiteral("Failure report"),
-                              QStringLiteral("Copy"),
-                              QStringLiteral("Show log"),
-                              QStringLiteral("Log"),
-                              QStringLiteral("Copy log"),
-                              QStringLiteral("Settings\u2026"),
-                              QStringLiteral("About")};
-    EXPECT_EQ(names(stops(window())), fromTop);
+    showAllBlocks();
+    EXPECT_EQ(stopNames(window()),
+              (QStringList{u"Play"_s, u"Failure report"_s, u"Copy"_s, u"Show log"_s, u"Log"_s,
+                           u"Copy log"_s, u"Settings\u2026"_s, u"About"_s}));
 }
 
 TEST_F(KeyboardTest, keepsTheOrderWhenTheLogIsOpenedBeforeAFailure)
 {
     model().setShowLog(true);
-    fill();
+    showAllBlocks();
     model().setShowLog(false);
     model().setShowLog(true);
     settle();
-    const auto order = names(stops(window()));
-    EXPECT_EQ(order.indexOf(QStringLiteral("Failure report")), 1);
-    EXPECT_EQ(order.indexOf(QStringLiteral("Log")), 4);
-    EXPECT_EQ(order.last(), QStringLiteral("About"));
+    const auto order = stopNames(window());
+    EXPECT_EQ(order.indexOf(u"Failure report"_s), 1);
+    EXPECT_EQ(order.indexOf(u"Log"_s), 4);
+    EXPECT_EQ(order.last(), u"About"_s);
 }
 
 TEST_F(KeyboardTest, goesFromStopToTheLog)
 {
-    AppModelAccess::setPhase(model(), Phase::playing());
-    button(QStringLiteral("Stop"))->setFocus();
-    EXPECT_EQ(names(stops(window())),
-              (QStringList{QStringLiteral("Stop"), QStringLiteral("Show log"),
-                           QStringLiteral("Settings\u2026"), QStringLiteral("About")}));
+    enter(Phase::playing());
+    stop().setFocus();
+    EXPECT_EQ(stopNames(window()),
+              (QStringList{u"Stop"_s, u"Show log"_s, u"Settings\u2026"_s, u"About"_s}));
 }
 
 TEST_F(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
 {
-    AppModelAccess::setPhase(model(), Phase::ready());
-    auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    // A list goes by what is chosen in it.
-    EXPECT_EQ(names(stops(sheet)),
-              (QStringList{QStringLiteral("Done"), QStringLiteral("Windowed"),
-                           QStringLiteral("Game default"), QStringLiteral("Update the game"),
-                           QStringLiteral("Reinstall"), QStringLiteral("Reveal in Finder"),
-                           QStringLiteral("Remove everything")}));
+    enter(Phase::ready());
+    // The name of the resolutions is the choice.
+    EXPECT_EQ(stopNames(settings()),
+              (QStringList{u"Done"_s, u"Windowed"_s, u"Game default"_s, u"Update the game"_s,
+                           u"Reinstall"_s, u"Reveal in Finder"_s, u"Remove everything"_s}));
 }
 
 TEST_F(KeyboardTest, stopsOnceAtTheLink)
 {
-    auto& sheet = open<AboutView>(QStringLiteral("About"));
-    EXPECT_EQ(stops(sheet).size(), 2);
-    EXPECT_EQ(stops(sheet, Qt::Key_Backtab).at(1), &only<LinkLabel>(sheet));
+    EXPECT_EQ(stops(about()).size(), 2);
+    EXPECT_EQ(stops(about(), Qt::Key_Backtab).at(1), &only<LinkLabel>(about()));
 }
 
 TEST_F(KeyboardTest, drawsARingAroundWhateverHasTheFocus)
 {
-    fill();
+    showAllBlocks();
     expectARingAtEachStop(window());
-    auto& settings = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    expectARingAtEachStop(settings);
-    settings.reject();
+    expectARingAtEachStop(settings());
+    settings().reject();
     settle();
-    expectARingAtEachStop(open<AboutView>(QStringLiteral("About")));
+    expectARingAtEachStop(about());
 }
 
 } // namespace

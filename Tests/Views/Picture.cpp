@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Views/Picture.h"
 
-#include "Views/LauncherStyle.h"
-
 #include <QDir>
 #include <QPainter>
 #include <QSet>
@@ -10,12 +8,10 @@
 #include <algorithm>
 #include <ostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// What a detail shows around its widget.
-constexpr auto detailMargin = 12;
-
-/// How many different colours a picture has.
 qsizetype colorCount(const QImage& picture)
 {
     QSet<QRgb> colors;
@@ -36,19 +32,13 @@ void PrintTo(Theme theme, std::ostream* stream)
 Picture::Picture(Theme theme)
     : m_theme(theme)
 {
-    QApplication::setPalette(theme == Theme::dark ? LauncherStyle::darkPalette()
-                                                  : LauncherStyle::lightPalette());
-}
-
-Picture::~Picture()
-{
-    QApplication::setPalette(LauncherStyle::lightPalette());
+    QApplication::setPalette(theme == Theme::dark ? Palettes::dark() : Palettes::light());
 }
 
 void Picture::showAll()
 {
-    // At a fine scale the screen is a small one, and the minimum no more than that.
-    window().setMinimumSize(ContentView::leastSize);
+    // At a large scale the screen counts as small, and limits the minimum size.
+    window().setMinimumSize(ContentView::minSize);
     settle();
     window().resize(window().width(), window().widget()->height());
     settle();
@@ -83,20 +73,17 @@ QImage Picture::detail(QWidget& widget)
 {
     settle();
     auto& whole = *widget.window();
-    const auto around =
-        place(widget).adjusted(-detailMargin, -detailMargin, detailMargin, detailMargin);
-    return whole.grab(around & whole.rect()).toImage();
+    return whole.grab(rectOf(widget).adjusted(-12, -12, 12, 12) & whole.rect()).toImage();
 }
 
 void Picture::write(const QImage& picture, const std::string& name) const
 {
     EXPECT_GT(colorCount(picture), 30) << "next to nothing is drawn";
     const QDir folder(QStringLiteral(GALLERY_FOLDER));
-    EXPECT_TRUE(folder.mkpath(QStringLiteral(".")));
+    EXPECT_TRUE(folder.mkpath(u"."_s));
     const auto file =
-        QStringLiteral("%1-%2-%3x.png")
-            .arg(QString::fromStdString(name),
-                 m_theme == Theme::dark ? QStringLiteral("dark") : QStringLiteral("light"))
+        u"%1-%2-%3x.png"_s
+            .arg(QString::fromStdString(name), m_theme == Theme::dark ? u"dark"_s : u"light"_s)
             .arg(picture.devicePixelRatioF());
     EXPECT_TRUE(picture.save(folder.filePath(file)));
 }

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "Views/PlayPanelTest.h"
+#include "Views/ViewTest.h"
 
-#include "Views/StatusDot.h"
-#include "Views/SystemColors.h"
+#include "Controls/SystemColors.h"
 
 #include <QKeyEvent>
 #include <QTest>
 
 #include <ostream>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-using Color = QColor (*)(const QPalette&);
+namespace {
 
 /// What the panel shows in one phase.
 struct Row
@@ -19,7 +18,7 @@ struct Row
     const char* name;
     Phase phase;
     bool stillStarting;
-    Color dot;
+    StatusDot::Color dot;
     bool progress;
     bool play;
     bool stop;
@@ -38,66 +37,60 @@ const Row rows[]{
     {"ready", Phase::ready(), false, SystemColors::green, false, true, false, false},
     {"starting", Phase::playing(), true, SystemColors::orange, false, false, true, false},
     {"playing", Phase::playing(), false, SystemColors::green, false, false, true, false},
-    {"needs", Phase::needs(QStringLiteral("It broke.")), false, SystemColors::red, false, true,
-     false, false},
+    {"needs", Phase::needs(u"It broke."_s), false, SystemColors::red, false, true, false, false},
 };
 
-class EveryPhase : public PlayPanelTest, public testing::WithParamInterface<Row>
+class EveryPhase : public ViewTest, public testing::WithParamInterface<Row>
 {
+protected:
+    EveryPhase()
+    {
+        AppModelAccess::setStillStarting(model(), row.stillStarting);
+        enter(row.phase);
+        // Counts the presses of Play, which then starts nothing.
+        QObject::disconnect(&play(), &QPushButton::clicked, nullptr, nullptr);
+        QObject::connect(&play(), &QPushButton::clicked, &play(), [this] { ++presses; });
+    }
+
+    const Row row = GetParam();
+    int presses = 0;
 };
 
 TEST_P(EveryPhase, showsWhatBelongsToIt)
 {
-    AppModelAccess::setStillStarting(model(), GetParam().stillStarting);
-    enter(GetParam().phase);
-
-    EXPECT_EQ(only<StatusDot>().color(), GetParam().dot(window().palette()));
-    EXPECT_TRUE(label(model().statusTitle()));
-    EXPECT_TRUE(label(model().statusDetail()));
-    EXPECT_EQ(progress().isVisible(), GetParam().progress);
-    EXPECT_TRUE(play().isVisible());
-    EXPECT_EQ(play().isEnabled(), GetParam().play);
-    EXPECT_EQ(stop().isVisible(), GetParam().stop);
-    EXPECT_EQ(cancel().isVisible(), GetParam().cancel);
-    EXPECT_FALSE(showsFailure()) << "there is no report";
-    EXPECT_TRUE(disclosure().isVisible());
-}
-
-TEST_P(EveryPhase, saysTheStatusInWords)
-{
-    AppModelAccess::setStillStarting(model(), GetParam().stillStarting);
-    enter(GetParam().phase);
+    EXPECT_EQ(only<StatusDot>().color(), row.dot(window().palette()));
     EXPECT_TRUE(only<StatusDot>().accessibleName().contains(model().statusTitle()));
+    expectTexts(panel(), {{model().statusTitle(), 13, QFont::Bold},
+                          {model().statusDetail(), 12, QFont::Normal, true}});
+    EXPECT_EQ(progress().isVisible(), row.progress);
+    EXPECT_TRUE(play().isVisible());
+    EXPECT_EQ(play().isEnabled(), row.play);
+    EXPECT_EQ(stop().isVisible(), row.stop);
+    EXPECT_EQ(cancel().isVisible(), row.cancel);
+    EXPECT_FALSE(window().findChild<TextBox*>()) << "there is no report";
+    EXPECT_TRUE(disclosure().isVisible());
 }
 
 TEST_P(EveryPhase, takesReturnForPlayOnlyWherePlayIsEnabled)
 {
-    enter(GetParam().phase);
-    auto presses = 0;
-    QObject::disconnect(&play(), &QPushButton::clicked, &model(), nullptr);
-    QObject::connect(&play(), &QPushButton::clicked, &play(), [&presses] { ++presses; });
     auto expected = 0;
     const auto controls = window().findChildren<QWidget*>();
     for (auto* const control : controls) {
         if (!control->isVisible() || !(control->focusPolicy() & Qt::TabFocus))
             continue;
         control->setFocus();
-        expected += GetParam().play ? 1 : 0;
+        expected += row.play ? 1 : 0;
         QTest::keyClick(control, Qt::Key_Return);
         EXPECT_EQ(presses, expected)
             << qPrintable(control->accessibleName()) << control->metaObject()->className();
     }
-    EXPECT_EQ(expected > 3, GetParam().play) << "Return is tried from several controls";
+    EXPECT_EQ(expected > 3, row.play) << "Return is tried from several controls";
 }
 
-TEST_P(EveryPhase, takesNeitherAHeldReturnNorOneWithOtherKeys)
+TEST_P(EveryPhase, ignoresAHeldReturnAndOneWithModifiers)
 {
-    enter(GetParam().phase);
-    auto presses = 0;
-    QObject::disconnect(&play(), &QPushButton::clicked, &model(), nullptr);
-    QObject::connect(&play(), &QPushButton::clicked, &play(), [&presses] { ++presses; });
     for (auto* const control :
-         {static_cast<QWidget*>(&play()), static_cast<QWidget*>(button(QStringLiteral("About")))}) {
+         {static_cast<QWidget*>(&play()), static_cast<QWidget*>(button(u"About"))}) {
         control->setFocus();
         QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
         QCoreApplication::sendEvent(control, &repeated);
@@ -106,7 +99,7 @@ TEST_P(EveryPhase, takesNeitherAHeldReturnNorOneWithOtherKeys)
     }
     EXPECT_EQ(presses, 0);
     QTest::keyClick(&window(), Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_EQ(presses, GetParam().play ? 1 : 0);
+    EXPECT_EQ(presses, row.play ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(PlayPanel, EveryPhase, testing::ValuesIn(rows));

@@ -1,38 +1,37 @@
 // SPDX-License-Identifier: MIT
-#include "Views/PlayPanelTest.h"
-
-#include "Views/LogView.h"
-#include "Views/StatusDot.h"
-#include "Views/SystemColors.h"
+#include "Views/ViewTest.h"
 
 #include <QLayout>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+using PlayPanelTest = ViewTest;
 
 TEST_F(PlayPanelTest, isPaddedBy14AndSpacedBy12)
 {
     EXPECT_EQ(panel().layout()->contentsMargins(), QMargins(14, 14, 14, 14));
     EXPECT_EQ(panel().layout()->spacing(), 12);
-    const auto inside = place(panel()).adjusted(14, 14, -14, -14);
-    EXPECT_EQ(place(play()).left(), inside.left());
-    EXPECT_EQ(place(play()).right(), inside.right()) << "Play spans the panel";
-    const auto detail = place(*label(model().statusDetail()));
-    EXPECT_EQ(place(play()).top() - detail.bottom() - 1, 12);
+    const auto inside = rectOf(panel()).adjusted(14, 14, -14, -14);
+    EXPECT_EQ(rectOf(play()).left(), inside.left());
+    EXPECT_EQ(rectOf(play()).right(), inside.right()) << "Play spans the panel";
+    EXPECT_EQ(gapBelow(*label(model().statusDetail()), play()), 12);
 }
 
 TEST_F(PlayPanelTest, hasADotOf10Beside8OfSpace)
 {
-    const auto dot = place(only<StatusDot>());
-    const auto title = place(*label(QStringLiteral("Not downloaded")));
+    const auto& dot = only<StatusDot>();
+    const auto& title = *label(u"Not downloaded");
     EXPECT_EQ(dot.size(), QSize(10, 10));
-    EXPECT_EQ(title.left() - dot.right() - 1, 8);
-    EXPECT_NEAR(title.center().y(), dot.center().y(), 1);
+    EXPECT_EQ(gapBeside(dot, title), 8);
+    EXPECT_NEAR(rectOf(title).center().y(), rectOf(dot).center().y(), 1);
 }
 
 TEST_F(PlayPanelTest, hasALargeBoldPlayButton)
 {
-    EXPECT_EQ(play().text(), QStringLiteral("Play"));
+    EXPECT_EQ(play().text(), u"Play"_s);
     EXPECT_EQ(play().font().pixelSize(), 24);
     EXPECT_EQ(play().font().weight(), QFont::Bold);
     EXPECT_GE(play().height(), 44);
@@ -43,88 +42,35 @@ TEST_F(PlayPanelTest, hasALargeBoldPlayButton)
 TEST_F(PlayPanelTest, keepsStopAndCancel12FromPlay)
 {
     enter(Phase::playing());
-    EXPECT_EQ(place(stop()).left() - place(play()).right() - 1, 12);
+    EXPECT_EQ(gapBeside(play(), stop()), 12);
     enter(Phase::settingUp());
-    EXPECT_EQ(place(cancel()).left() - place(play()).right() - 1, 12);
-    EXPECT_NEAR(place(cancel()).center().y(), place(play()).center().y(), 1);
+    EXPECT_EQ(gapBeside(play(), cancel()), 12);
+    EXPECT_NEAR(rectOf(cancel()).center().y(), rectOf(play()).center().y(), 1);
 }
 
-TEST_F(PlayPanelTest, turnsTheBarDeterminateWithoutMovingTheBlock)
+TEST_F(PlayPanelTest, turnsTheBarDeterminateWithoutMovingIt)
 {
     enter(Phase::downloading());
     EXPECT_EQ(progress().maximum(), 0) << "indeterminate";
-    const auto before = place(progress());
+    const auto before = rectOf(progress());
     AppModelAccess::applyProgress(model(), {250, 1000, 10});
     settle();
     EXPECT_DOUBLE_EQ(double(progress().value()) / progress().maximum(), 0.25);
-    EXPECT_EQ(place(progress()), before);
-}
-
-TEST_F(PlayPanelTest, paintsTheBarFromTheFirstBytesOn)
-{
-    class Paints final : public QObject
-    {
-    public:
-        int count = 0;
-
-    protected:
-        bool eventFilter(QObject* object, QEvent* event) override
-        {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return QObject::eventFilter(object, event);
-        }
-    };
-    enter(Phase::downloading());
-    AppModelAccess::applyProgress(model(), {100, 10'000, 10});
-    settle();
-    Paints paints;
-    progress().installEventFilter(&paints);
-    AppModelAccess::applyProgress(model(), {110, 10'000, 10});
-    settle();
-    EXPECT_GT(paints.count, 0);
-    paints.count = 0;
-    AppModelAccess::applyProgress(model(), {110, 10'000, 12});
-    settle();
-    EXPECT_EQ(paints.count, 0) << "only another speed";
-}
-
-TEST_F(PlayPanelTest, fillsTheBarFromTheRightWhereTextRunsLikeThat)
-{
-    enter(Phase::downloading());
-    AppModelAccess::applyProgress(model(), {250, 1000, 10});
-    settle();
-    const auto filled = [this](double along) {
-        const auto picture = progress().grab().toImage();
-        return picture.pixelColor(int(picture.width() * along), picture.height() / 2) ==
-               SystemColors::blue(progress().palette());
-    };
-    EXPECT_TRUE(filled(0.1) && !filled(0.9));
-    progress().setLayoutDirection(Qt::RightToLeft);
-    EXPECT_TRUE(filled(0.9) && !filled(0.1));
-}
-
-TEST_F(PlayPanelTest, leavesNoBlankLineUnderTheBarWithoutAText)
-{
-    enter(Phase::settingUp());
-    EXPECT_EQ(place(play()).top() - place(progress()).bottom() - 1, 12);
+    EXPECT_EQ(rectOf(progress()), before);
 }
 
 TEST_F(PlayPanelTest, showsTheProgressTextUnderTheBar)
 {
+    AppModelAccess::setStep(model(), u"Step 1"_s);
     enter(Phase::downloading());
+    EXPECT_EQ(gapBelow(progress(), play()), 12) << "no blank line without a text";
     AppModelAccess::applyProgress(model(), {250, 1000, 10});
     settle();
-    auto* const text = label(model().progressText());
-    ASSERT_TRUE(text);
-    EXPECT_TRUE(text->isVisible());
-    EXPECT_GT(place(*text).top(), place(progress()).bottom());
-}
-
-TEST_F(PlayPanelTest, takesNoSpaceForTheProgressOutsideSetup)
-{
+    expectTexts(window(), {{u"Step 1", 12, QFont::Normal, true}});
+    expectTexts(window(), {{model().progressText(), 10, QFont::Normal, true}});
+    EXPECT_GT(rectOf(*label(model().progressText())).top(), rectOf(progress()).bottom());
     enter(Phase::ready());
-    const auto detail = place(*label(model().statusDetail()));
-    EXPECT_EQ(place(play()).top() - detail.bottom() - 1, 12);
+    EXPECT_EQ(gapBelow(*label(model().statusDetail()), play()), 12) << "no room for the bar";
 }
 
 TEST_F(PlayPanelTest, remembersInTheModelWhetherTheLogIsShown)
@@ -140,13 +86,13 @@ TEST_F(PlayPanelTest, remembersInTheModelWhetherTheLogIsShown)
     EXPECT_FALSE(window().findChild<LogView*>());
 }
 
-TEST_F(PlayPanelTest, doesNotHandTheFocusOfPlayToCancel)
+TEST_F(PlayPanelTest, doesNotMoveTheFocusFromPlayToCancel)
 {
     play().setFocus();
     enter(Phase::downloading());
     EXPECT_FALSE(cancel().hasFocus()) << "the space bar would cancel";
-    EXPECT_EQ(window().focusWidget()->accessibleName(), QStringLiteral("Downloading"))
-        << "whoever hears the window hears what Play has come to";
+    EXPECT_EQ(window().focusWidget()->accessibleName(), u"Downloading"_s)
+        << "a screen reader says what Play has started";
     enter(Phase::ready());
     EXPECT_TRUE(play().hasFocus());
 }
@@ -166,7 +112,7 @@ TEST_F(PlayPanelTest, keepsTheFocusInPlaceWhileAnotherWindowIsActive)
     EXPECT_EQ(window().focusWidget(), &play());
 }
 
-TEST_F(PlayPanelTest, leavesTheSpaceBarToTheControlThatHasTheFocus)
+TEST_F(PlayPanelTest, leavesTheSpaceBarToTheControlUnderTheFocus)
 {
     disclosure().setFocus();
     QTest::keyClick(&disclosure(), Qt::Key_Space);
@@ -174,27 +120,32 @@ TEST_F(PlayPanelTest, leavesTheSpaceBarToTheControlThatHasTheFocus)
     EXPECT_FALSE(model().isFlowRunning());
 }
 
-TEST_F(PlayPanelTest, animatesTheBarOnlyWhileItIsIndeterminateAndVisible)
+TEST_F(PlayPanelTest, scrollsALongReportInABoxOfOneHeight)
 {
-    EXPECT_FALSE(progress().isAnimating());
-    enter(Phase::settingUp());
-    EXPECT_TRUE(progress().isAnimating());
-    AppModelAccess::applyProgress(model(), {250, 1000, 10});
-    EXPECT_FALSE(progress().isAnimating());
-    AppModelAccess::clearProgress(model());
-    EXPECT_TRUE(progress().isAnimating());
-    enter(Phase::ready());
-    EXPECT_FALSE(progress().isAnimating());
+    AppModelAccess::setFailureText(model(), u"What happened: it broke."_s);
+    enter(Phase::needs(u"It broke."_s));
+    EXPECT_EQ(failure().edit().height(), 170);
+    EXPECT_EQ(failure().height(), 170 + 2 * 6);
+    EXPECT_TRUE(failure().edit().isReadOnly());
+    EXPECT_TRUE(failure().edit().textInteractionFlags() & Qt::TextSelectableByMouse);
+    EXPECT_TRUE(failure().edit().textInteractionFlags() & Qt::TextSelectableByKeyboard);
+    const auto height = panel().height();
+
+    AppModelAccess::setFailureText(model(), u"line\n"_s.repeated(300));
+    settle();
+    EXPECT_EQ(panel().height(), height);
+    EXPECT_EQ(failure().edit().text(), u"line\n"_s.repeated(300));
 }
 
-TEST_F(PlayPanelTest, followsAChangeOfThePalette)
+TEST_F(PlayPanelTest, showsAReportOnlyInNeeds)
 {
-    const auto light = only<StatusDot>().color();
-    auto dark = window().palette();
-    dark.setColor(QPalette::Window, QColor(30, 30, 32));
-    window().setPalette(dark);
-    settle();
-    EXPECT_NE(only<StatusDot>().color(), light);
+    AppModelAccess::setFailureText(model(), u"What happened: it broke."_s);
+    enter(Phase::ready());
+    EXPECT_FALSE(window().findChild<TextBox*>());
+    enter(Phase::needs(u"It broke."_s));
+    EXPECT_TRUE(failure().isVisible());
+    enter(Phase::ready());
+    EXPECT_FALSE(failure().isVisible());
 }
 
 } // namespace

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What a press of the mouse on each button of the window and its sheets does.
+// What a mouse press on each button of the window and its sheets does.
 
-#include "Support/Await.h"
-#include "Views/PlayPanelTest.h"
-
-#include "Views/AboutView.h"
-#include "Views/SettingsView.h"
+#include "Views/ViewTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QPointer>
 #include <QTest>
 
-#include <algorithm>
+using namespace Qt::StringLiterals;
 
 namespace {
 
-class PressingTest : public PlayPanelTest
+class PressingTest : public ViewTest
 {
 protected:
     static void press(QAbstractButton* target)
@@ -25,7 +21,7 @@ protected:
         QTest::mouseClick(target, Qt::LeftButton);
         settle();
     }
-    /// Puts a game and an engine on the disk; the engine is a script.
+    /// Installs a game and an engine that runs the script `engine`.
     void install(const QByteArray& engine)
     {
         installGame();
@@ -35,60 +31,57 @@ protected:
         settle();
         ASSERT_EQ(model().phase(), Phase::ready());
     }
-    bool waitForLine(const QString& line)
+    void playUntilTheEngineRuns()
     {
-        return waitUntil([&] { return logged().contains(line); });
+        press(&play());
+        ASSERT_TRUE(waitUntil([this] { return logged().contains(u"up"_s); }));
+        settle();
     }
 };
 
 TEST_F(PressingTest, playsAndStops)
 {
     install("echo up; exec sleep 60");
-    press(&play());
-    ASSERT_TRUE(waitForLine(QStringLiteral("up")));
-    settle();
+    playUntilTheEngineRuns();
     press(&stop());
     waitForFlow();
-    EXPECT_EQ(logged().constLast(), QStringLiteral("Game stopped by you."));
+    EXPECT_EQ(logged().constLast(), u"Game stopped by you."_s);
     EXPECT_EQ(model().phase(), Phase::ready());
 }
 
 TEST_F(PressingTest, cancelsTheSetup)
 {
     install("echo up; exec sleep 60");
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/.setup-v2-3.5.3-stable"))));
-    ASSERT_TRUE(QFile::remove(root(QStringLiteral("Game/tetherwalk-master/.import/a.stex"))));
-    press(&play());
-    ASSERT_TRUE(waitForLine(QStringLiteral("up")));
-    settle();
+    ASSERT_TRUE(QFile::remove(root(u"Game/.setup-v2-3.5.3-stable"_s)));
+    ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
+    playUntilTheEngineRuns();
     press(&cancel());
     waitForFlow();
-    EXPECT_EQ(logged().constLast(), QStringLiteral("Cancelled."));
+    EXPECT_EQ(logged().constLast(), u"Cancelled."_s);
     EXPECT_FALSE(model().phase().isBusy());
 }
 
 TEST_F(PressingTest, copiesTheReportAndTheLog)
 {
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    model().log().append(QStringLiteral("a line"));
-    enter(Phase::needs(QStringLiteral("It broke.")));
+    AppModelAccess::setFailureText(model(), u"What happened"_s);
+    model().log().append(u"a line"_s);
+    enter(Phase::needs(u"It broke."_s));
     press(&disclosure());
     ASSERT_TRUE(model().showLog());
     window().resize(window().width(), window().widget()->height());
     settle();
-    press(button(QStringLiteral("Copy")));
-    press(button(QStringLiteral("Copy log")));
-    EXPECT_EQ(desktop.copied,
-              (QStringList{QStringLiteral("What happened"), QStringLiteral("a line")}));
+    press(button(u"Copy"));
+    press(button(u"Copy log"));
+    EXPECT_EQ(desktop.copied, (QStringList{u"What happened"_s, u"a line"_s}));
 }
 
 TEST_F(PressingTest, opensTheSheetsAndClosesThemWithDone)
 {
-    press(button(QStringLiteral("Settings\u2026")));
-    press(button(only<SettingsView>(), QStringLiteral("Done")));
+    press(button(u"Settings\u2026"));
+    press(button(only<SettingsView>(), u"Done"));
     EXPECT_FALSE(window().findChild<SettingsView*>());
-    press(button(QStringLiteral("About")));
-    press(button(only<AboutView>(), QStringLiteral("Done")));
+    press(button(u"About"));
+    press(button(only<AboutView>(), u"Done"));
     EXPECT_FALSE(window().findChild<AboutView*>());
 }
 
@@ -96,30 +89,24 @@ TEST_F(PressingTest, asksBeforeItUpdatesReinstallsOrRemoves)
 {
     install("exit 0");
     desktop.answer = false;
-    const std::pair<QString, QString> actions[]{
-        {QStringLiteral("Update the game"), QStringLiteral("Update the game?")},
-        {QStringLiteral("Reinstall"), QStringLiteral("Reinstall everything?")},
-    };
-    for (const auto& [title, question] : actions) {
-        auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
-        press(button(sheet, title));
+    press(&only<DestructiveButton>(settings()));
+    EXPECT_EQ(desktop.questions.constLast().title, u"Remove everything?"_s);
+    ASSERT_TRUE(window().findChild<SettingsView*>()) << "the sheet stays open";
+    for (const auto& [title, question] : {std::pair(u"Update the game", u"Update the game?"_s),
+                                          std::pair(u"Reinstall", u"Reinstall everything?"_s)}) {
+        press(button(settings(), title));
         EXPECT_EQ(desktop.questions.constLast().title, question);
         EXPECT_FALSE(window().findChild<SettingsView*>()) << "the sheet closes";
     }
-    EXPECT_TRUE(QFile::exists(root(QStringLiteral("Game/tetherwalk-master/project.godot"))));
-    EXPECT_TRUE(QFile::exists(root(QStringLiteral("Engine/3.5.3-stable"))));
+    EXPECT_TRUE(QFile::exists(root(u"Game/tetherwalk-master/project.godot"_s)));
+    EXPECT_TRUE(QFile::exists(root(u"Engine/3.5.3-stable"_s)));
 }
 
 TEST_F(PressingTest, removesEverythingAndLeavesTheSheetOpen)
 {
     install("exit 0");
-    const QPointer<SettingsView> sheet(&open<SettingsView>(QStringLiteral("Settings\u2026")));
-    const auto buttons = sheet->findChildren<QAbstractButton*>();
-    const auto removal = std::find_if(buttons.begin(), buttons.end(), [](const auto* candidate) {
-        return candidate->text().startsWith(QStringLiteral("Remove everything"));
-    });
-    ASSERT_NE(removal, buttons.end());
-    press(*removal);
+    const QPointer<SettingsView> sheet(&settings());
+    press(&only<DestructiveButton>(*sheet));
     EXPECT_TRUE(waitUntil([this] { return !QDir(root()).exists(); }));
     EXPECT_TRUE(waitUntil([this] { return model().phase() == Phase::Kind::notDownloaded; }));
     EXPECT_TRUE(sheet && sheet->isVisible());
@@ -128,14 +115,12 @@ TEST_F(PressingTest, removesEverythingAndLeavesTheSheetOpen)
 TEST_F(PressingTest, revealsTheInstallFolderAndOpensTheSaves)
 {
     install("exit 0");
-    ASSERT_TRUE(QDir().mkpath(home.path(QStringLiteral("data/godot/app_userdata/Tether"))));
-    auto& sheet = open<SettingsView>(QStringLiteral("Settings\u2026"));
-    press(button(sheet, QStringLiteral("Reveal in Finder")));
+    const auto saves = home.makeFolder(u"data/godot/app_userdata/Tether"_s);
+    press(button(settings(), u"Reveal in Finder"));
     EXPECT_EQ(desktop.revealed, QStringList{root()});
-    press(button(sheet, QStringLiteral("Show saves")));
-    EXPECT_EQ(desktop.opened,
-              QStringList{home.path(QStringLiteral("data/godot/app_userdata/Tether"))});
-    EXPECT_TRUE(sheet.isVisible());
+    press(button(settings(), u"Show saves"));
+    EXPECT_EQ(desktop.opened, QStringList{saves});
+    EXPECT_TRUE(settings().isVisible());
 }
 
 } // namespace

@@ -1,47 +1,55 @@
 // SPDX-License-Identifier: MIT
 #include "Views/ViewTest.h"
 
-#include "Support/AppModelAccess.h"
-#include "Support/Await.h"
 #include "Support/MarkedLanguage.h"
-#include "Views/AboutView.h"
-#include "Views/LinkLabel.h"
-#include "Views/LogView.h"
-#include "Views/LongTextEdit.h"
-#include "Views/SettingsView.h"
-#include "Views/TextBox.h"
+
+#include "Controls/LinkLabel.h"
 
 #include <QComboBox>
-#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The language has to be there before the window is made.
-struct InThatLanguage
+/// A base class, so that the language is there before the window.
+struct InMarkedLanguage
 {
     MarkedLanguage language;
 };
 
-class TranslationTest : private InThatLanguage, public ViewTest
+class TranslationTest : private InMarkedLanguage, public ViewTest
 {
 protected:
-    static bool isTranslated(const QString& text)
+    /// Gives the model a fact, a log line and a report of its own, which nothing translates.
+    void fill()
     {
-        return text.contains(u'<') && text.contains(u'>');
+        AppModelAccess::setFacts(model(), {u"summary"_s, u"MIT"_s, u"author"_s});
+        model().log().append(u"a line of the log"_s);
+        model().setShowLog(true);
+        AppModelAccess::setFailureText(model(), u"What happened"_s);
     }
-    static QString marked(const QString& text) { return u'<' + text + u'>'; }
 
-    /// Checks every text below `parent` that is shown or told, but those in `untranslated`.
+    /// Opens a sheet by the translated title of its button.
+    template<typename Sheet>
+    Sheet& open(QStringView title)
+    {
+        button(title)->click();
+        settle();
+        return only<Sheet>();
+    }
+
+    /// Checks every text and accessible name below `parent`, except for those in `untranslated`.
     static void expectTranslated(const QWidget& parent, const QStringList& untranslated)
     {
-        EXPECT_TRUE(isTranslated(parent.windowTitle())) << qPrintable(parent.windowTitle());
         auto count = 0;
         const auto expect = [&](const QString& text) {
             if (text.isEmpty() || untranslated.contains(text))
                 return;
             ++count;
-            EXPECT_TRUE(isTranslated(text)) << qPrintable(text);
+            EXPECT_TRUE(text.contains(u'<') && text.contains(u'>')) << qPrintable(text);
         };
+        EXPECT_FALSE(parent.windowTitle().isEmpty());
+        expect(parent.windowTitle());
         const auto widgets = parent.findChildren<QWidget*>();
         for (const auto* const widget : widgets) {
             expect(widget->accessibleName());
@@ -59,55 +67,38 @@ protected:
 
 TEST_F(TranslationTest, reachesEveryTextOfTheWindowInEveryPhase)
 {
-    AppModelAccess::setFacts(
-        model(), {QStringLiteral("summary"), QStringLiteral("MIT"), QStringLiteral("author")});
-    model().log().append(QStringLiteral("a line of the log"));
-    model().setShowLog(true);
-    const QStringList ofOthers{QStringLiteral("summary"), QStringLiteral("MIT \u00b7 author"),
-                               QStringLiteral("It broke.")};
-    for (const auto& phase :
-         {Phase::notDownloaded(), Phase::downloading(), Phase::settingUp(), Phase::ready(),
-          Phase::playing(), Phase::needs(QStringLiteral("It broke."))}) {
-        AppModelAccess::setPhase(model(), phase);
-        settle();
-        expectTranslated(window(), ofOthers);
+    fill();
+    for (const auto& phase : {Phase::notDownloaded(), Phase::downloading(), Phase::settingUp(),
+                              Phase::ready(), Phase::playing(), Phase::needs(u"It broke."_s)}) {
+        enter(phase);
+        expectTranslated(window(), {u"summary"_s, u"MIT \u00b7 author"_s, u"It broke."_s});
     }
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    settle();
-    expectTranslated(window(), ofOthers);
 }
 
 TEST_F(TranslationTest, leavesTheFactsTheLogAndTheReportAsTheyAre)
 {
-    AppModelAccess::setFacts(
-        model(), {QStringLiteral("summary"), QStringLiteral("MIT"), QStringLiteral("author")});
-    model().log().append(QStringLiteral("a line of the log"));
-    model().setShowLog(true);
-    AppModelAccess::setFailureText(model(), QStringLiteral("What happened"));
-    AppModelAccess::setPhase(model(), Phase::needs(QStringLiteral("It broke.")));
-    settle();
-    EXPECT_TRUE(label(QStringLiteral("summary")));
-    EXPECT_TRUE(label(QStringLiteral("MIT \u00b7 author")));
-    EXPECT_TRUE(label(QStringLiteral("It broke.")));
-    EXPECT_EQ(only<TextBox>().edit().text(), QStringLiteral("What happened"));
-    auto& log = only<TextBox>(only<LogView>()).edit();
-    EXPECT_TRUE(waitUntil([&] { return log.text() == QStringLiteral("a line of the log"); }));
+    fill();
+    enter(Phase::needs(u"It broke."_s));
+    for (const auto* const text : {u"summary", u"MIT \u00b7 author", u"It broke."})
+        EXPECT_TRUE(label(text));
+    EXPECT_EQ(failure().edit().text(), u"What happened"_s);
+    EXPECT_TRUE(waitUntil([this] { return logBox().edit().text() == u"a line of the log"_s; }));
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
 {
-    auto& sheet = open<SettingsView>(marked(QStringLiteral("Settings\u2026")));
+    auto& sheet = open<SettingsView>(u"<Settings\u2026>");
     expectTranslated(sheet, {});
-    EXPECT_EQ(only<QComboBox>(sheet).itemText(0), marked(QStringLiteral("Game default")));
-    EXPECT_EQ(only<QComboBox>(sheet).itemText(1), QStringLiteral("1280 \u00d7 720"));
-    AppModelAccess::setInstalledSize(model(), QStringLiteral("312.4 MB"));
-    EXPECT_TRUE(button(sheet, marked(QStringLiteral("Remove everything (frees 312.4 MB)"))));
+    EXPECT_EQ(only<QComboBox>(sheet).itemText(0), u"<Game default>"_s);
+    EXPECT_EQ(only<QComboBox>(sheet).itemText(1), u"1280 \u00d7 720"_s);
+    AppModelAccess::setInstalledSize(model(), u"312.4 MB"_s);
+    EXPECT_TRUE(button(sheet, u"<Remove everything (frees 312.4 MB)>"));
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheAboutSheet)
 {
-    expectTranslated(open<AboutView>(marked(QStringLiteral("About"))),
-                     {QStringLiteral("https://github.com/brindlework-demos/tetherwalk")});
+    expectTranslated(open<AboutView>(u"<About>"),
+                     {u"https://github.com/brindlework-demos/tetherwalk"_s});
 }
 
 } // namespace

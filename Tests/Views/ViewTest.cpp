@@ -3,10 +3,12 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template<typename Widget>
-Widget* withText(const QWidget& parent, const QString& text)
+Widget* withText(const QWidget& parent, QStringView text)
 {
     const auto candidates = parent.findChildren<Widget*>();
     for (auto* const candidate : candidates) {
@@ -26,26 +28,81 @@ ViewTest::ViewTest()
     settle();
 }
 
-QAbstractButton* ViewTest::button(const QWidget& parent, const QString& text)
+ViewTest::~ViewTest()
+{
+    QApplication::setFont(m_font);
+    QApplication::setPalette(Palettes::light());
+}
+
+void ViewTest::enter(const Phase& phase)
+{
+    AppModelAccess::setPhase(model(), phase);
+    settle();
+}
+
+void ViewTest::showAllBlocks()
+{
+    AppModelAccess::fail(model(), u"The disk is full."_s);
+    model().setShowLog(true);
+    settle();
+}
+
+void ViewTest::enlargeFont()
+{
+    auto larger = QApplication::font();
+    larger.setPointSizeF(larger.pointSizeF() * 4 / 3);
+    QApplication::setFont(larger);
+    settle();
+}
+
+QAbstractButton* ViewTest::button(const QWidget& parent, QStringView text)
 {
     return withText<QAbstractButton>(parent, text);
 }
 
-QLabel* ViewTest::label(const QWidget& parent, const QString& text)
+QLabel* ViewTest::label(const QWidget& parent, QStringView text)
 {
     return withText<QLabel>(parent, text);
 }
 
 void ViewTest::settle()
 {
-    // A change of a text is followed by that of its place, and that by those around it.
+    // A changed text moves its label, and that the widgets around it.
     for (auto round = 0; round < 3; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
 }
 
-QRect ViewTest::place(const QWidget& widget)
+QRect ViewTest::rectOf(const QWidget& widget)
 {
     return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
+}
+
+int ViewTest::gapBelow(const QWidget& upper, const QWidget& lower)
+{
+    return rectOf(lower).top() - rectOf(upper).bottom() - 1;
+}
+
+int ViewTest::gapBeside(const QWidget& left, const QWidget& right)
+{
+    return rectOf(right).left() - rectOf(left).right() - 1;
+}
+
+void ViewTest::expectTexts(const QWidget& parent, std::initializer_list<ExpectedText> texts)
+{
+    auto bottom = 0;
+    for (const auto& expected : texts) {
+        SCOPED_TRACE(qPrintable(expected.text.toString()));
+        const auto* const found = label(parent, expected.text);
+        ASSERT_TRUE(found && found->isVisible());
+        EXPECT_NEAR(found->font().pointSizeF(),
+                    QApplication::font().pointSizeF() * expected.size / 13, 0.01);
+        EXPECT_EQ(found->font().weight(), expected.weight);
+        EXPECT_EQ(found->foregroundRole(),
+                  expected.isSecondary ? QPalette::PlaceholderText : QPalette::WindowText);
+        EXPECT_GT(rectOf(*found).top(), bottom);
+        EXPECT_GE(found->height(), found->heightForWidth(found->width())) << "nothing is cut";
+        bottom = rectOf(*found).bottom();
+    }
 }

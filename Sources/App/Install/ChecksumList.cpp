@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Install/ChecksumList.h"
 
-#include "Platform/Utf8.h"
+#include "Install/Http/HttpGet.h"
+#include "System/Errors.h"
+#include "System/Text.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QStringView>
 
 #include <algorithm>
 
 namespace {
+
+constexpr qint64 mebibyte = 1'048'576;
+/// Real lists have some 100 entries.
+constexpr qint64 maxListSize = mebibyte;
 
 bool isBlank(QChar character)
 {
@@ -39,11 +46,45 @@ QStringView withoutAsterisks(QStringView name)
     return name;
 }
 
+void refuseIfTooLarge(qint64 size)
+{
+    if (size > maxListSize) {
+        throw AppError(QCoreApplication::translate(
+                           "ChecksumList",
+                           "The engine checksum list is larger than %1 MiB, so it was not read.")
+                           .arg(maxListSize / mebibyte));
+    }
+}
+
 } // namespace
+
+QByteArray ChecksumList::download(const QUrl& url, std::chrono::milliseconds stallTimeout,
+                                  const std::stop_token& stop)
+{
+    QByteArray list;
+    const HttpReceiver receiver{
+        .begin =
+            [](int status, qint64 length) {
+                if (status != 200) {
+                    throw AppError(
+                        QCoreApplication::translate(
+                            "ChecksumList", "Could not read the engine checksum list (HTTP %1).")
+                            .arg(status));
+                }
+                refuseIfTooLarge(length);
+            },
+        .take =
+            [&list](QByteArrayView piece) {
+                refuseIfTooLarge(list.size() + piece.size());
+                list.append(piece);
+            }};
+    httpGet(url, receiver, stallTimeout, stop);
+    return list;
+}
 
 std::optional<QString> ChecksumList::digestFor(const QByteArray& list, const QString& fileName)
 {
-    const auto text = decodedUtf8(list);
+    const auto text = Text::decodedUtf8(list);
     std::optional<QString> digest;
     for (const auto line : QStringView(text).split(u'\n')) {
         const auto fields = fieldsOf(line);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Install/DownloadProgress.h"
 
-#include "Platform/ByteCount.h"
+#include "System/ByteCount.h"
 
 #include <QCoreApplication>
 

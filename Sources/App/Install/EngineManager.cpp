@@ -1,42 +1,64 @@
 // SPDX-License-Identifier: MIT
 #include "Install/EngineManager.h"
 
-#include "AppError.h"
-#include "Install/ChecksumDownload.h"
+#include "Install/ArchiveInstallation.h"
 #include "Install/ChecksumList.h"
-#include "Install/ClearQuarantine.h"
 #include "Install/FileDownloader.h"
-#include "Install/Finally.h"
+#include "Install/Http/WebHost.h"
 #include "Install/Paths.h"
-#include "Install/Sha512.h"
-#include "Install/TemporaryFolder.h"
-#include "Install/Unzipper.h"
-#include "Install/WebHost.h"
-#include "Platform/Cancelled.h"
-#include "Platform/FileTree.h"
-#include "Platform/HostPlatform.h"
-#include "Platform/OffThread.h"
-
-#include <QCoroFuture>
+#include "Process/ManagedProcess.h"
+#include "System/Errors.h"
+#include "System/InputFile.h"
+#include "System/OffThread.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QScopeGuard>
+
+#include <openssl/crypto.h>
+#include <openssl/evp.h>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the steps of one installation share. A copy travels with each of them.
-struct Job
+class Hash final
 {
-    EngineManager manager;
-    std::shared_ptr<FileDownloader> downloader;
-    LogCallback log;
-    std::stop_token stop;
-    EngineManager::QuarantineTool quarantineTool;
+public:
+    Hash() { check(m_context && EVP_DigestInit_ex(m_context.get(), EVP_sha512(), nullptr) == 1); }
+
+    void add(const char* bytes, std::size_t size)
+    {
+        check(EVP_DigestUpdate(m_context.get(), bytes, size) == 1);
+    }
+
+    QByteArray digest()
+    {
+        std::array<unsigned char, EVP_MAX_MD_SIZE> bytes = {};
+        unsigned int size = 0;
+        check(EVP_DigestFinal_ex(m_context.get(), bytes.data(), &size) == 1);
+        return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(size)};
+    }
+
+private:
+    static void check(bool succeeded)
+    {
+        if (!succeeded)
+            throw PlatformError(PlatformError::tr("Could not compute a SHA-512 checksum."));
+    }
+
+    struct Free
+    {
+        void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
+    };
+    std::unique_ptr<EVP_MD_CTX, Free> m_context{EVP_MD_CTX_new()};
 };
 
 QString editionName(const EngineManager& manager)
 {
-    return EngineManager::version() + (manager.mono ? QStringLiteral("-mono") : QString());
+    return EngineManager::version() + (manager.mono ? u"-mono"_s : QString());
 }
 
 /// The release archives should carry the execute bit, but an engine without it would be of no use.
@@ -46,14 +68,66 @@ void makeExecutable(const QString& program)
                                        QFileDevice::ExeGroup | QFileDevice::ExeOther);
 }
 
-/// Swaps the unpacked engine in, and gives its program. Blocks.
-QString putInPlace(const EngineManager& manager, const QString& staging,
-                   const std::stop_token& stop)
+/// Returns the published digest of the archive.
+QString readChecksum(const QString& archiveName, std::chrono::milliseconds stallTimeout,
+                     const LogCallback& log, const std::stop_token& stop)
 {
-    if (const auto program = HostPlatform::findEngineProgram(staging))
-        makeExecutable(*program);
-    const auto target = manager.folder();
-    FileTree::replace(target, staging, Paths::newStagingFolder(target), stop);
+    log(u"Reading the official checksum list (SHA512-SUMS.txt)…"_s);
+    const auto url = EngineManager::releaseURL(u"SHA512-SUMS.txt"_s);
+    const auto list = ChecksumList::download(url, stallTimeout, stop);
+    const auto digest = ChecksumList::digestFor(list, archiveName);
+    if (!digest) {
+        throw AppError(
+            QCoreApplication::translate("EngineManager", "The checksum list has no entry for %1.")
+                .arg(archiveName));
+    }
+    return *digest;
+}
+
+void verify(const InputFile& archive, const QString& expected, const LogCallback& log,
+            const std::stop_token& stop)
+{
+    log(u"Checking the download against the official SHA-512 checksum…"_s);
+    if (EngineManager::sha512(archive, stop) != expected) {
+        throw AppError(QCoreApplication::translate(
+            "EngineManager",
+            "The engine download did not match its official checksum, so it was discarded."));
+    }
+    log(u"Checksum OK."_s);
+}
+
+/// Clears the mark of a downloaded program. The tool's failure is no reason to give up: it only
+/// leaves a sentence in the log.
+void clearQuarantine(const ToolCommand& tool, const LogCallback& log, const std::stop_token& stop)
+{
+    log(u"Removing macOS's \"downloaded from the internet\" flag from the engine. It was just "
+        "verified against Godot's published checksum, and without this step macOS would block it "
+        "from opening."_s);
+    const auto status = runTool(tool.program, tool.arguments, log, stop);
+    if (status != 0) {
+        log(u"xattr finished with code %1 (usually harmless if the flag was not set)."_s.arg(
+            status));
+    }
+}
+
+QString installEngine(const EngineManager& manager, const FileDownloader& downloader,
+                      const LogCallback& log, const std::stop_token& stop, const Platform& platform)
+{
+    const auto archiveName = manager.archiveName();
+    const auto expected = readChecksum(archiveName, downloader.stallTimeout(), log, stop);
+    installArchive(
+        {.announcement = u"Downloading %1 from godotengine/godot releases…"_s.arg(archiveName),
+         .url = [&] { return EngineManager::releaseURL(archiveName); },
+         .target = manager.folder(),
+         .verify = [&](const InputFile& archive) { verify(archive, expected, log, stop); },
+         .finish =
+             [&](const QString& staging) {
+                 if (const auto tool = platform.clearQuarantineCommand(staging))
+                     clearQuarantine(*tool, log, stop);
+                 if (const auto program = platform.findEngineProgram(staging))
+                     makeExecutable(*program);
+             }},
+        downloader, log, stop, platform);
     const auto program = manager.executable();
     if (!program)
         throw AppError(QCoreApplication::translate(
@@ -61,107 +135,16 @@ QString putInPlace(const EngineManager& manager, const QString& staging,
     return *program;
 }
 
-QCoro::Task<QString> readChecksum(Job job, std::chrono::milliseconds stallLimit)
-{
-    job.log(QStringLiteral("Reading the official checksum list (SHA512-SUMS.txt)…"));
-    const auto url = EngineManager::releaseURL(QStringLiteral("SHA512-SUMS.txt"));
-    const auto archiveName = job.manager.archiveName();
-    throwIfCancelled(job.stop);
-    ChecksumDownload download(url, stallLimit);
-    const std::stop_callback cancel(job.stop, [&download] { download.cancel(); });
-    const auto pending = download.list();
-    const QByteArray list = co_await pending;
-    throwIfCancelled(job.stop);
-    const auto digest = ChecksumList::digestFor(list, archiveName);
-    if (!digest) {
-        throw AppError(
-            QCoreApplication::translate("EngineManager", "The checksum list has no entry for %1.")
-                .arg(archiveName));
-    }
-    co_return *digest;
-}
-
-QCoro::Task<QString> download(Job job, QString temporary)
-{
-    const auto archiveName = job.manager.archiveName();
-    job.log(QStringLiteral("Downloading %1 from godotengine/godot releases…").arg(archiveName));
-    const auto url = EngineManager::releaseURL(archiveName);
-    throwIfCancelled(job.stop);
-    const auto pending = job.downloader->start(url, temporary);
-    const std::stop_callback cancel(job.stop,
-                                    [downloader = job.downloader] { downloader->cancel(); });
-    const QString file = co_await pending;
-    throwIfCancelled(job.stop);
-    co_return file;
-}
-
-QCoro::Task<> verify(Job job, QString file, QString expected)
-{
-    job.log(QStringLiteral("Checking the download against the official SHA-512 checksum…"));
-    const auto hashing =
-        offThread([file, stop = job.stop] { return EngineManager::sha512(file, stop); });
-    const QString actual = co_await hashing;
-    if (actual != expected) {
-        throw AppError(QCoreApplication::translate(
-            "EngineManager",
-            "The engine download did not match its official checksum, so it was discarded."));
-    }
-    job.log(QStringLiteral("Checksum OK."));
-}
-
-QCoro::Task<QString> unpackAndPutInPlace(Job job, QString file, QString staging)
-{
-    auto unpacking = Unzipper::unzip(file, staging, job.log, job.stop);
-    co_await unpacking;
-    if (const auto tool = job.quarantineTool(staging)) {
-        auto clearing = clearQuarantine(*tool, job.log, job.stop);
-        co_await clearing;
-    }
-    const auto placing = offThread([manager = job.manager, staging, stop = job.stop] {
-        return putInPlace(manager, staging, stop);
-    });
-    const QString program = co_await placing;
-    co_return program;
-}
-
-QCoro::Task<QString> installThrough(Job job, QString temporary, QString expected)
-{
-    auto downloading = download(job, temporary);
-    const QString file = co_await downloading;
-    auto verifying = verify(job, file, expected);
-    co_await verifying;
-    const auto ensured = offThread([] { Paths::ensure(Paths::engines()); });
-    co_await ensured;
-    const auto staging = Paths::newStagingFolder(job.manager.folder());
-    auto installing = finallyOffThread(unpackAndPutInPlace(job, file, staging),
-                                       [staging] { FileTree::removeQuietly(staging); });
-    const QString program = co_await installing;
-    co_return program;
-}
-
-QCoro::Task<QString> installEngine(Job job, std::chrono::milliseconds stallLimit)
-{
-    auto reading = readChecksum(job, stallLimit);
-    const QString expected = co_await reading;
-    const auto created =
-        offThread([] { return std::make_shared<TemporaryFolder>(Paths::newTempDir()); });
-    const std::shared_ptr<TemporaryFolder> temporary = co_await created;
-    auto installing = finallyOffThread(installThrough(job, temporary->path(), expected),
-                                       [temporary] { temporary->remove(); });
-    const QString program = co_await installing;
-    co_return program;
-}
-
 } // namespace
 
 QString EngineManager::version()
 {
-    return QStringLiteral("3.5.3-stable");
+    return u"3.5.3-stable"_s;
 }
 
 QString EngineManager::archiveName() const
 {
-    return QStringLiteral("Godot_v%1_%2").arg(version(), HostPlatform::engineArchiveSuffix(mono));
+    return u"Godot_v%1_%2"_s.arg(version(), hostPlatform().engineArchiveSuffix(mono));
 }
 
 QString EngineManager::folder() const
@@ -171,37 +154,50 @@ QString EngineManager::folder() const
 
 QString EngineManager::markerFile() const
 {
-    return Paths::game() + QStringLiteral("/.setup-v2-") + editionName(*this);
+    return Paths::game() + u"/.setup-v2-"_s + editionName(*this);
 }
 
 QUrl EngineManager::releaseURL(const QString& fileName)
 {
-    const QUrl url(
-        webHost() +
-            QStringLiteral("/godotengine/godot/releases/download/%1/%2").arg(version(), fileName),
-        QUrl::StrictMode);
+    const QUrl url(webHost() +
+                       u"/godotengine/godot/releases/download/%1/%2"_s.arg(version(), fileName),
+                   QUrl::StrictMode);
     if (!url.isValid())
         throw AppError(QCoreApplication::translate("EngineManager", "Invalid engine URL."));
     return url;
 }
 
-QString EngineManager::sha512(const QString& file, const std::stop_token& stop)
+QString EngineManager::sha512(const InputFile& file, const std::stop_token& stop)
 {
-    return sha512OfFile(file, stop);
+    // Small enough to be hashed from the processor's own cache: pieces of megabytes, which have
+    // left it by then, take a fifth more time.
+    constexpr std::size_t pieceSize = 65'536;
+    // The library keeps a record for each thread, which it would free when the thread has ended;
+    // a pool thread may end so late that the program has already left.
+    const auto releaseThread = qScopeGuard(&OPENSSL_thread_stop);
+    Hash hash;
+    const auto buffer = std::make_unique_for_overwrite<char[]>(pieceSize);
+    for (qint64 offset = 0;;) {
+        throwIfCancelled(stop);
+        const auto size = file.readAt(offset, buffer.get(), pieceSize);
+        if (size == 0)
+            break;
+        hash.add(buffer.get(), size);
+        offset += static_cast<qint64>(size);
+    }
+    return QString::fromLatin1(hash.digest().toHex());
 }
 
 std::optional<QString> EngineManager::executable() const
 {
-    return HostPlatform::findEngineProgram(folder());
+    return hostPlatform().findEngineProgram(folder());
 }
 
-QCoro::Task<QString> EngineManager::install(std::shared_ptr<FileDownloader> downloader,
-                                            LogCallback log, std::stop_token stop,
-                                            std::chrono::milliseconds stallLimit,
-                                            QuarantineTool quarantineTool) const
+QFuture<QString> EngineManager::install(std::shared_ptr<const FileDownloader> downloader,
+                                        LogCallback log, std::stop_token stop,
+                                        const Platform& platform) const
 {
-    // Not a coroutine itself: the record it is called on may be gone before the work is done.
-    Job job{*this, std::move(downloader), std::move(log), std::move(stop),
-            std::move(quarantineTool)};
-    return installEngine(std::move(job), stallLimit);
+    return offThread([=, manager = *this, &platform] {
+        return installEngine(manager, *downloader, log, stop, platform);
+    });
 }

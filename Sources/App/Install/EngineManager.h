@@ -1,30 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Durations.h"
-#include "Platform/HostPlatform.h"
-#include "Platform/ToolCommand.h"
-#include "Process/LogCallback.h"
+#include "Platform/Platform.h"
+#include "Process/LogStore.h"
 
-#include <QCoroTask>
+#include <QFuture>
 #include <QString>
 #include <QUrl>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <stop_token>
 
 class FileDownloader;
+class InputFile;
 
 /// Everything about the one engine build the launcher installs: its names, its place on disk, and
 /// its installation.
 struct EngineManager
 {
-    /// Gives the tool that clears the mark of a downloaded program from the folder it is given;
-    /// none on a system without such a mark.
-    using QuarantineTool = std::function<std::optional<ToolCommand>(const QString& folder)>;
-
     /// Whether the engine's C# edition is meant.
     bool mono = false;
 
@@ -40,21 +34,18 @@ struct EngineManager
     /// The address of a file of the engine's release. Throws AppError "Invalid engine URL.".
     static QUrl releaseURL(const QString& fileName);
 
-    /// The SHA-512 of the file as 128 lower-case hexadecimal digits. Reads it in small pieces;
-    /// belongs off the main thread. Throws PlatformError, or Cancelled when `stop` is requested.
-    static QString sha512(const QString& file, const std::stop_token& stop = {});
+    /// Returns the SHA-512 of the file as 128 lower-case hexadecimal digits. Reads it in pieces, so
+    /// that memory stays flat. Throws PlatformError, or Cancelled when `stop` is requested. Blocks.
+    static QString sha512(const InputFile& file, const std::stop_token& stop = {});
 
     /// The installed engine program, if there is one. Reads the engine folder.
     [[nodiscard]] std::optional<QString> executable() const;
 
-    /// Downloads the engine, proves it against the published checksum list, unpacks it and swaps
-    /// it in at folder(); gives its program. Until the swap an installed engine stays untouched,
-    /// and no staging or temporary folder is left on any way out. Throws AppError, PlatformError,
-    /// or Cancelled when `stop` is requested before the swap. Main thread; blocks nothing.
-    /// `stallLimit` bounds the silence of the server of the checksum list; `quarantineTool` runs
-    /// between the unpacking and the swap.
-    [[nodiscard]] QCoro::Task<QString>
-    install(std::shared_ptr<FileDownloader> downloader, LogCallback log, std::stop_token stop,
-            std::chrono::milliseconds stallLimit = Durations().transferStall,
-            QuarantineTool quarantineTool = HostPlatform::clearQuarantineCommand) const;
+    /// Downloads the engine, proves it against the published checksum list, unpacks it, swaps it in
+    /// at folder() and returns its program. The work is done on the worker pool. Until the swap an
+    /// installed engine stays untouched. The future carries an AppError, a PlatformError, or
+    /// Cancelled if `stop` is requested before the swap. `platform` must outlive the work.
+    [[nodiscard]] QFuture<QString> install(std::shared_ptr<const FileDownloader> downloader,
+                                           LogCallback log, std::stop_token stop,
+                                           const Platform& platform = hostPlatform()) const;
 };

@@ -1,12 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "Install/FileDownloader.h"
 
-#include "Install/FileReceiver.h"
-#include "Install/HttpTransfer.h"
+#include "Install/Http/HttpGet.h"
+#include "Install/Paths.h"
+#include "System/ByteCount.h"
+#include "System/DiskSpace.h"
+#include "System/Errors.h"
+#include "System/FileTree.h"
+#include "System/OutputFile.h"
 
-#include <QPromise>
+#include <QCoreApplication>
+#include <QScopeGuard>
 
+#include <algorithm>
+#include <optional>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,37 +24,101 @@ namespace {
 QString fileNameOf(const QUrl& url)
 {
     const auto name = url.fileName(QUrl::FullyDecoded);
-    const auto isName = !name.isEmpty() && name != QLatin1String(".") &&
-                        name != QLatin1String("..") && !name.contains(u'/') &&
-                        !name.contains(QChar(u'\0'));
-    return isName ? name : QStringLiteral("download");
+    const auto isName = !name.isEmpty() && name != "."_L1 && name != ".."_L1 &&
+                        !name.contains(u'/') && !name.contains(QChar(u'\0'));
+    return isName ? name : u"download"_s;
+}
+
+/// Refuses a download that is larger than what is free in a folder, as soon as that is known.
+class RoomCheck final
+{
+public:
+    RoomCheck(const QUrl& url, QString folder, const OutputFile& file)
+        : m_url(url)
+        , m_folder(std::move(folder))
+        , m_free(freeSpace(file.descriptor()))
+    {
+    }
+
+    void announced(qint64 length) const
+    {
+        if (m_free && length > *m_free) {
+            throw PlatformError(
+                PlatformError::tr("The download of “%1” is %2 larger than what is "
+                                  "free in “%3”. Make room there and try again.")
+                    .arg(m_url.toDisplayString(), formattedByteCount(length - *m_free), m_folder));
+        }
+    }
+
+    /// Without a length, a download may not take all that is free: others need room, too.
+    void received(qint64 size) const
+    {
+        if (m_free && size > *m_free - std::min(reserve, *m_free / 2)) {
+            throw PlatformError(PlatformError::tr("The download of “%1” takes up all that is free "
+                                                  "in “%2”. Make room there and try again.")
+                                    .arg(m_url.toDisplayString(), m_folder));
+        }
+    }
+
+private:
+    static constexpr qint64 reserve = 64'000'000;
+
+    const QUrl& m_url;
+    const QString m_folder;
+    const std::optional<qint64> m_free;
+};
+
+/// Moves the complete file to the place of whatever has its name.
+void moveInto(const QString& destination, const QString& part)
+{
+    FileTree::remove(destination);
+    if (const auto error = FileTree::rename(part, destination); error != 0)
+        throw PlatformError::fromErrno(PlatformError::tr("save “%1”").arg(destination), error);
 }
 
 } // namespace
 
-FileDownloader::FileDownloader(ProgressCallback onProgress, std::chrono::milliseconds stallLimit)
+FileDownloader::FileDownloader(ProgressCallback onProgress, std::chrono::milliseconds stallTimeout)
     : m_onProgress(std::move(onProgress))
-    , m_stallLimit(stallLimit)
+    , m_stallTimeout(stallTimeout)
 {
 }
 
-FileDownloader::~FileDownloader() = default;
-
-QFuture<QString> FileDownloader::start(const QUrl& url, const QString& into)
+InputFile FileDownloader::start(const QUrl& url, const QString& into,
+                                const std::stop_token& stop) const
 {
-    QPromise<QString> result;
-    result.start();
-    const auto future = result.future();
-    auto receiver =
-        std::make_unique<FileReceiver>(url, into, fileNameOf(url), m_onProgress, std::move(result));
-    const std::lock_guard lock(m_mutex);
-    m_transfer = HttpTransfer::start(url, std::move(receiver), m_stallLimit);
-    return future;
-}
-
-void FileDownloader::cancel()
-{
-    const std::lock_guard lock(m_mutex);
-    if (m_transfer)
-        m_transfer->cancel();
+    const auto destination = into + u'/' + fileNameOf(url);
+    const auto part = into + u"/.download-"_s + Paths::newUuid();
+    auto removePart = qScopeGuard([&part] { FileTree::removeBestEffort(part); });
+    OutputFile file(part);
+    const RoomCheck room(url, into, file);
+    const auto start = std::chrono::steady_clock::now();
+    qint64 received = 0;
+    qint64 total = -1;
+    const HttpReceiver receiver{
+        .begin =
+            [&](int status, qint64 length) {
+                if (status != 200) {
+                    throw AppError(
+                        QCoreApplication::translate("FileDownloader",
+                                                    "The server answered with HTTP %1 for %2.")
+                            .arg(QString::number(status), url.toString(QUrl::FullyEncoded)));
+                }
+                total = length;
+                room.announced(length);
+            },
+        .take =
+            [&](QByteArrayView piece) {
+                file.write(piece);
+                received += piece.size();
+                if (total < 0)
+                    room.received(received);
+                m_onProgress(DownloadProgress::after(std::chrono::steady_clock::now() - start,
+                                                     received, total));
+            }};
+    httpGet(url, receiver, m_stallTimeout, stop);
+    auto downloaded = file.closeForReading();
+    moveInto(destination, part);
+    removePart.dismiss();
+    return {destination, std::move(downloaded)};
 }

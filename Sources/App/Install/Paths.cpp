@@ -2,9 +2,9 @@
 #include "Install/Paths.h"
 
 #include "Install/TemporaryFolder.h"
-#include "Platform/DirectoryWalk.h"
-#include "Platform/HostPlatform.h"
-#include "Platform/PlatformError.h"
+#include "Platform/Platform.h"
+#include "System/DirectoryWalk.h"
+#include "System/Errors.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,16 +17,22 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const auto stagingInfix = QStringLiteral(".new-");
-const auto temporaryPrefix = QStringLiteral("CavernyxPlatformer-");
+const auto stagingInfix = u".new-"_s;
+const auto asideInfix = u".old-"_s;
+const auto temporaryPrefix = u"CavernyxPlatformer-"_s;
+
+/// As long as every random UUID in its text form.
+constexpr qsizetype uuidLength = 36;
 
 /// The folders in `parent`, links among them, that are named `prefix` and then one of our UUIDs.
 QStringList foldersNamed(const QString& parent, const QString& prefix)
 {
     const QRegularExpression name(QRegularExpression::anchoredPattern(
-        prefix + QStringLiteral("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}")));
+        prefix + u"[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"_s));
     const QDir folder(parent);
     QStringList found;
     const auto names =
@@ -34,6 +40,13 @@ QStringList foldersNamed(const QString& parent, const QString& prefix)
     for (const auto& candidate : names.filter(name))
         found.append(folder.filePath(candidate));
     return found;
+}
+
+/// The folders beside the game and the engine builds that have `infix` and a UUID after their name.
+QStringList foldersBesideTargets(const QString& infix)
+{
+    const auto prefix = u"[^/]+"_s + QRegularExpression::escape(infix);
+    return foldersNamed(Paths::root(), prefix) + foldersNamed(Paths::engines(), prefix);
 }
 
 /// The bytes that a regular file takes on disk; 0 for anything else.
@@ -52,22 +65,22 @@ qint64 allocatedSize(const DirectoryWalk::Entry& entry)
 
 QString Paths::root()
 {
-    return HostPlatform::applicationSupport() + QStringLiteral("/Cavernyx Platformer");
+    return hostPlatform().applicationSupport() + u"/Cavernyx Platformer"_s;
 }
 
 QString Paths::game()
 {
-    return root() + QStringLiteral("/Game");
+    return root() + u"/Game"_s;
 }
 
 QString Paths::engines()
 {
-    return root() + QStringLiteral("/Engine");
+    return root() + u"/Engine"_s;
 }
 
-QString Paths::sessionLock()
+QString Paths::lockFile()
 {
-    return HostPlatform::applicationSupport() + QStringLiteral("/.Cavernyx Platformer.lock");
+    return hostPlatform().applicationSupport() + u"/.Cavernyx Platformer.lock"_s;
 }
 
 QString Paths::newUuid()
@@ -80,10 +93,22 @@ QString Paths::newStagingFolder(const QString& target)
     return target + stagingInfix + newUuid();
 }
 
+QString Paths::newAsideFolder(const QString& target)
+{
+    return target + asideInfix + newUuid();
+}
+
 QStringList Paths::stagingFolders()
 {
-    const auto prefix = QStringLiteral("[^/]+") + QRegularExpression::escape(stagingInfix);
-    return foldersNamed(root(), prefix) + foldersNamed(engines(), prefix);
+    return foldersBesideTargets(stagingInfix);
+}
+
+QList<std::pair<QString, QString>> Paths::asideFolders()
+{
+    QList<std::pair<QString, QString>> folders;
+    for (const auto& folder : foldersBesideTargets(asideInfix))
+        folders.append({folder, folder.chopped(asideInfix.size() + uuidLength)});
+    return folders;
 }
 
 TemporaryFolder Paths::newTempDir()

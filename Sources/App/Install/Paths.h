@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <stop_token>
+#include <utility>
 
 class TemporaryFolder;
 
@@ -23,9 +24,9 @@ QString game();
 /// The parent of the installed engine builds, `root()`/"Engine".
 QString engines();
 
-/// The file of the SessionLock of this installation. It lies beside the root, so that removing
+/// The file of the InstallationLock of this installation. It lies beside the root, so that removing
 /// everything does not end the lock.
-QString sessionLock();
+QString lockFile();
 
 /// A random UUID in its standard text form: upper-case, without braces.
 QString newUuid();
@@ -34,9 +35,16 @@ QString newUuid();
 /// ".new-" + a random UUID. It lies beside the target, so that moving it there is one step.
 QString newStagingFolder(const QString& target);
 
+/// A fresh name for the folder `target` while it is being replaced in two steps: `target` + ".old-"
+/// + a random UUID.
+QString newAsideFolder(const QString& target);
+
 /// The staging folders of the game and of the engines that stand on the disk now, whoever made
 /// them.
 QStringList stagingFolders();
+
+/// The folders of newAsideFolder() that stand on the disk now, each with the path of its target.
+QList<std::pair<QString, QString>> asideFolders();
 
 /// Creates and gives a new folder "CavernyxPlatformer-" + a random UUID in the system's temporary
 /// folder, readable by the user alone. Throws PlatformError.

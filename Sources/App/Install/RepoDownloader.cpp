@@ -1,106 +1,91 @@
 // SPDX-License-Identifier: MIT
 #include "Install/RepoDownloader.h"
 
-#include "AppError.h"
+#include "Install/ArchiveInstallation.h"
 #include "Install/FileDownloader.h"
-#include "Install/Finally.h"
+#include "Install/Http/WebHost.h"
 #include "Install/Paths.h"
-#include "Install/TemporaryFolder.h"
-#include "Install/Unzipper.h"
-#include "Install/WebHost.h"
-#include "Platform/Cancelled.h"
-#include "Platform/FileTree.h"
-#include "Platform/OffThread.h"
+#include "Platform/Platform.h"
 #include "Project/ProjectInspector.h"
+#include "System/Errors.h"
+#include "System/OffThread.h"
 
 #include <QCoreApplication>
-#include <QCoroFuture>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 QString branch()
 {
-    return QStringLiteral("master");
+    return u"master"_s;
 }
 
-/// Swaps the unpacked game in, and gives its project's folder. Blocks.
-QString putInPlace(const RepoDownloader::Swap& swap, const QString& staging,
-                   const std::stop_token& stop)
+bool isPlayable(const std::optional<ProjectInfo>& info)
 {
-    if (!ProjectInspector::findProject(staging))
+    return info && info->isForGodot3();
+}
+
+bool hasPlayableGame(const QString& game)
+{
+    const auto project = ProjectInspector::findProject(game);
+    return project && isPlayable(ProjectInspector::inspect(*project));
+}
+
+/// Throws what is wrong with the unpacked game, if anything is.
+void check(const QString& staging, const QString& game)
+{
+    const auto project = ProjectInspector::findProject(staging);
+    if (!project)
         throw AppError(QCoreApplication::translate(
             "RepoDownloader", "The downloaded game does not contain a project.godot file."));
+    // A first installation goes on in any case, and the setup then says what is wrong.
+    auto info = ProjectInspector::inspect(*project);
+    if (!isPlayable(info) && hasPlayableGame(game))
+        throw RefusedUpdate(std::move(info), ProjectInspector::facts(*project, staging));
+}
+
+QString install(const FileDownloader& downloader, const LogCallback& log,
+                const std::stop_token& stop)
+{
     const auto game = Paths::game();
-    swap(game, staging, Paths::newStagingFolder(game), stop);
+    installArchive(
+        {.announcement = u"Downloading the game source from GitHub (branch %1)…"_s.arg(branch()),
+         .url = RepoDownloader::zipURL,
+         .target = game,
+         .verify = [&log](const InputFile&) { log(u"Unpacking the game with ditto…"_s); },
+         .finish = [&game](const QString& staging) { check(staging, game); }},
+        downloader, log, stop, hostPlatform());
     const auto project = ProjectInspector::findProject(game);
     if (!project)
         throw AppError(QCoreApplication::translate(
             "RepoDownloader", "The game folder was unpacked but project.godot was not found."));
+    log(u"Game ready at %1"_s.arg(*project));
     return *project;
-}
-
-QCoro::Task<QString> unpackAndPutInPlace(RepoDownloader::Swap swap, QString archive,
-                                         QString staging, LogCallback log, std::stop_token stop)
-{
-    auto unpacking = Unzipper::unzip(archive, staging, log, stop);
-    co_await unpacking;
-    const auto placing = offThread([=] { return putInPlace(swap, staging, stop); });
-    const QString project = co_await placing;
-    co_return project;
-}
-
-QCoro::Task<QString> fetchThrough(QString temporary, RepoDownloader::Swap swap,
-                                  std::shared_ptr<FileDownloader> downloader, LogCallback log,
-                                  std::stop_token stop)
-{
-    log(QStringLiteral("Downloading the game source from GitHub (branch %1)…").arg(branch()));
-    const auto url = RepoDownloader::zipURL();
-    throwIfCancelled(stop);
-    const auto download = downloader->start(url, temporary);
-    const std::stop_callback cancel(stop, [downloader] { downloader->cancel(); });
-    const QString archive = co_await download;
-    throwIfCancelled(stop);
-    log(QStringLiteral("Unpacking the game with ditto…"));
-    const auto ensured = offThread([] { Paths::ensure(Paths::root()); });
-    co_await ensured;
-    const auto staging = Paths::newStagingFolder(Paths::game());
-    auto installing = finallyOffThread(unpackAndPutInPlace(swap, archive, staging, log, stop),
-                                       [staging] { FileTree::removeQuietly(staging); });
-    const QString project = co_await installing;
-    log(QStringLiteral("Game ready at %1").arg(project));
-    co_return project;
 }
 
 } // namespace
 
+RefusedUpdate::RefusedUpdate(std::optional<ProjectInfo> info, RepoFacts facts)
+    : m_info(std::move(info))
+    , m_facts(std::move(facts))
+{
+}
+
 QUrl RepoDownloader::zipURL()
 {
-    const QUrl url(
-        webHost() +
-            QStringLiteral("/brindlework-demos/tetherwalk/archive/refs/heads/%1.zip").arg(branch()),
-        QUrl::StrictMode);
+    const QUrl url(webHost() +
+                       u"/brindlework-demos/tetherwalk/archive/refs/heads/%1.zip"_s.arg(branch()),
+                   QUrl::StrictMode);
     if (!url.isValid())
         throw AppError(QCoreApplication::translate("RepoDownloader", "Invalid game URL."));
     return url;
 }
 
-QCoro::Task<QString> RepoDownloader::fetch(std::shared_ptr<FileDownloader> downloader,
-                                           LogCallback log, std::stop_token stop)
+QFuture<QString> RepoDownloader::fetch(std::shared_ptr<const FileDownloader> downloader,
+                                       LogCallback log, std::stop_token stop)
 {
-    return fetchWith(FileTree::replace, std::move(downloader), std::move(log), std::move(stop));
-}
-
-QCoro::Task<QString> RepoDownloader::fetchWith(Swap swap,
-                                               std::shared_ptr<FileDownloader> downloader,
-                                               LogCallback log, std::stop_token stop)
-{
-    const auto created =
-        offThread([] { return std::make_shared<TemporaryFolder>(Paths::newTempDir()); });
-    const std::shared_ptr<TemporaryFolder> temporary = co_await created;
-    auto fetching = finallyOffThread(fetchThrough(temporary->path(), swap, downloader, log, stop),
-                                     [temporary] { temporary->remove(); });
-    const QString project = co_await fetching;
-    co_return project;
+    return offThread([=] { return install(*downloader, log, stop); });
 }

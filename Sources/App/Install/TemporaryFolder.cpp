@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Install/TemporaryFolder.h"
 
-#include "Platform/FileTree.h"
-#include "Platform/PlatformError.h"
+#include "System/Errors.h"
+#include "System/FileTree.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,7 +78,7 @@ TemporaryFolder::~TemporaryFolder()
 void TemporaryFolder::remove() noexcept
 {
     if (!m_path.isEmpty())
-        FileTree::removeQuietly(std::exchange(m_path, QString()));
+        FileTree::removeBestEffort(std::exchange(m_path, QString()));
     m_lock.close();
 }
 
@@ -90,5 +90,5 @@ void TemporaryFolder::removeIfAbandoned(const QString& path) noexcept
         return;
     // Before the lock, another launcher may have removed the folder, and its owner made it anew.
     if (isAt(name, folder))
-        FileTree::removeQuietly(path);
+        FileTree::removeBestEffort(path);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Platform/FileDescriptor.h"
+#include "System/FileDescriptor.h"
 
 #include <QString>
 

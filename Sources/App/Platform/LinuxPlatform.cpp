@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/LinuxPlatform.h"
 
-#include "AppError.h"
-#include "Platform/HomeFolder.h"
+#include "Platform/Platform.h"
+#include "System/Errors.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,6 +10,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,7 +24,7 @@ std::optional<QString> engineProgramAmong(const QStringList& folders)
         const auto files =
             QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::NoSort);
         for (const auto& file : files) {
-            if (file.fileName().toLower().contains(QLatin1String("godot")))
+            if (file.fileName().toLower().contains("godot"_L1))
                 programs.append(file.filePath());
         }
     }
@@ -56,34 +59,39 @@ QString engineFolderName(QString projectName)
 
 } // namespace
 
-QString LinuxPlatform::applicationSupport()
+LinuxPlatform::LinuxPlatform(QString processor)
+    : m_processor(std::move(processor))
+{
+}
+
+QString LinuxPlatform::applicationSupport() const
 {
     const auto dataHome = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
     if (QDir::isAbsolutePath(dataHome))
         return QDir::cleanPath(dataHome);
-    return homeFolder() + QStringLiteral("/.local/share");
+    return homeFolder() + u"/.local/share"_s;
 }
 
-QString LinuxPlatform::engineArchiveSuffix(bool mono, const QString& processor)
+QString LinuxPlatform::engineArchiveSuffix(bool mono) const
 {
     // The C# archives are named with an underscore where the others have a dot.
-    if (processor == QLatin1String("x86_64"))
-        return mono ? QStringLiteral("mono_x11_64.zip") : QStringLiteral("x11.64.zip");
-    if (processor == QLatin1String("i386"))
-        return mono ? QStringLiteral("mono_x11_32.zip") : QStringLiteral("x11.32.zip");
+    if (m_processor == "x86_64"_L1)
+        return mono ? u"mono_x11_64.zip"_s : u"x11.64.zip"_s;
+    if (m_processor == "i386"_L1)
+        return mono ? u"mono_x11_32.zip"_s : u"x11.32.zip"_s;
     throw AppError(QCoreApplication::translate(
                        "LinuxPlatform", "The Godot 3 engine is not available for this computer's "
                                         "processor (%1).")
-                       .arg(processor));
+                       .arg(m_processor));
 }
 
-std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFolder)
+std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFolder) const
 {
     // No release of the engine nests its program deeper than one folder; the bound only ends the
     // search in a folder that holds something else.
-    constexpr int deepestLevel = 8;
+    constexpr int maxLevel = 8;
     QStringList level{engineFolder};
-    for (int depth = 0; depth <= deepestLevel && !level.isEmpty(); ++depth) {
+    for (int depth = 0; depth <= maxLevel && !level.isEmpty(); ++depth) {
         if (auto program = engineProgramAmong(level))
             return program;
         level = foldersBelow(level);
@@ -91,18 +99,17 @@ std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFol
     return std::nullopt;
 }
 
-std::optional<ToolCommand> LinuxPlatform::unpackCommand(const QString&, const QString&)
+std::optional<ToolCommand> LinuxPlatform::unpackCommand(const QString&, const QString&) const
 {
     return std::nullopt;
 }
 
-std::optional<ToolCommand> LinuxPlatform::clearQuarantineCommand(const QString&)
+std::optional<ToolCommand> LinuxPlatform::clearQuarantineCommand(const QString&) const
 {
     return std::nullopt;
 }
 
-QString LinuxPlatform::savesFolder(const QString& gameName)
+QString LinuxPlatform::savesFolder(const QString& gameName) const
 {
-    return applicationSupport() + QStringLiteral("/godot/app_userdata/") +
-           engineFolderName(gameName);
+    return applicationSupport() + u"/godot/app_userdata/"_s + engineFolderName(gameName);
 }

@@ -1,46 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/MacPlatform.h"
 
-#include "Platform/HomeFolder.h"
+#include "Platform/Platform.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isBundle(const QString& name)
 {
-    return QFileInfo(name).suffix() == QLatin1String("app");
+    return QFileInfo(name).suffix() == "app"_L1;
 }
 
 std::optional<QString> programOfBundle(const QString& bundle)
 {
-    const QDir folder(bundle + QStringLiteral("/Contents/MacOS"));
+    const QDir folder(bundle + u"/Contents/MacOS"_s);
     auto names = folder.entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
     if (names.isEmpty())
         return std::nullopt;
     std::ranges::sort(names);
     const auto engine = std::ranges::find_if(
-        names, [](const QString& name) { return name.toLower().contains(QLatin1String("godot")); });
+        names, [](const QString& name) { return name.toLower().contains("godot"_L1); });
     return folder.filePath(engine != names.end() ? *engine : names.first());
 }
 
 } // namespace
 
-QString MacPlatform::applicationSupport()
+QString MacPlatform::applicationSupport() const
 {
-    return homeFolder() + QStringLiteral("/Library/Application Support");
+    return homeFolder() + u"/Library/Application Support"_s;
 }
 
-QString MacPlatform::engineArchiveSuffix(bool mono, const QString&)
+QString MacPlatform::engineArchiveSuffix(bool mono) const
 {
-    return mono ? QStringLiteral("mono_osx.universal.zip") : QStringLiteral("osx.universal.zip");
+    return mono ? u"mono_osx.universal.zip"_s : u"osx.universal.zip"_s;
 }
 
-std::optional<QString> MacPlatform::findEngineProgram(const QString& engineFolder)
+std::optional<QString> MacPlatform::findEngineProgram(const QString& engineFolder) const
 {
     const QDir folder(engineFolder);
     const auto entries = folder.entryInfoList(
@@ -57,19 +59,17 @@ std::optional<QString> MacPlatform::findEngineProgram(const QString& engineFolde
 }
 
 std::optional<ToolCommand> MacPlatform::unpackCommand(const QString& archive,
-                                                      const QString& destination)
+                                                      const QString& destination) const
 {
-    return ToolCommand{QStringLiteral("/usr/bin/ditto"),
-                       {QStringLiteral("-x"), QStringLiteral("-k"), archive, destination}};
+    return ToolCommand{u"/usr/bin/ditto"_s, {u"-x"_s, u"-k"_s, archive, destination}};
 }
 
-std::optional<ToolCommand> MacPlatform::clearQuarantineCommand(const QString& folder)
+std::optional<ToolCommand> MacPlatform::clearQuarantineCommand(const QString& folder) const
 {
-    return ToolCommand{QStringLiteral("/usr/bin/xattr"),
-                       {QStringLiteral("-dr"), QStringLiteral("com.apple.quarantine"), folder}};
+    return ToolCommand{u"/usr/bin/xattr"_s, {u"-dr"_s, u"com.apple.quarantine"_s, folder}};
 }
 
-QString MacPlatform::savesFolder(const QString& gameName)
+QString MacPlatform::savesFolder(const QString& gameName) const
 {
-    return applicationSupport() + QStringLiteral("/Godot/app_userdata/") + gameName;
+    return applicationSupport() + u"/Godot/app_userdata/"_s + gameName;
 }

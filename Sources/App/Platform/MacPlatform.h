@@ -1,36 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Platform/ToolCommand.h"
+#include "Platform/Platform.h"
 
-#include <QString>
-#include <QSysInfo>
-
-#include <optional>
-
-/// What the launcher decides differently on macOS. LinuxPlatform answers the same questions for
-/// Linux and says what they mean; HostPlatform names the one in use.
-namespace MacPlatform {
-
-/// `~/Library/Application Support`. Throws PlatformError when the home folder is not known.
-QString applicationSupport();
-
-/// "osx.universal.zip" or "mono_osx.universal.zip"; one build serves every processor.
-QString engineArchiveSuffix(bool mono,
-                            const QString& processor = QSysInfo::currentCpuArchitecture());
-
-/// The program of the first application bundle ("*.app") in the engine folder: in its
-/// Contents/MacOS the first entry, in plain string order, whose lower-cased name contains "godot",
-/// else the first entry. Bundles are not searched for further bundles.
-std::optional<QString> findEngineProgram(const QString& engineFolder);
-
-/// `/usr/bin/ditto -x -k <archive> <destination>`.
-std::optional<ToolCommand> unpackCommand(const QString& archive, const QString& destination);
-
-/// `/usr/bin/xattr -dr com.apple.quarantine <folder>`.
-std::optional<ToolCommand> clearQuarantineCommand(const QString& folder);
-
-/// `~/Library/Application Support/Godot/app_userdata/<gameName>`.
-QString savesFolder(const QString& gameName);
-
-} // namespace MacPlatform
+/// The decisions on macOS.
+class MacPlatform final : public Platform
+{
+public:
+    /// `~/Library/Application Support`.
+    [[nodiscard]] QString applicationSupport() const override;
+    /// "osx.universal.zip" or "mono_osx.universal.zip"; one build serves every processor.
+    [[nodiscard]] QString engineArchiveSuffix(bool mono) const override;
+    /// The program of the first application bundle ("*.app") in the engine folder: in its
+    /// Contents/MacOS the first entry, in plain string order, whose lower-cased name contains
+    /// "godot", else the first entry. Bundles are not searched for further bundles.
+    [[nodiscard]] std::optional<QString>
+    findEngineProgram(const QString& engineFolder) const override;
+    /// `/usr/bin/ditto -x -k <archive> <destination>`.
+    [[nodiscard]] std::optional<ToolCommand>
+    unpackCommand(const QString& archive, const QString& destination) const override;
+    /// `/usr/bin/xattr -dr com.apple.quarantine <folder>`.
+    [[nodiscard]] std::optional<ToolCommand>
+    clearQuarantineCommand(const QString& folder) const override;
+    /// `~/Library/Application Support/Godot/app_userdata/<gameName>`.
+    [[nodiscard]] QString savesFolder(const QString& gameName) const override;
+};

@@ -1,172 +1,153 @@
 // SPDX-License-Identifier: MIT
 #include "Process/ChildProcess.h"
 
-#include "Platform/ChildSetup.h"
-#include "Platform/PlatformError.h"
-#include "Platform/ServiceThread.h"
-#include "Platform/SessionLock.h"
-#include "Process/ChildOutput.h"
+#include "System/Errors.h"
+#include "System/InstallationLock.h"
 
+#include <QFile>
+
+#include <cerrno>
+#include <climits>
 #include <csignal>
-#include <utility>
+#include <vector>
 
+#include <fcntl.h>
+#include <sys/wait.h>
 #include <unistd.h>
+#if defined(Q_OS_LINUX)
+#include <linux/close_range.h>
+#include <sys/prctl.h>
+#endif
 
 namespace {
 
-/// QProcess puts the name of the system call that failed before the reason.
-QString systemReason(const QString& error)
+PlatformError startError(const ChildProcess::Command& command, int error)
 {
-    return error.section(QStringLiteral(": "), -1);
+    return PlatformError::fromErrno(PlatformError::tr("start “%1”").arg(command.program), error);
+}
+
+// What follows runs in the child, a copy of a program with several threads: until it becomes the
+// other program, it may do nothing but make system calls.
+
+void setParentDeathSignal([[maybe_unused]] pid_t parent) noexcept
+{
+#if defined(Q_OS_LINUX)
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != parent)
+        ::kill(::getpid(), SIGKILL);
+#endif
+}
+
+void setCloseOnExec() noexcept
+{
+#if defined(Q_OS_LINUX)
+    // A library may have opened a descriptor without the mark.
+    ::close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_CLOEXEC);
+#endif
+}
+
+void unblockSignals() noexcept
+{
+    sigset_t none;
+    sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void becomeProgram(const ChildProcess::Command& command, char* const* arguments,
+                                int nullDevice, int errors, pid_t parent) noexcept
+{
+    ::setpgid(0, 0);
+    ::dup2(nullDevice, STDIN_FILENO);
+    ::dup2(command.output, STDOUT_FILENO);
+    ::dup2(command.output, STDERR_FILENO);
+    setCloseOnExec();
+    unblockSignals();
+    if (command.lifetime == ChildProcess::Lifetime::endsWithLauncher)
+        setParentDeathSignal(parent);
+    else
+        ::signal(SIGPIPE, SIG_IGN); // Nobody reads its output any more when the launcher is gone.
+    if (command.installationLock >= 0)
+        InstallationLock::holdAsGame(command.installationLock);
+    ::execv(arguments[0], arguments);
+    const auto error = errno;
+    static_cast<void>(::write(errors, &error, sizeof error));
+    ::_exit(EXIT_FAILURE);
+}
+
+// Here the child's part ends.
+
+Pipe makePipe(const ChildProcess::Command& command)
+{
+    auto pipe = Pipe::make();
+    if (!pipe)
+        throw startError(command, errno);
+    return std::move(*pipe);
+}
+
+std::vector<QByteArray> encodedArguments(const ChildProcess::Command& command)
+{
+    std::vector<QByteArray> encoded{QFile::encodeName(command.program)};
+    for (const auto& argument : command.arguments)
+        encoded.push_back(argument.toLocal8Bit());
+    return encoded;
+}
+
+/// Waits for the child's end but leaves it to reap(), so that its number is not given to another.
+void waitForEnd(pid_t id)
+{
+    siginfo_t info = {};
+    while (::waitid(P_PID, static_cast<id_t>(id), &info, WEXITED | WNOWAIT) != 0 &&
+           errno == EINTR) {
+    }
 }
 
 } // namespace
 
-std::shared_ptr<ChildProcess> ChildProcess::create(ManagedProcess::Lifetime lifetime,
-                                                   std::chrono::milliseconds killGrace,
-                                                   int sessionLock)
+ChildProcess::ChildProcess(const Command& command)
+    : m_end(makePipe(command))
 {
-    // Whoever lets go of it last may be on another thread than the one it lives on.
-    const std::shared_ptr<ChildProcess> child(new ChildProcess(lifetime, killGrace, sessionLock),
-                                              [](ChildProcess* last) { last->deleteLater(); });
-    child->moveToThread(&ServiceThread::children());
-    return child;
-}
+    auto encoded = encodedArguments(command);
+    std::vector<char*> arguments;
+    for (auto& argument : encoded)
+        arguments.push_back(argument.data());
+    arguments.push_back(nullptr);
+    // The child writes why it could not become the program; the pipe closes when it has.
+    auto errors = makePipe(command);
+    const FileDescriptor nullDevice(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    const auto parent = ::getpid();
 
-ChildProcess::ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace,
-                           int sessionLock)
-    : m_lifetime(lifetime)
-    , m_sessionLock(sessionLock)
-    , m_killTimer(this)
-{
-    m_killTimer.setSingleShot(true);
-    m_killTimer.setTimerType(Qt::PreciseTimer);
-    m_killTimer.setInterval(killGrace);
-    connect(&m_killTimer, &QTimer::timeout, this, [this] { signalGroup(SIGKILL); });
-}
-
-ChildProcess::~ChildProcess() = default;
-
-QFuture<int> ChildProcess::run(const QString& executable, const QStringList& arguments,
-                               LogCallback onLine)
-{
-    m_isRunning = true;
-    m_promise.start();
-    ServiceThread::children().post(
-        [self = shared_from_this(), executable, arguments, onLine = std::move(onLine)] {
-            self->start(executable, arguments, onLine);
-        });
-    return m_promise.future();
-}
-
-void ChildProcess::terminate()
-{
-    ServiceThread::children().post([self = shared_from_this()] {
-        if (!std::exchange(self->m_endRequested, true))
-            self->endGroup();
+    m_id = ::fork();
+    if (m_id == 0)
+        becomeProgram(command, arguments.data(), nullDevice.get(), errors.writeEnd.get(), parent);
+    if (m_id < 0)
+        throw startError(command, errno);
+    errors.writeEnd.close();
+    m_waiter = std::thread([this] {
+        waitForEnd(m_id);
+        m_end.writeEnd.close();
     });
-}
-
-void ChildProcess::start(const QString& executable, const QStringList& arguments,
-                         LogCallback onLine)
-{
-    m_self = shared_from_this();
-    try {
-        m_output = std::make_unique<ChildOutput>(std::move(onLine));
-    } catch (const PlatformError& error) {
-        fail(executable, error.message());
-        return;
+    int error = 0;
+    if (::read(errors.readEnd.get(), &error, sizeof error) == sizeof error) {
+        reap();
+        throw startError(command, error);
     }
-    m_process = std::make_unique<QProcess>();
-    setUpProcess();
-    connect(m_process.get(), &QProcess::started, this, &ChildProcess::childHasStarted);
-    connect(m_process.get(), &QProcess::finished, this, &ChildProcess::childHasEnded);
-    connect(m_process.get(), &QProcess::errorOccurred, this,
-            [this, executable](QProcess::ProcessError error) {
-                // Every other error is told by finished() too.
-                if (error == QProcess::FailedToStart)
-                    fail(executable, systemReason(m_process->errorString()));
-            });
-    m_process->start(executable, arguments, QIODevice::ReadOnly);
-    if (m_output)
-        m_output->closeWriteEnd();
 }
 
-void ChildProcess::setUpProcess()
+ChildProcess::~ChildProcess()
 {
-    // The output goes through a pipe of our own: QProcess would, at the child's end, read on for as
-    // long as any process that inherited its pipe keeps writing.
-    m_process->setProcessChannelMode(QProcess::ForwardedChannels);
-    // Nothing here has anything to say to a child; and what is typed into the terminal that the
-    // launcher was started from is not for it.
-    m_process->setStandardInputFile(QProcess::nullDevice());
-    m_process->setChildProcessModifier([lifetime = m_lifetime, sessionLock = m_sessionLock,
-                                        output = m_output->writeEnd(), parent = ::getpid()] {
-        ChildSetup::leadOwnGroup();
-        ChildSetup::sendOutputTo(output);
-        ChildSetup::withholdOtherDescriptors();
-        ChildSetup::unblockSignals();
-        if (lifetime == ManagedProcess::Lifetime::endsWithLauncher)
-            ChildSetup::endWithParent(parent);
-        else
-            ChildSetup::ignoreBrokenPipes();
-        if (sessionLock >= 0)
-            SessionLock::holdAsGame(sessionLock);
-    });
-}
-
-void ChildProcess::childHasStarted()
-{
-    m_group = m_process->processId();
-    if (m_endRequested)
-        endGroup();
-}
-
-void ChildProcess::childHasEnded(int status)
-{
-    // Whoever asked for the end meant all of the child, also what it started and left behind.
-    if (m_endRequested)
-        signalGroup(SIGKILL);
-    m_output->finish();
-    letGo();
-    m_promise.addResult(status);
-    m_promise.finish();
-}
-
-void ChildProcess::fail(const QString& executable, const QString& reason)
-{
-    letGo();
-    m_promise.setException(std::make_exception_ptr(
-        PlatformError::fromReason(PlatformError::tr("start “%1”").arg(executable), reason)));
-    m_promise.finish();
-}
-
-/// Asks the child's group to end, and kills it after the grace.
-void ChildProcess::endGroup()
-{
-    if (m_group == 0)
-        return;
-    signalGroup(SIGTERM);
-    m_killTimer.start();
+    if (m_waiter.joinable())
+        reap();
 }
 
 void ChildProcess::signalGroup(int signal) const
 {
-    if (m_group > 0)
-        ::kill(static_cast<pid_t>(-m_group), signal);
+    ::kill(-m_id, signal);
 }
 
-/// Frees what served the child. The object itself goes once its owner and the events under way
-/// have let go of it too.
-void ChildProcess::letGo()
+int ChildProcess::reap()
 {
-    m_killTimer.stop();
-    m_group = 0;
-    m_output.reset();
-    // This is called from a signal of the process.
-    if (m_process)
-        m_process.release()->deleteLater();
-    m_isRunning = false;
-    const auto self = std::exchange(m_self, nullptr);
-    Q_UNUSED(self)
+    m_waiter.join();
+    int status = 0;
+    ::waitpid(m_id, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : WTERMSIG(status);
 }

@@ -1,56 +1,58 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Process/ManagedProcess.h"
+#include "System/FileDescriptor.h"
 
-#include <QObject>
-#include <QProcess>
-#include <QPromise>
-#include <QTimer>
+#include <QStringList>
 
-#include <atomic>
-#include <memory>
+#include <thread>
 
-class ChildOutput;
+#include <sys/types.h>
 
-/// The part of a ManagedProcess that lives on the thread of the child processes and serves one of
-/// them there. It keeps itself while the child runs, whatever its owner does meanwhile.
+/// A child program that was started: the leader of a process group of its own, so that it can be
+/// signalled together with what it starts.
 ///
-/// `create`, `run`, `isRunning` and `terminate` may be called on any thread; all else happens on
-/// the thread of the child processes.
-class ChildProcess final : public QObject, public std::enable_shared_from_this<ChildProcess>
+/// It inherits the environment and the working directory. Its standard input is the null device,
+/// and no descriptor but the three standard ones is open in it.
+class ChildProcess final
 {
 public:
-    static std::shared_ptr<ChildProcess>
-    create(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace, int sessionLock);
-    ~ChildProcess() override;
+    /// Whether the child ends with the launcher, however the launcher ends, or may outlive it.
+    enum class Lifetime { endsWithLauncher, mayOutliveLauncher };
 
-    QFuture<int> run(const QString& executable, const QStringList& arguments, LogCallback onLine);
-    [[nodiscard]] bool isRunning() const { return m_isRunning; }
-    void terminate();
+    struct Command
+    {
+        QString program;
+        QStringList arguments;
+        /// Where standard output and standard error go.
+        int output = -1;
+        Lifetime lifetime = Lifetime::endsWithLauncher;
+        /// With the descriptor of a InstallationLock, the child counts as the running game.
+        int installationLock = -1;
+    };
+
+    /// Starts the program. A child that ends with the launcher also ends with the calling thread.
+    /// Throws PlatformError if it cannot be started.
+    explicit ChildProcess(const Command& command);
+    /// Blocks until the child has ended.
+    ~ChildProcess();
+
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    /// A descriptor that becomes readable when the child has ended.
+    [[nodiscard]] int endDescriptor() const { return m_end.readEnd.get(); }
+
+    /// Signals the child's process group. Also after the child's end, until reap(), when it reaches
+    /// what the child has left behind.
+    void signalGroup(int signal) const;
+
+    /// Waits for the child's end and returns its exit status; the number of the signal that ended
+    /// it, if one did. To be called once.
+    int reap();
 
 private:
-    ChildProcess(ManagedProcess::Lifetime lifetime, std::chrono::milliseconds killGrace,
-                 int sessionLock);
-
-    void start(const QString& executable, const QStringList& arguments, LogCallback onLine);
-    void setUpProcess();
-    void childHasStarted();
-    void childHasEnded(int status);
-    void fail(const QString& executable, const QString& reason);
-    void endGroup();
-    void signalGroup(int signal) const;
-    void letGo();
-
-    const ManagedProcess::Lifetime m_lifetime;
-    const int m_sessionLock;
-    std::atomic<bool> m_isRunning = false;
-    QPromise<int> m_promise;
-    std::shared_ptr<ChildProcess> m_self;
-    std::unique_ptr<ChildOutput> m_output;
-    std::unique_ptr<QProcess> m_process;
-    QTimer m_killTimer;
-    /// The process group of the child while it runs, else 0.
-    qint64 m_group = 0;
-    bool m_endRequested = false;
+    Pipe m_end;
+    pid_t m_id = 0;
+    std::thread m_waiter;
 };

@@ -1,56 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "Process/GameRunner.h"
 
-#include "Platform/OffThread.h"
 #include "Process/ImportWatcher.h"
 #include "Project/ImportChecker.h"
+#include "System/OffThread.h"
 
 #include <QCoroFuture>
-#include <QCoroTimer>
+#include <QScopeGuard>
 
-#include <QElapsedTimer>
-#include <QTimer>
-
-#include <exception>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
 #include <stop_token>
-#include <utility>
+#include <thread>
+
+using namespace Qt::StringLiterals;
 
 using std::chrono::milliseconds;
 
 namespace {
 
-/// Ends after `duration`, or as soon as `stop` is requested. Both happen on this thread.
-QCoro::Task<> sleep(milliseconds duration, std::stop_token stop)
+/// Blocks for `duration`, or until `stop` is requested.
+void sleep(milliseconds duration, const std::stop_token& stop)
 {
-    QTimer timer;
-    timer.setSingleShot(true);
-    timer.setTimerType(Qt::PreciseTimer);
-    timer.start(duration);
-    const std::stop_callback fireAtOnce(stop, [&timer] { timer.start(0); });
-    co_await timer;
+    std::mutex mutex;
+    std::unique_lock lock(mutex);
+    std::condition_variable_any().wait_for(lock, stop, duration, [] { return false; });
 }
 
-/// Counts, every `poll`, what is still to import, and asks `child` to end when `watcher` says so.
-QCoro::Task<> watchImport(QString project, LogCallback log, std::shared_ptr<ManagedProcess> child,
-                          ImportWatcher watcher, milliseconds poll, std::stop_token stop)
+/// Counts, every `poll`, what is still to import, and asks `child` to stop when `watcher` says so.
+/// Blocks until then, or until `stop` is requested.
+void watchImport(const QString& project, const LogCallback& log, ManagedProcess& child,
+                 ImportWatcher watcher, milliseconds poll, const std::stop_token& stop)
 {
-    QElapsedTimer clock;
-    clock.start();
-    while (!stop.stop_requested()) {
-        co_await sleep(poll, stop);
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    while (true) {
+        sleep(poll, stop);
+        const auto count = ImportChecker::missingCount(project, stop);
         if (stop.stop_requested())
-            break;
-        auto counting =
-            offThread([project, stop] { return ImportChecker::missingCount(project, stop); });
-        const auto count = co_await counting;
-        if (stop.stop_requested())
-            break;
-        const auto step = watcher.next(count, milliseconds(clock.elapsed()));
+            return;
+        const auto step =
+            watcher.next(count, std::chrono::duration_cast<milliseconds>(Clock::now() - start));
         for (const auto& line : step.log)
             log(line);
         if (step.verdict == ImportWatcher::Verdict::end) {
-            child->terminate();
-            break;
+            child.terminate();
+            return;
         }
     }
 }
@@ -65,11 +61,9 @@ GameRunner::GameRunner(const Durations& durations)
 QStringList GameRunner::playArguments(const QString& project, bool fullscreen,
                                       ResolutionChoice resolution)
 {
-    QStringList arguments{QStringLiteral("--path"), project,
-                          fullscreen ? QStringLiteral("--fullscreen")
-                                     : QStringLiteral("--windowed")};
+    QStringList arguments{u"--path"_s, project, fullscreen ? u"--fullscreen"_s : u"--windowed"_s};
     if (resolution != ResolutionChoice::gameDefault)
-        arguments << QStringLiteral("--resolution") << rawValue(resolution);
+        arguments << u"--resolution"_s << rawValue(resolution);
     return arguments;
 }
 
@@ -77,31 +71,18 @@ QCoro::Task<int> GameRunner::runImport(QString engine, QString project, millisec
                                        LogCallback log)
 {
     const auto child = std::make_shared<ManagedProcess>(ManagedProcess::Lifetime::endsWithLauncher,
-                                                        m_durations.killGrace);
+                                                        m_durations.killTimeout);
     process = child;
-    // No argument tells the engine to quit: it ends by itself or because the watcher says so.
-    const QStringList arguments{QStringLiteral("--path"), project, QStringLiteral("--editor"),
-                                QStringLiteral("--no-window")};
-    auto run = child->run(engine, arguments, log);
-
-    std::stop_source runHasEnded;
-    const ImportWatcher watcher(m_durations.importSettled, timeout);
-    auto watching =
-        watchImport(project, log, child, watcher, m_durations.importPoll, runHasEnded.get_token());
-
-    int status = 0;
-    std::exception_ptr failure;
-    try {
-        status = co_await run;
-    } catch (...) {
-        failure = std::current_exception();
-    }
-    runHasEnded.request_stop();
-    co_await watching;
-    process.reset();
-    if (failure)
-        std::rethrow_exception(failure);
-    co_return status;
+    const auto clear = qScopeGuard([this] { process.reset(); });
+    const auto run = offThread([=, durations = m_durations] {
+        const std::jthread watcher([&](const std::stop_token& runEnded) {
+            watchImport(project, log, *child, {durations.importSettleTime, timeout},
+                        durations.importPollInterval, runEnded);
+        });
+        // No argument tells the engine to quit: it ends by itself or because the watcher says so.
+        return child->run(engine, {u"--path"_s, project, u"--editor"_s, u"--no-window"_s}, log);
+    });
+    co_return co_await run;
 }
 
 void GameRunner::terminateCurrent()

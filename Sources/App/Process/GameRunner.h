@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Durations.h"
-#include "Process/LogCallback.h"
+#include "Process/LogStore.h"
 #include "Process/ManagedProcess.h"
 #include "Process/ResolutionChoice.h"
+#include "System/Durations.h"
 
 #include <QCoroTask>
 #include <QString>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Process/ImportWatcher.h"
 
+using namespace Qt::StringLiterals;
+
 ImportWatcher::ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds limit)
     : m_settled(settled)
     , m_limit(limit)
@@ -11,13 +13,13 @@ ImportWatcher::Step ImportWatcher::next(int count, std::chrono::milliseconds ela
 {
     Step step;
     if (count != m_lastCount)
-        step.log.append(QStringLiteral("Import progress: %1 assets still to import").arg(count));
+        step.log.append(u"Import progress: %1 assets still to import"_s.arg(count));
     m_lastCount = count;
     if (isSettled(count, elapsed)) {
-        step.log.append(QStringLiteral("All assets imported, closing the setup run."));
+        step.log.append(u"All assets imported, closing the setup run."_s);
         step.verdict = Verdict::end;
     } else if (elapsed > m_limit) {
-        step.log.append(QStringLiteral("Setup took too long, stopping it."));
+        step.log.append(u"Setup took too long, stopping it."_s);
         step.verdict = Verdict::end;
     }
     return step;

@@ -1,52 +1,59 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Durations.h"
-#include "Process/LogCallback.h"
+#include "Process/ChildProcess.h"
+#include "Process/LogStore.h"
+#include "System/Durations.h"
 
-#include <QFuture>
-#include <QString>
-#include <QStringList>
-
+#include <atomic>
 #include <chrono>
-#include <memory>
-
-class ChildProcess;
+#include <stop_token>
 
 /// Runs one child program to its end, delivers its output (standard output and standard error,
-/// interleaved as written) line by line, and tells its exit status.
+/// interleaved as written) as text lines, and returns its exit status.
 ///
-/// It is made for one run. The child is the leader of its own process group. It is served on a
-/// thread of its own that lives as long as the program, never on the caller's.
+/// It is made for one run. Whoever else holds it can stop the child meanwhile.
 class ManagedProcess final
 {
 public:
-    /// Whether the child ends with the launcher, however the launcher ends, or may outlive it.
-    enum class Lifetime { endsWithLauncher, mayOutliveLauncher };
+    using Lifetime = ChildProcess::Lifetime;
 
-    /// `killGrace` is the time from the polite request to stop to the kill. With the descriptor of
-    /// a SessionLock, which must stay open until the child has started, the child counts as the
-    /// running game.
+    /// `killTimeout` is the time from the polite request to stop to the kill. With the descriptor
+    /// of a InstallationLock, which must stay open until the child has started, the child counts as
+    /// the running game. Throws PlatformError if the system has no descriptor left.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::endsWithLauncher,
-                            std::chrono::milliseconds killGrace = Durations().killGrace,
-                            int sessionLock = -1);
-    /// Leaves a child that still runs to its end, and its future with it.
-    ~ManagedProcess();
+                            std::chrono::milliseconds killTimeout = Durations().killTimeout,
+                            int installationLock = -1);
 
-    /// Starts `executable` with `arguments`, no shell between. The future finishes once the child
-    /// has ended and all its output was delivered, with its exit status; a child ended by a signal
-    /// gives the signal's number. A child that cannot be started gives a PlatformError and no line.
-    /// `onLine` is called on a background thread.
-    QFuture<int> run(const QString& executable, const QStringList& arguments, LogCallback onLine);
+    /// Starts `program` with `arguments`, no shell between, and returns its exit status once it has
+    /// ended and all its output was delivered; the number of the signal that ended it, if one did.
+    /// `onLines` is called on this thread; a line of more than 16 KiB comes in pieces.
+    ///
+    /// What a program that ends with the launcher has left behind in its process group is killed at
+    /// its end; what the game has left behind only if the game was asked to stop.
+    ///
+    /// Throws PlatformError, and delivers nothing, if the child cannot be started. Blocks.
+    int run(const QString& program, const QStringList& arguments, const LogCallback& onLines);
 
-    /// Whether the child has been asked to run and has not ended yet. Any thread.
-    [[nodiscard]] bool isRunning() const;
+    /// Whether run() is under way. Thread-safe.
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Asks the child to stop, and kills its whole process group when it has not ended after the
-    /// grace. Asked before the child has started, it is carried out then. Harmless after its end.
-    /// Any thread; returns at once.
+    /// Asks the child's process group to stop, and kills it when the child has not ended after the
+    /// timeout. Before the child has started, it is carried out then; after its end it does
+    /// nothing. Returns at once. Thread-safe.
     void terminate();
 
 private:
-    std::shared_ptr<ChildProcess> m_child;
+    const Lifetime m_lifetime;
+    const std::chrono::milliseconds m_killTimeout;
+    const int m_installationLock;
+    std::atomic<bool> m_isRunning = false;
+    std::atomic<bool> m_isEndRequested = false;
+    /// terminate() closes its write end to wake up run().
+    Pipe m_wakeUp;
 };
+
+/// Runs a tool that ends with the launcher as ManagedProcess::run() does. When `stop` is requested
+/// the tool is asked to stop, and Cancelled is thrown once it has ended. Blocks.
+int runTool(const QString& program, const QStringList& arguments, const LogCallback& onLines,
+            const std::stop_token& stop);

@@ -3,19 +3,21 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 QString rawValue(ResolutionChoice choice)
 {
     switch (choice) {
     case ResolutionChoice::gameDefault:
         return {};
     case ResolutionChoice::r720:
-        return QStringLiteral("1280x720");
+        return u"1280x720"_s;
     case ResolutionChoice::r900:
-        return QStringLiteral("1600x900");
+        return u"1600x900"_s;
     case ResolutionChoice::r1080:
-        return QStringLiteral("1920x1080");
+        return u"1920x1080"_s;
     case ResolutionChoice::r1440:
-        return QStringLiteral("2560x1440");
+        return u"2560x1440"_s;
     }
     Q_UNREACHABLE();
 }

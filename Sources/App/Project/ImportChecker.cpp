@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Project/ImportChecker.h"
 
-#include "Platform/DirectoryWalk.h"
-#include "Platform/FileDescriptor.h"
-#include "Platform/TextFile.h"
+#include "System/DirectoryWalk.h"
+#include "System/FileDescriptor.h"
+#include "System/Text.h"
 
 #include <QByteArrayView>
 #include <QFile>
@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr std::size_t longestExtension = 4;
+constexpr std::size_t maxExtensionLength = 4;
 
 /// The characters of an extension, lower-cased, in one number.
 constexpr std::uint32_t packed(std::string_view extension)
@@ -46,7 +46,7 @@ bool isImportable(std::string_view name)
     if (dot == std::string_view::npos)
         return false;
     const auto extension = name.substr(dot + 1);
-    return extension.size() <= longestExtension &&
+    return extension.size() <= maxExtensionLength &&
            std::ranges::find(importable, packed(extension)) != importable.end();
 }
 
@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    /// The text of a regular file, under the rules of TextFile::read(), valid until the next call.
+    /// The text of a regular file, under the rules of Text::readFile(), valid until the next call.
     /// It is read anew for each of thousands of assets, every two seconds of an import: so within
     /// the open folder, into one buffer, and without a copy in another encoding.
     std::optional<std::string_view> readText(int folder, const char* name)
@@ -102,7 +102,7 @@ private:
         const FileDescriptor file(::openat(folder, name, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         struct stat status = {};
         if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
-            status.st_size > TextFile::maximumSize)
+            status.st_size > Text::maxFileSize)
             return std::nullopt;
         const auto expected = static_cast<std::size_t>(status.st_size);
         m_text.resize(std::max(m_text.size(), expected));

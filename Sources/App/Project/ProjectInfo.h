@@ -18,5 +18,22 @@ struct ProjectInfo
     QStringList features;
     bool usesCSharp = false;
 
+    /// Whether the project is made for Godot 3; else for Godot 4.
+    [[nodiscard]] bool isForGodot3() const { return configVersion <= 4; }
+
     bool operator==(const ProjectInfo&) const = default;
+};
+
+/// What the game's repository says of itself. The defaults stand in until it is downloaded, and
+/// for whatever it does not say.
+struct RepoFacts
+{
+    QString summary = QStringLiteral("A short platform/adventure demo project to teach how to "
+                                     "create similar 2D games, inspired by cavernyxes.");
+    /// The licence's name.
+    QString license = QStringLiteral("MIT License");
+    /// The whole copyright line of the licence file.
+    QString author = QStringLiteral("Quennet (Brindlework)");
+
+    bool operator==(const RepoFacts&) const = default;
 };

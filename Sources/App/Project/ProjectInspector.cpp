@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Project/ProjectInspector.h"
 
-#include "Platform/TextFile.h"
+#include "System/Text.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The path of the project file that `folder` holds if it is a project folder.
 QString projectFile(const QString& folder)
 {
-    return folder + QStringLiteral("/project.godot");
+    return folder + u"/project.godot"_s;
 }
 
 QStringList entryNames(const QString& folder)
@@ -60,7 +62,7 @@ void readLine(QStringView line, ProjectInfo& info)
     const auto value = [line](QStringView prefix) { return line.sliced(prefix.size()); };
     constexpr QStringView version = u"config_version=";
     if (line.startsWith(version)) {
-        info.configVersion = decimal(TextFile::trimmedBlanks(value(version)));
+        info.configVersion = decimal(Text::trimmedBlanks(value(version)));
     } else if (line.startsWith(u"config/name=")) {
         if (const auto items = quoted(line); !items.isEmpty())
             info.name = items.first();
@@ -73,7 +75,7 @@ void readLine(QStringView line, ProjectInfo& info)
 
 bool usesCSharp(const ProjectInfo& info, const QString& text)
 {
-    if (info.features.contains(QStringLiteral("C#")) || text.contains(u"[mono]"))
+    if (info.features.contains(u"C#"_s) || text.contains(u"[mono]"))
         return true;
     return std::ranges::any_of(entryNames(info.folder), [](const QString& name) {
         return name.endsWith(u".csproj") || name.endsWith(u".sln");
@@ -84,7 +86,7 @@ void readLicense(const QString& text, RepoFacts& facts)
 {
     QStringList lines;
     for (const auto line : QStringView(text).split(u'\n')) {
-        if (const auto trimmed = TextFile::trimmedBlanks(line); !trimmed.isEmpty())
+        if (const auto trimmed = Text::trimmedBlanks(line); !trimmed.isEmpty())
             lines.append(trimmed.toString());
     }
     if (lines.isEmpty())
@@ -103,7 +105,7 @@ void readReadme(const QString& text, RepoFacts& facts)
     for (const auto line : QStringView(text).split(u'\n')) {
         if (!line.startsWith(keyword, Qt::CaseInsensitive))
             continue;
-        if (const auto summary = TextFile::trimmedBlanks(line.sliced(keyword.size()));
+        if (const auto summary = Text::trimmedBlanks(line.sliced(keyword.size()));
             !summary.isEmpty())
             facts.summary = summary.toString();
     }
@@ -114,11 +116,11 @@ void readFacts(const QString& folder, RepoFacts& facts)
     for (const auto& name : entryNames(folder)) {
         const auto path = folder + u'/' + name;
         if (name.startsWith(u"license", Qt::CaseInsensitive)) {
-            if (const auto text = TextFile::read(path))
+            if (const auto text = Text::readFile(path))
                 readLicense(*text, facts);
         }
         if (name.startsWith(u"readme", Qt::CaseInsensitive)) {
-            if (const auto text = TextFile::read(path))
+            if (const auto text = Text::readFile(path))
                 readReadme(*text, facts);
         }
     }
@@ -144,13 +146,13 @@ std::optional<QString> ProjectInspector::findProject(const QString& root)
 
 std::optional<ProjectInfo> ProjectInspector::inspect(const QString& folder)
 {
-    const auto text = TextFile::read(projectFile(folder));
+    const auto text = Text::readFile(projectFile(folder));
     if (!text)
         return std::nullopt;
     ProjectInfo info;
     info.folder = folder;
     for (const auto line : QStringView(*text).split(u'\n'))
-        readLine(TextFile::trimmedBlanks(line), info);
+        readLine(Text::trimmedBlanks(line), info);
     if (info.configVersion == 0)
         return std::nullopt;
     info.usesCSharp = usesCSharp(info, *text);
@@ -159,15 +161,15 @@ std::optional<ProjectInfo> ProjectInspector::inspect(const QString& folder)
 
 RepoFacts ProjectInspector::facts(const QString& folder, const QString& stopFolder)
 {
-    constexpr int mostFolders = 6;
+    constexpr int maxFolders = 6;
     const auto stop = QDir::cleanPath(stopFolder);
     auto current = QDir::cleanPath(folder);
     RepoFacts facts;
-    for (int count = 0; count < mostFolders; ++count) {
+    for (int count = 0; count < maxFolders; ++count) {
         readFacts(current, facts);
         if (current == stop || current == u"/")
             break;
-        current = QDir::cleanPath(current + QStringLiteral("/.."));
+        current = QDir::cleanPath(current + u"/.."_s);
     }
     return facts;
 }

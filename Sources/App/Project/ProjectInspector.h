@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Project/ProjectInfo.h"
-#include "Project/RepoFacts.h"
 
 #include <optional>
 

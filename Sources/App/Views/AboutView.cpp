@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "Views/AboutView.h"
 
-#include "Views/LinkLabel.h"
-#include "Views/Stack.h"
-#include "Views/TextLabel.h"
+#include "Controls/LinkLabel.h"
+#include "Controls/TextLabel.h"
 
 #include <QUrl>
 
-namespace {
-
-constexpr auto spacing = 10;
-constexpr auto padding = 20;
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 AboutView::AboutView(QWidget* parent)
     : Sheet(tr("About"), parent)
 {
-    stackVertically(
-        *this, spacing, padding,
+    setContent(
+        10,
         {
-            new TextLabel(TextStyle::title2, QFont::Bold, tr("About")),
+            new TextLabel(TextStyle::title2, tr("About")),
             new TextLabel(
                 TextStyle::body,
                 tr("The game \"Snaglet!\" is made by Quennet and the Brindlework team, 2019, and "
@@ -28,9 +22,9 @@ AboutView::AboutView(QWidget* parent)
                    "is only a launcher that downloads it.")),
             new TextLabel(TextStyle::callout,
                           tr("Based on brindlework-demos/tetherwalk, MIT License.")),
-            leading(new LinkLabel(
-                TextStyle::body,
-                QUrl(QStringLiteral("https://github.com/brindlework-demos/tetherwalk")))),
+            {new LinkLabel(TextStyle::body,
+                           QUrl(u"https://github.com/brindlework-demos/tetherwalk"_s)),
+             Qt::AlignLeading},
             new TextLabel(
                 TextStyle::body,
                 tr("The Godot engine is free software under the MIT License (godotengine.org). It "
@@ -41,6 +35,5 @@ AboutView::AboutView(QWidget* parent)
                 tr("Nothing is sent anywhere except the two downloads (the game from GitHub and "
                    "the engine from GitHub releases)."),
                 TextTone::secondary),
-            doneRow(),
         });
 }

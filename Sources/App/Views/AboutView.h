@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Views/Sheet.h"
+#include "Controls/Sheet.h"
 
-/// The sheet that credits the game and the engine and says what leaves the machine. It reads
-/// nothing from the model.
+/// The sheet that credits the game and the engine and says what leaves the machine.
 class AboutView final : public Sheet
 {
     Q_OBJECT

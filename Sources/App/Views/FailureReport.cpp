@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Views/FailureReport.h"
 
-#include "AppModel.h"
-#include "Views/BorderedButton.h"
-#include "Views/LongTextEdit.h"
-#include "Views/Stack.h"
-#include "Views/SystemColors.h"
-#include "Views/TextBox.h"
-
-namespace {
-
-constexpr auto spacing = 6;
-constexpr auto boxHeight = 170;
-
-QColor boxTint(const QPalette& palette)
-{
-    return SystemColors::withOpacity(SystemColors::red(palette), 0.08);
-}
-
-} // namespace
+#include "Controls/Boxes.h"
+#include "Controls/Buttons.h"
+#include "Controls/LongTextEdit.h"
+#include "Controls/Stack.h"
+#include "Controls/SystemColors.h"
+#include "Model/AppModel.h"
 
 FailureReport::FailureReport(AppModel& model)
     : m_model(model)
@@ -29,11 +17,12 @@ FailureReport::FailureReport(AppModel& model)
 
 void FailureReport::build()
 {
-    m_box = new TextBox(tr("Failure report"), boxHeight, boxTint);
-    auto* const copy = new BorderedButton(tr("Copy"));
-    connect(copy, &QPushButton::clicked, &m_model, &AppModel::copyFailure);
-    stackVertically(*this, spacing, 0, {m_box, leading(copy)});
-    // What is made later would otherwise come last when the keyboard goes through the window.
+    m_box = new TextBox(tr("Failure report"), 170, [](const QPalette& palette) {
+        return SystemColors::withOpacity(SystemColors::red(palette), 0.08);
+    });
+    auto* const copy = new BorderedButton(tr("Copy"), [this] { m_model.copyFailure(); });
+    stackVertically(*this, {.spacing = 6}, {m_box, {copy, Qt::AlignLeading}});
+    // Widgets made later come last in the tab order otherwise.
     setTabOrder(previousInFocusChain(), &m_box->edit());
     setTabOrder(&m_box->edit(), copy);
 }

@@ -6,8 +6,8 @@
 class AppModel;
 class TextBox;
 
-/// The report of the failure that the player is told of, and a button that copies it. It shows
-/// only while the model is in need and has a report.
+/// The failure report and a button that copies it. Visible only in the phase `needs`, while there
+/// is a report.
 class FailureReport final : public QWidget
 {
     Q_OBJECT
@@ -21,6 +21,6 @@ private:
     void refresh();
 
     AppModel& m_model;
-    /// There once a report has been shown: it costs memory, and most players never see one.
+    /// Null until the first report is shown: most players never see one, and it costs memory.
     TextBox* m_box = nullptr;
 };

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Views/HeaderArt.h"
 
-#include "Views/ContinuousCorners.h"
-#include "Views/Glyphs.h"
-#include "Views/Mirroring.h"
-#include "Views/SoftShadow.h"
-#include "Views/Stack.h"
-#include "Views/SystemColors.h"
-#include "Views/TextLabel.h"
-#include "Views/TypeScale.h"
+#include "Controls/Drawing.h"
+#include "Controls/Glyphs.h"
+#include "Controls/Stack.h"
+#include "Controls/SystemColors.h"
+#include "Controls/TextLabel.h"
+#include "Controls/TypeScale.h"
 
 #include <QBoxLayout>
 #include <QLinearGradient>
@@ -17,27 +15,18 @@
 
 namespace {
 
-constexpr auto bannerHeight = 150;
-constexpr auto bannerRadius = 16;
-constexpr auto barCount = 6;
-constexpr auto barSpacing = 18;
-constexpr auto barRadius = 3;
-constexpr auto foregroundSpacing = 14;
-constexpr auto textSpacing = 2;
-constexpr auto titleSize = 30;
-/// The symbol at a font size of 56 is this large, and the room its shadow may take around it.
+/// The size of the symbol at a font size of 56, and the room around it for its shadow.
 constexpr auto symbolSize = QSize(76, 56);
 constexpr auto shadowRadius = 6;
 constexpr auto shadowMargin = 2 * shadowRadius;
 
-/// The texts keep their colours on the banner, in light and dark alike.
-QWidget* tinted(TextLabel* text, const QColor& color)
+/// Gives a text one colour for light and dark, as the banner looks the same in both.
+void setColor(TextLabel& text, const QColor& color)
 {
-    text->setWordWrap(false);
-    auto colors = text->palette();
-    colors.setColor(text->foregroundRole(), color);
-    text->setPalette(colors);
-    return text;
+    text.setWordWrap(false);
+    auto colors = text.palette();
+    colors.setColor(text.foregroundRole(), color);
+    text.setPalette(colors);
 }
 
 QLinearGradient background(const QRectF& rect)
@@ -49,20 +38,23 @@ QLinearGradient background(const QRectF& rect)
     return gradient;
 }
 
-/// The platforms, centred and standing on the bottom edge of `rect`.
+/// The six platforms, centred and standing on the bottom edge of `rect`.
 QPainterPath silhouette(const QRectF& rect)
 {
-    const auto sizes = HeaderArt::barSizes();
-    auto width = barSpacing * (barCount - 1);
-    for (const auto& size : sizes)
-        width += size.width();
-
+    constexpr auto count = 6;
+    constexpr auto spacing = 18;
+    QList<QSize> sizes;
+    auto width = spacing * (count - 1);
+    for (auto i = 0; i < count; ++i) {
+        sizes.append({i * 23 % 50 + 40, i * 17 % 34 + 10});
+        width += sizes.constLast().width();
+    }
     QPainterPath bars;
     auto left = rect.center().x() - width / 2.0;
     for (const auto& size : sizes) {
         const QRectF bar(QPointF(left, rect.bottom() - size.height()), size);
-        bars.addPath(continuousRoundedRect(bar, barRadius));
-        left += size.width() + barSpacing;
+        bars.addPath(continuousRoundedRect(bar, 3));
+        left += size.width() + spacing;
     }
     return bars;
 }
@@ -70,40 +62,32 @@ QPainterPath silhouette(const QRectF& rect)
 } // namespace
 
 HeaderArt::HeaderArt()
-    : m_symbolPlace(new QWidget)
+    : m_symbolRoom(new QWidget)
 {
-    m_symbolPlace->setFixedSize(symbolSize);
-    auto* const title = new TextLabel(titleSize, QFont::Bold, tr("Cavernyx Platformer"));
+    m_symbolRoom->setFixedSize(symbolSize);
+    auto* const title =
+        new TextLabel([] { return systemFont(30, QFont::Bold); }, tr("Cavernyx Platformer"));
     auto* const subtitle =
         new TextLabel(TextStyle::subheadline, tr("A 2D grappling-hook adventure"));
-    auto* const texts =
-        verticalStack(textSpacing, {
-                                       tinted(title, Qt::white),
-                                       tinted(subtitle, QColor::fromRgbF(1, 1, 1, 0.85F)),
-                                   });
-    auto* const foreground = horizontalStack(foregroundSpacing, {m_symbolPlace, centred(texts)});
-    stackVertically(*this, 0, 0, {centred(foreground)});
-    setFixedHeight(bannerHeight);
-}
-
-QList<QSize> HeaderArt::barSizes()
-{
-    QList<QSize> sizes;
-    for (auto i = 0; i < barCount; ++i)
-        sizes.append({i * 23 % 50 + 40, i * 17 % 34 + 10});
-    return sizes;
+    setColor(*title, Qt::white);
+    setColor(*subtitle, QColor::fromRgbF(1, 1, 1, 0.85F));
+    auto* const texts = verticalStack({.spacing = 2}, {title, subtitle});
+    auto* const foreground =
+        horizontalStack({.spacing = 14}, {m_symbolRoom, {texts, Qt::AlignCenter}});
+    stackVertically(*this, {}, {{foreground, Qt::AlignCenter}});
+    setFixedHeight(150);
 }
 
 void HeaderArt::paintEvent(QPaintEvent*)
 {
-    const auto banner = continuousRoundedRect(rect(), bannerRadius);
+    const auto banner = continuousRoundedRect(rect(), 16);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
     if (isRightToLeft())
         mirror(painter, width());
     painter.fillPath(banner, background(rect()));
-    // Too narrow a banner would let the outer platforms reach past its corners.
+    // In a narrow banner the outer platforms reach into the rounded corners.
     painter.fillPath(silhouette(rect()).intersected(banner),
                      SystemColors::withOpacity(Qt::black, 0.25));
     painter.restore();
@@ -121,7 +105,7 @@ void HeaderArt::paintSymbol(QPainter& painter)
         m_symbolShadow = softShadow(glyph, room, scale, shadowRadius,
                                     SystemColors::withOpacity(Qt::black, 0.33));
     }
-    painter.translate(m_symbolPlace->mapTo(this, QPoint(-shadowMargin, -shadowMargin)));
+    painter.translate(m_symbolRoom->mapTo(this, QPoint(-shadowMargin, -shadowMargin)));
     painter.drawImage(0, 0, m_symbolShadow);
     painter.fillPath(glyph, Qt::white);
 }

@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// The banner: a gradient with a row of dark platforms along its bottom, and before them the
-/// program's symbol and name. Pure drawing with two fixed texts.
+/// The banner: a gradient with a row of dark platforms along its bottom, and in front of them a
+/// game controller, the program's name and a subtitle.
 class HeaderArt final : public QWidget
 {
     Q_OBJECT
@@ -13,17 +13,15 @@ class HeaderArt final : public QWidget
 public:
     HeaderArt();
 
-    /// The platforms' sizes from left to right.
-    [[nodiscard]] static QList<QSize> barSizes();
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void paintSymbol(QPainter& painter);
 
-    /// Keeps the symbol's place beside the texts; the symbol's shadow reaches beyond it.
-    QWidget* m_symbolPlace;
-    /// Drawn once for each resolution of the screen.
+    /// Takes the symbol's room in the layout; the banner paints it there, as its shadow reaches
+    /// beyond that room.
+    QWidget* m_symbolRoom;
+    /// Drawn once for each device pixel ratio.
     QImage m_symbolShadow;
 };

@@ -4,15 +4,13 @@
 #include <QWidget>
 
 class AppModel;
-class LogStore;
 class LongTextEdit;
 class QPushButton;
-class TextBox;
 
-/// The launcher's log as one block of text that can be selected, with a button that copies it.
+/// The log as one selectable text, and a button that copies all of it.
 ///
-/// It starts at the top and stays where the reader leaves it, however much comes after or falls out
-/// before. A log that has settled costs nothing.
+/// The view starts at the top and never scrolls by itself, neither when lines are added nor when
+/// the oldest are dropped.
 class LogView final : public QWidget
 {
     Q_OBJECT
@@ -20,16 +18,12 @@ class LogView final : public QWidget
 public:
     explicit LogView(AppModel& model);
 
-    /// Puts the log after `widget` on the keyboard's way through the window.
+    /// Puts the log right after `widget` in the tab order.
     void followInTabOrder(QWidget& widget);
 
 private:
-    void catchUp();
+    void showNewLines(qsizetype dropped, const QStringList& added);
 
-    LogStore& m_log;
-    TextBox* m_box;
-    LongTextEdit& m_edit;
+    LongTextEdit* m_edit = nullptr;
     QPushButton* m_copy;
-    /// The first line that the box has, counted as LogStore::firstLineNumber() counts.
-    qint64 m_firstLine = 0;
 };

@@ -1,24 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Views/PlayPanel.h"
 
-#include "AppModel.h"
-#include "Views/BorderedButton.h"
+#include "Controls/Buttons.h"
+#include "Controls/ProgressBar.h"
+#include "Controls/Stack.h"
+#include "Controls/StatusDot.h"
+#include "Controls/SystemColors.h"
+#include "Controls/TextLabel.h"
+#include "Model/AppModel.h"
 #include "Views/FailureReport.h"
-#include "Views/LogDisclosure.h"
-#include "Views/PlayButton.h"
-#include "Views/ProgressBar.h"
-#include "Views/Stack.h"
-#include "Views/StatusDot.h"
-#include "Views/SystemColors.h"
-#include "Views/TextLabel.h"
+#include "Views/LogView.h"
+
+#include <QLayout>
+
+#include <utility>
 
 namespace {
-
-constexpr auto spacing = 12;
-constexpr auto padding = 14;
-constexpr auto cornerRadius = 12;
-constexpr auto statusSpacing = 8;
-constexpr auto buttonSpacing = 12;
 
 StatusDot::Color statusColor(const AppModel& model)
 {
@@ -41,56 +38,42 @@ StatusDot::Color statusColor(const AppModel& model)
 } // namespace
 
 PlayPanel::PlayPanel(AppModel& model)
-    : RoundedBox(cornerRadius, SystemColors::panel)
+    : RoundedBox(12, SystemColors::panel)
     , m_model(model)
+    , m_dot(new StatusDot(statusColor(model)))
+    , m_title(new TextLabel(TextStyle::headline))
+    , m_detail(new TextLabel(TextStyle::callout, {}, TextTone::secondary))
+    , m_progress(new ProgressBar(tr("Progress")))
+    , m_progressText(new TextLabel(TextStyle::caption, {}, TextTone::secondary))
+    , m_progressBlock(verticalStack({}, {m_progress, m_progressText}))
+    , m_play(new PlayButton(tr("Play"), [this] { m_model.play(); }))
+    , m_stop(new BorderedButton(tr("Stop"), [this] { m_model.stopGame(); }))
+    , m_cancel(new BorderedButton(tr("Cancel"), [this] { m_model.cancelSetup(); }))
+    , m_showLog(new DisclosureButton(tr("Show log")))
+    , m_logBlock(verticalStack({.spacing = 0}, {{m_showLog, Qt::AlignLeading}}))
 {
-    stackVertically(
-        *this, spacing, padding,
-        {
-            horizontalStack(statusSpacing,
-                            {
-                                m_dot = new StatusDot(statusColor(m_model)),
-                                m_title = new TextLabel(TextStyle::headline),
-                                spacer(),
-                            }),
-            m_detail = new TextLabel(TextStyle::callout, {}, TextTone::secondary),
-            m_progressBlock = verticalStack(
-                defaultSpacing,
-                {
-                    m_progress = new ProgressBar(tr("Progress")),
-                    m_progressText = new TextLabel(TextStyle::caption, {}, TextTone::secondary),
-                }),
-            horizontalStack(buttonSpacing,
-                            {
-                                m_play = new PlayButton,
-                                m_stop = new BorderedButton(tr("Stop")),
-                                m_cancel = new BorderedButton(tr("Cancel")),
-                            }),
-            new FailureReport(m_model),
-            m_log = new LogDisclosure(m_model),
-        });
     m_title->setWordWrap(false);
+    stackVertically(*this, {.spacing = 12, .padding = 14},
+                    {
+                        horizontalStack({}, {m_dot, m_title, spacer}),
+                        m_detail,
+                        m_progressBlock,
+                        horizontalStack({.spacing = 12}, {m_play, m_stop, m_cancel}),
+                        new FailureReport(m_model),
+                        m_logBlock,
+                    });
 
-    connect(m_play, &QPushButton::clicked, &m_model, &AppModel::play);
-    connect(m_stop, &QPushButton::clicked, &m_model, &AppModel::stopGame);
-    connect(m_cancel, &QPushButton::clicked, &m_model, &AppModel::cancelSetup);
-    connect(m_log, &LogDisclosure::disclosed, this, &PlayPanel::disclosed);
+    connect(m_showLog, &QPushButton::toggled, &m_model, &AppModel::setShowLog);
     connect(&m_model, &AppModel::changed, this, &PlayPanel::refresh);
     refresh();
 }
 
-void PlayPanel::pressDefaultButton()
-{
-    m_play->click();
-}
-
-// The setters of the widgets compare before they change anything, so that refreshing all of the
-// panel after each change of the model costs next to nothing.
 void PlayPanel::refresh()
 {
     refreshStatus();
     refreshProgress();
     refreshButtons();
+    refreshLog();
 }
 
 void PlayPanel::refreshStatus()
@@ -100,8 +83,8 @@ void PlayPanel::refreshStatus()
     m_dot->setStatus(statusColor(m_model), tr("Status: %1 \u2013 %2").arg(title, detail));
     m_title->setText(title);
     m_detail->setText(detail);
-    // The panel holds the focus while Play is pressed and disabled. Each of these tells assistive
-    // technology of a change, also where there is none.
+    // The panel has the focus while Play is disabled. These setters notify assistive technology
+    // even of an unchanged value.
     if (accessibleName() != title)
         setAccessibleName(title);
     if (accessibleDescription() != detail)
@@ -124,8 +107,8 @@ void PlayPanel::refreshButtons()
     const auto busy = m_model.phase().isBusy();
     const auto stop = m_model.phase() == Phase::Kind::playing;
     const auto cancel = m_model.phase().isSetup();
-    // A button that goes while it has the focus would hand that to the next one, where a second
-    // press of the space bar might cancel what the first one started. The panel takes it instead.
+    // The panel takes the focus from a button that is disabled or hidden. Qt would move it to the
+    // next one, where a second press of the space bar might cancel what the first one started.
     const auto* const focus = window()->focusWidget();
     if ((busy && focus == m_play) || (!stop && focus == m_stop) || (!cancel && focus == m_cancel))
         setFocus(Qt::OtherFocusReason);
@@ -134,4 +117,18 @@ void PlayPanel::refreshButtons()
     m_cancel->setVisible(cancel);
     if (!busy && window()->focusWidget() == this)
         m_play->setFocus(Qt::OtherFocusReason);
+}
+
+void PlayPanel::refreshLog()
+{
+    const auto shown = m_model.showLog();
+    m_showLog->setChecked(shown);
+    if (shown && !m_log) {
+        m_log = new LogView(m_model);
+        m_logBlock->layout()->addWidget(m_log);
+        m_log->followInTabOrder(*m_showLog);
+        Q_EMIT disclosed(m_log);
+    } else if (!shown && m_log) {
+        delete std::exchange(m_log, nullptr);
+    }
 }

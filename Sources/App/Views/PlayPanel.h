@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Views/RoundedBox.h"
+#include "Controls/Boxes.h"
 
 class AppModel;
-class LogDisclosure;
+class LogView;
 class PlayButton;
 class ProgressBar;
 class QPushButton;
@@ -12,10 +12,10 @@ class StatusDot;
 class TextLabel;
 
 /// Where the player starts and follows everything: status, progress, Play with Stop and Cancel, the
-/// report of a failure, and the log.
+/// failure report and the log.
 ///
-/// It keeps no state: everything it shows is derived anew from the model after each of its changes,
-/// and what has not changed is not touched.
+/// It keeps no state. After each change of the model it sets everything it shows; a setter that
+/// finds its value unchanged does nothing.
 class PlayPanel final : public RoundedBox
 {
     Q_OBJECT
@@ -24,14 +24,10 @@ public:
     /// `model` must outlive the panel.
     explicit PlayPanel(AppModel& model);
 
-    /// The Return key, wherever nothing else uses it: presses Play if that is enabled.
-    void pressDefaultButton();
-
     [[nodiscard]] PlayButton& playButton() { return *m_play; }
 
 Q_SIGNALS:
-    /// The log has been disclosed. It is shown and laid out once the events that wait have had
-    /// their turn.
+    /// The log is shown now. It gets its size on the next event-loop iteration.
     void disclosed(QWidget* log);
 
 private:
@@ -39,16 +35,20 @@ private:
     void refreshStatus();
     void refreshProgress();
     void refreshButtons();
+    void refreshLog();
 
     AppModel& m_model;
-    StatusDot* m_dot = nullptr;
-    TextLabel* m_title = nullptr;
-    TextLabel* m_detail = nullptr;
-    QWidget* m_progressBlock = nullptr;
-    ProgressBar* m_progress = nullptr;
-    TextLabel* m_progressText = nullptr;
-    PlayButton* m_play = nullptr;
-    QPushButton* m_stop = nullptr;
-    QPushButton* m_cancel = nullptr;
-    LogDisclosure* m_log = nullptr;
+    StatusDot* m_dot;
+    TextLabel* m_title;
+    TextLabel* m_detail;
+    ProgressBar* m_progress;
+    TextLabel* m_progressText;
+    QWidget* m_progressBlock;
+    PlayButton* m_play;
+    QPushButton* m_stop;
+    QPushButton* m_cancel;
+    QPushButton* m_showLog;
+    QWidget* m_logBlock;
+    /// Exists only while it is shown.
+    LogView* m_log = nullptr;
 };

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Views/SettingsView.h"
 
-#include "AppModel.h"
-#include "Views/BorderedButton.h"
-#include "Views/DestructiveButton.h"
-#include "Views/Divider.h"
-#include "Views/ReturnKey.h"
-#include "Views/SegmentedPicker.h"
-#include "Views/Stack.h"
-#include "Views/TextLabel.h"
+#include "Controls/Buttons.h"
+#include "Controls/SegmentedPicker.h"
+#include "Controls/TextLabel.h"
+#include "Model/AppModel.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -16,36 +12,27 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto spacing = 14;
-constexpr auto padding = 20;
 
-QString label(ResolutionChoice choice)
+QString title(ResolutionChoice choice)
 {
     if (choice == ResolutionChoice::gameDefault)
         return SettingsView::tr("Game default");
-    return rawValue(choice).replace(u'x', QStringLiteral(" \u00d7 "));
+    return rawValue(choice).replace(u'x', u" \u00d7 "_s);
 }
 
-/// Controls under each other, each with its label before it. They take the rest of their rows.
-QWidget* labelledRows(std::initializer_list<std::pair<QString, QWidget*>> rows)
+/// Adds a control that fills its row, with its label before it.
+void addRow(QGridLayout& grid, int row, const QString& text, QWidget* control)
 {
-    auto* const block = new QWidget;
-    auto* const grid = new QGridLayout(block);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(defaultSpacing);
-    grid->setVerticalSpacing(spacing);
-    auto row = 0;
-    for (const auto& [text, control] : rows) {
-        auto* const title = new QLabel(text);
-        title->setBuddy(control);
-        control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        grid->addWidget(title, row, 0);
-        grid->addWidget(control, row, 1);
-        ++row;
-    }
-    return block;
+    auto* const label = new QLabel(text);
+    label->setBuddy(control);
+    control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    grid.addWidget(label, row, 0);
+    grid.addWidget(control, row, 1);
 }
 
 } // namespace
@@ -54,26 +41,38 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     : Sheet(tr("Settings"), parent)
     , m_model(model)
 {
-    stackVertically(
-        *this, spacing, padding,
+    m_update = new BorderedButton(tr("Update the game"), [this] {
+        m_model.updateGame();
+        accept();
+    });
+    m_reinstall = new BorderedButton(tr("Reinstall"), [this] {
+        m_model.reinstall();
+        accept();
+    });
+    m_showSaves = new BorderedButton(tr("Show saves"), [this] { m_model.showSaves(); });
+    m_remove = new DestructiveButton(QString(), [this] { m_model.removeEverything(); });
+    auto* const reveal =
+        new BorderedButton(tr("Reveal in Finder"), [this] { m_model.revealInFinder(); });
+
+    setContent(
+        spacing,
         {
-            new TextLabel(TextStyle::title2, QFont::Bold, tr("Settings")),
-            labelledRows({{tr("Window"), windowPicker()}, {tr("Resolution"), resolutionPicker()}}),
+            new TextLabel(TextStyle::title2, tr("Settings")),
+            displayPickers(),
             new TextLabel(TextStyle::caption, tr("Applies the next time you press Play."),
                           TextTone::secondary),
             new Divider,
-            gameButtons(),
+            horizontalStack({}, {m_update, m_reinstall, spacer}),
             new TextLabel(
                 TextStyle::caption,
                 tr("Updating downloads the game again. Save files are kept; they live in Godot's "
                    "own folder."),
                 TextTone::secondary),
-            folderButtons(),
+            horizontalStack({}, {reveal, m_showSaves, spacer}),
             m_noSaves = new TextLabel(TextStyle::caption,
                                       tr("No saves yet (Godot's user folder does not exist)."),
                                       TextTone::secondary),
-            leading(removeButton()),
-            doneRow(),
+            {m_remove, Qt::AlignLeading},
         });
 
     connect(&m_model, &AppModel::changed, this, &SettingsView::refresh);
@@ -81,56 +80,29 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     m_model.updateSize();
 }
 
-QWidget* SettingsView::windowPicker()
+QWidget* SettingsView::displayPickers()
 {
     m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
     connect(m_window, &SegmentedPicker::currentChanged, this,
             [this](int index) { m_model.setFullscreen(index == 1); });
-    return m_window;
-}
 
-QWidget* SettingsView::resolutionPicker()
-{
     m_resolution = new QComboBox;
     m_resolution->setAccessibleName(tr("Resolution"));
-    leaveReturnToWindow(*m_resolution);
+    forwardReturnKey(*m_resolution);
     for (const auto choice : allResolutionChoices)
-        m_resolution->addItem(label(choice));
+        m_resolution->addItem(title(choice));
     connect(m_resolution, &QComboBox::currentIndexChanged, this, [this](int index) {
         m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
     });
-    return m_resolution;
-}
 
-QWidget* SettingsView::gameButtons()
-{
-    m_update = new BorderedButton(tr("Update the game"));
-    m_reinstall = new BorderedButton(tr("Reinstall"));
-    connect(m_update, &QPushButton::clicked, this, [this] {
-        m_model.updateGame();
-        accept();
-    });
-    connect(m_reinstall, &QPushButton::clicked, this, [this] {
-        m_model.reinstall();
-        accept();
-    });
-    return horizontalStack(defaultSpacing, {m_update, m_reinstall, spacer()});
-}
-
-QWidget* SettingsView::folderButtons()
-{
-    auto* const reveal = new BorderedButton(tr("Reveal in Finder"));
-    m_showSaves = new BorderedButton(tr("Show saves"));
-    connect(reveal, &QPushButton::clicked, &m_model, &AppModel::revealInFinder);
-    connect(m_showSaves, &QPushButton::clicked, &m_model, &AppModel::showSaves);
-    return horizontalStack(defaultSpacing, {reveal, m_showSaves, spacer()});
-}
-
-QWidget* SettingsView::removeButton()
-{
-    m_remove = new DestructiveButton(QString());
-    connect(m_remove, &QPushButton::clicked, &m_model, &AppModel::removeEverything);
-    return m_remove;
+    auto* const pickers = new QWidget;
+    auto* const grid = new QGridLayout(pickers);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(defaultSpacing);
+    grid->setVerticalSpacing(spacing);
+    addRow(*grid, 0, tr("Window"), m_window);
+    addRow(*grid, 1, tr("Resolution"), m_resolution);
+    return pickers;
 }
 
 void SettingsView::refresh()
@@ -138,8 +110,7 @@ void SettingsView::refresh()
     const auto busy = m_model.phase().isBusy();
     const auto hasSaves = m_model.savesFolder().has_value();
     const auto& size = m_model.installedSize();
-    const auto* const choice =
-        std::find(allResolutionChoices.begin(), allResolutionChoices.end(), m_model.resolution());
+    const auto choice = std::ranges::find(allResolutionChoices, m_model.resolution());
 
     m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
     m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));

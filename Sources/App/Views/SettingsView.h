@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Views/Sheet.h"
+#include "Controls/Sheet.h"
 
 class AppModel;
 class QComboBox;
@@ -9,9 +9,8 @@ class QPushButton;
 class SegmentedPicker;
 class TextLabel;
 
-/// The sheet with the two display settings of the next game start and the maintenance actions.
-///
-/// It keeps nothing: the settings live in the model, which stores them at once.
+/// The sheet with the two display settings of the next launch and the maintenance actions. Every
+/// change is written to the model at once.
 class SettingsView final : public Sheet
 {
     Q_OBJECT
@@ -21,11 +20,7 @@ public:
     SettingsView(AppModel& model, QWidget* parent);
 
 private:
-    [[nodiscard]] QWidget* windowPicker();
-    [[nodiscard]] QWidget* resolutionPicker();
-    [[nodiscard]] QWidget* gameButtons();
-    [[nodiscard]] QWidget* folderButtons();
-    [[nodiscard]] QWidget* removeButton();
+    [[nodiscard]] QWidget* displayPickers();
     void refresh();
 
     AppModel& m_model;

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+/// The style of the stock controls: Fusion's behaviour, drawn by ControlPainter.
+///
+/// Everything is drawn from the palette that the control has at that moment. There is no style
+/// sheet: it would cost more at start-up than the whole window.
+class LauncherStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    LauncherStyle();
+
+    /// Light or dark as the platform's own theme has it.
+    [[nodiscard]] QPalette standardPalette() const override;
+
+    using QProxyStyle::polish;
+    /// Sheets and alerts get an edge of their own: not every desktop draws one around them.
+    void polish(QWidget* widget) override;
+
+    /// Text in the role PlaceholderText is drawn in the secondary text colour.
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                       SubControl part, const QWidget* widget) const override;
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                         const QSize& contents,
+                                         const QWidget* widget) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* returnData) const override;
+};

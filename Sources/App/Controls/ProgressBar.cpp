@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "Controls/ProgressBar.h"
+
+#include "Controls/Drawing.h"
+#include "Controls/SystemColors.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVariantAnimation>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Fine enough for a download of gigabytes to move smoothly on any screen.
+constexpr auto steps = 10'000;
+/// The length of the travelling piece, as a share of the bar.
+constexpr auto pieceLength = 0.3;
+
+} // namespace
+
+ProgressBar::ProgressBar(const QString& name)
+    : m_travel(new QVariantAnimation(this))
+{
+    setAccessibleName(name);
+    setTextVisible(false);
+    setRange(0, 0);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_travel->setStartValue(-pieceLength);
+    m_travel->setEndValue(1.0);
+    m_travel->setDuration(1600);
+    m_travel->setLoopCount(-1);
+    connect(m_travel, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+}
+
+void ProgressBar::setFraction(std::optional<double> fraction)
+{
+    const auto range = fraction ? steps : 0;
+    if (maximum() != range)
+        setRange(0, range);
+    if (fraction) {
+        const auto step = static_cast<int>(std::lround(std::clamp(*fraction, 0.0, 1.0) * steps));
+        // QProgressBar repaints only for steps that would be visible in its own style.
+        if (step != value())
+            update();
+        setValue(step);
+    }
+    updateAnimation();
+}
+
+QSize ProgressBar::sizeHint() const
+{
+    return {100, 6};
+}
+
+void ProgressBar::paintEvent(QPaintEvent*)
+{
+    const auto bar = QRectF(rect());
+    const auto radius = bar.height() / 2;
+    const auto [from, to] = filledPart();
+    QPainterPath track;
+    track.addRoundedRect(bar, radius, radius);
+    QPainterPath filled;
+    filled.addRoundedRect(QRectF(bar.width() * from, 0, bar.width() * (to - from), bar.height()),
+                          radius, radius);
+
+    QPainter painter(this);
+    if (isRightToLeft())
+        mirror(painter, width());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(track, SystemColors::line(palette()));
+    if (to > from)
+        painter.fillPath(track.intersected(filled), SystemColors::blue(palette()));
+}
+
+bool ProgressBar::event(QEvent* event)
+{
+    const auto handled = QProgressBar::event(event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        updateAnimation();
+    return handled;
+}
+
+std::pair<double, double> ProgressBar::filledPart() const
+{
+    if (!isIndeterminate())
+        return {0, static_cast<double>(value()) / maximum()};
+    const auto start = m_travel->currentValue().toDouble();
+    return {std::max(0.0, start), std::min(1.0, start + pieceLength)};
+}
+
+void ProgressBar::updateAnimation()
+{
+    if (isIndeterminate() && isVisible())
+        m_travel->start();
+    else
+        m_travel->stop();
+}

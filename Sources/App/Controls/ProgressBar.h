@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProgressBar>
+
+#include <optional>
+#include <utility>
+
+class QVariantAnimation;
+
+/// A thin linear progress bar. When indeterminate, a short piece travels along it; that animation
+/// runs only while the bar is visible.
+class ProgressBar final : public QProgressBar
+{
+    Q_OBJECT
+
+public:
+    /// `name` is for assistive technology.
+    explicit ProgressBar(const QString& name);
+
+    /// 0 to 1; without a value the bar is indeterminate.
+    void setFraction(std::optional<double> fraction);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] bool isIndeterminate() const { return minimum() == maximum(); }
+    /// The start and the end of the filled part, 0 to 1 along the bar.
+    [[nodiscard]] std::pair<double, double> filledPart() const;
+    void updateAnimation();
+
+    /// Of the start of the travelling piece.
+    QVariantAnimation* m_travel;
+};

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "Controls/StatusDot.h"
+
+#include "Controls/AccessibleRole.h"
+
+#include <QPainter>
+
+StatusDot::StatusDot(Color initial)
+    : m_color(initial)
+{
+    // Screen readers read this role out whenever it appears, wherever the focus is.
+    setAccessibleRole(*this, QAccessible::Notification);
+    setFixedSize(10, 10);
+}
+
+void StatusDot::setStatus(Color status, const QString& meaning)
+{
+    if (m_color != status) {
+        m_color = status;
+        update();
+    }
+    if (accessibleName() == meaning)
+        return;
+    setAccessibleName(meaning);
+    if (!isVisible())
+        return;
+    // On Linux, Qt keeps alerts from the accessibility bus; there the second event is what counts.
+    for (const auto type : {QAccessible::Alert, QAccessible::ObjectShow}) {
+        QAccessibleEvent event(this, type);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void StatusDot::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color());
+    painter.drawEllipse(rect());
+}

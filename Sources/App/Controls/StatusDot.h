@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+/// A small disc that shows the status as a colour. To assistive technology it is a notification
+/// that says the status in words, which is read out when they change.
+class StatusDot final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Returns the colour of the disc. Called for each repaint.
+    using Color = QColor (*)(const QPalette& palette);
+
+    explicit StatusDot(Color initial);
+
+    void setStatus(Color status, const QString& meaning);
+    [[nodiscard]] QColor color() const { return m_color(palette()); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Color m_color;
+};

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "Controls/TextLabel.h"
+
+#include <algorithm>
+
+TextLabel::TextLabel(const std::function<QFont()>& font, const QString& text, TextTone tone)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    // LauncherStyle draws the placeholder role in the secondary text colour.
+    setForegroundRole(tone == TextTone::secondary ? QPalette::PlaceholderText
+                                                  : QPalette::WindowText);
+    followFont(*this, font);
+    setText(text);
+}
+
+TextLabel::TextLabel(TextStyle style, const QString& text, TextTone tone)
+    : TextLabel([style] { return textFont(style); }, text, tone)
+{
+}
+
+TextLabel::Sizes& TextLabel::sizes() const
+{
+    if (m_sizes.text != text() || m_sizes.font != font()) {
+        const QSize oneLine(fontMetrics().size(0, text()).width(),
+                            QLabel::heightForWidth(QWIDGETSIZE_MAX));
+        m_sizes = {text(), font(), oneLine, {}};
+    }
+    return m_sizes;
+}
+
+QSize TextLabel::sizeHint() const
+{
+    return sizes().oneLine;
+}
+
+QSize TextLabel::minimumSizeHint() const
+{
+    // Only the width matters: the height follows from the width that the layout assigns.
+    constexpr auto minWrappedWidth = 80;
+    const auto size = sizes().oneLine;
+    return {wordWrap() ? std::min(size.width(), minWrappedWidth) : size.width(), size.height()};
+}
+
+int TextLabel::heightForWidth(int width) const
+{
+    auto& known = sizes();
+    if (width > known.oneLine.width())
+        return known.oneLine.height();
+    const auto [height, isNew] = known.heights.try_emplace(width);
+    if (isNew)
+        height->second = QLabel::heightForWidth(width);
+    return height->second;
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "Install/ArchiveInstallation.h"
+
+#include "Install/FileDownloader.h"
+#include "Install/Paths.h"
+#include "Install/TemporaryFolder.h"
+#include "Install/Unzipper.h"
+#include "System/Errors.h"
+#include "System/FileTree.h"
+
+#include <QFileInfo>
+
+namespace {
+
+/// A new folder's path beside `target`. What is there at the end is removed, unless `stop` has been
+/// requested: that may take long, and who cancels does not want to wait.
+class StagingFolder final
+{
+public:
+    StagingFolder(const QString& target, const std::stop_token& stop)
+        : m_path(Paths::newStagingFolder(target))
+        , m_stop(stop)
+    {
+    }
+    ~StagingFolder() { FileTree::removeBestEffort(m_path, m_stop); }
+
+    StagingFolder(const StagingFolder&) = delete;
+    StagingFolder& operator=(const StagingFolder&) = delete;
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+
+private:
+    const QString m_path;
+    const std::stop_token& m_stop;
+};
+
+} // namespace
+
+void installArchive(const ArchiveInstallation& what, const FileDownloader& downloader,
+                    const LogCallback& log, const std::stop_token& stop, const Platform& platform)
+{
+    const auto temporary = Paths::newTempDir();
+    log(what.announcement);
+    const auto archive = downloader.start(what.url(), temporary.path(), stop);
+    throwIfCancelled(stop);
+    what.verify(archive);
+    Paths::ensure(QFileInfo(what.target).path());
+    const StagingFolder staging(what.target, stop);
+    Unzipper::unzip(archive, staging.path(), log, stop, platform);
+    what.finish(staging.path());
+    FileTree::replace(what.target, staging.path(), Paths::newAsideFolder(what.target), stop);
+}

@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "Install/WebHost.h"
-
-QString webHost()
-{
-    return QStringLiteral("https://github.com");
-}

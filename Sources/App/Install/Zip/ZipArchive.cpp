@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "Install/Zip/ZipArchive.h"
+
+#include "System/Errors.h"
+#include "System/FileDescriptor.h"
+#include "System/InputFile.h"
+
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <zip.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The longest path that a link may hold here, and a byte more to see that one is longer.
+constexpr std::size_t maxTargetRead = 2049;
+
+ZipError unreadable(const QString& reason)
+{
+    return ZipError(u"The archive cannot be read: %1."_s.arg(reason));
+}
+
+ZipError damaged(const QString& shownName)
+{
+    return ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
+}
+
+/// Why the archive cannot be opened. Throws PlatformError if the file cannot be read at all.
+QString openFailure(int error, const InputFile& file)
+{
+    switch (error) {
+    case ZIP_ER_OPEN:
+    case ZIP_ER_READ:
+    case ZIP_ER_SEEK:
+    case ZIP_ER_TELL:
+        throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(file.path()), errno);
+    case ZIP_ER_MEMORY:
+        return u"there is not enough memory"_s;
+    case ZIP_ER_INCONS:
+        return u"its headers contradict each other"_s;
+    case ZIP_ER_EXISTS:
+        return u"it names an entry twice"_s;
+    case ZIP_ER_NOZIP:
+        return u"it is not a zip archive, or its end is missing"_s;
+    default:
+        return u"it is damaged"_s;
+    }
+}
+
+/// The Unix mode; 0 when the archive was made on a system without modes.
+quint32 modeOf(zip* archive, quint64 index)
+{
+    zip_uint8_t system = 0;
+    zip_uint32_t attributes = 0;
+    zip_file_get_external_attributes(archive, index, 0, &system, &attributes);
+    const auto hasMode = system == ZIP_OPSYS_UNIX || system == ZIP_OPSYS_OS_X;
+    return hasMode ? attributes >> 16 : 0;
+}
+
+ZipEntry::Kind kindOf(quint32 mode, const QByteArray& name)
+{
+    const auto isNamedAsFolder = name.endsWith('/');
+    switch (mode & S_IFMT) {
+    case 0: // There is no mode, or none of it says.
+        return isNamedAsFolder ? ZipEntry::Kind::folder : ZipEntry::Kind::file;
+    case S_IFREG:
+        return isNamedAsFolder ? ZipEntry::Kind::other : ZipEntry::Kind::file;
+    case S_IFDIR:
+        return ZipEntry::Kind::folder;
+    case S_IFLNK:
+        return isNamedAsFolder ? ZipEntry::Kind::other : ZipEntry::Kind::link;
+    default:
+        return ZipEntry::Kind::other;
+    }
+}
+
+} // namespace
+
+void ZipArchive::Content::Close::operator()(zip_file* file) const
+{
+    zip_fclose(file);
+}
+
+void ZipArchive::Discard::operator()(zip* archive) const
+{
+    zip_discard(archive);
+}
+
+QByteArrayView ZipArchive::Content::read(std::span<char> buffer)
+{
+    const auto count = zip_fread(m_file.get(), buffer.data(), buffer.size());
+    if (count < 0)
+        throw damaged(m_shownName);
+    return {buffer.data(), static_cast<qsizetype>(count)};
+}
+
+ZipArchive::ZipArchive(const InputFile& file)
+{
+    // The library closes the descriptor that it is given.
+    FileDescriptor descriptor(::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0));
+    int error = ZIP_ER_OPEN;
+    if (descriptor.isOpen())
+        m_zip.reset(zip_fdopen(descriptor.get(), ZIP_CHECKCONS, &error));
+    if (!m_zip)
+        throw unreadable(openFailure(error, file));
+    static_cast<void>(descriptor.release());
+}
+
+quint64 ZipArchive::entryCount() const
+{
+    return static_cast<quint64>(zip_get_num_entries(m_zip.get(), 0));
+}
+
+ZipEntry ZipArchive::entry(quint64 index) const
+{
+    zip_stat_t status;
+    const auto* const name = zip_get_name(m_zip.get(), index, ZIP_FL_ENC_RAW);
+    if (!name || zip_stat_index(m_zip.get(), index, 0, &status) != 0)
+        throw unreadable(u"it is damaged"_s);
+    const auto mode = modeOf(m_zip.get(), index);
+    ZipEntry entry;
+    entry.name = name;
+    entry.kind = kindOf(mode, entry.name);
+    entry.isExecutable = (mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0;
+    entry.setsUserOrGroup = (mode & (S_ISUID | S_ISGID)) != 0;
+    entry.isEncrypted = status.encryption_method != ZIP_EM_NONE;
+    entry.hasKnownMethod =
+        status.comp_method == ZIP_CM_STORE || status.comp_method == ZIP_CM_DEFLATE;
+    entry.size = status.size;
+    entry.compressedSize = status.comp_size;
+    if (entry.kind == ZipEntry::Kind::link && !entry.isEncrypted && entry.hasKnownMethod) {
+        std::array<char, maxTargetRead> buffer;
+        auto content = open(index, entry);
+        for (auto piece = content.read(buffer);
+             !piece.isEmpty() && entry.target.size() < std::ssize(buffer);
+             piece = content.read(buffer))
+            entry.target.append(piece);
+    }
+    return entry;
+}
+
+ZipArchive::Content ZipArchive::open(quint64 index, const ZipEntry& entry) const
+{
+    Content content;
+    content.m_shownName = entry.shownName();
+    content.m_file.reset(zip_fopen_index(m_zip.get(), index, 0));
+    if (!content.m_file)
+        throw damaged(content.m_shownName);
+    return content;
+}

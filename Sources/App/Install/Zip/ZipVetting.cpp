@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "Install/Zip/ZipVetting.h"
+
+#include "System/Errors.h"
+
+#include <QByteArrayView>
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Real archives stay far below these; they keep every path usable by the system calls.
+constexpr qsizetype maxPartLength = 255;
+constexpr qsizetype maxPathLength = 2048;
+constexpr qsizetype maxDepth = 128;
+/// Far above any real game. Names can imply a hundred folders each, so that what is remembered of
+/// an archive could otherwise take fifty times the memory that its directory does.
+constexpr std::size_t maxPaths = 500'000;
+constexpr std::size_t maxRememberedBytes = std::size_t{256} * 1024 * 1024;
+/// As many links as the system itself would follow in one path.
+constexpr int maxLinkDepth = 40;
+/// Some seconds of work. A chain of long links could otherwise take hours to follow.
+constexpr int maxStepsOfAllLinks = 2'000'000;
+/// Above any file, and small enough that their sum does not overflow.
+constexpr quint64 maxContent = quint64{1} << 40;
+
+ZipError refusal(const ZipEntry& entry, const QString& reason)
+{
+    return ZipError(u"The archive entry “%1” %2."_s.arg(entry.shownName(), reason));
+}
+
+std::vector<std::string_view> partsOf(std::string_view path)
+{
+    std::vector<std::string_view> parts;
+    while (!path.empty()) {
+        const auto slash = path.find('/');
+        const auto part = path.substr(0, slash);
+        if (!part.empty() && part != ".")
+            parts.push_back(part);
+        path = slash == std::string_view::npos ? std::string_view() : path.substr(slash + 1);
+    }
+    return parts;
+}
+
+/// The parts of `first`, to be walked before those of `rest`, in the reverse order of the walk.
+void pushParts(std::vector<std::string>& rest, std::string_view first)
+{
+    const auto parts = partsOf(first);
+    rest.insert(rest.end(), parts.rbegin(), parts.rend());
+}
+
+std::string folderOf(const std::string& place)
+{
+    const auto slash = place.rfind('/');
+    return slash == std::string::npos ? std::string() : place.substr(0, slash);
+}
+
+} // namespace
+
+void ZipVetting::add(const ZipEntry& entry)
+{
+    if (entry.kind == ZipEntry::Kind::other)
+        throw refusal(entry, u"is neither a file nor a folder nor a link"_s);
+    if (entry.isEncrypted)
+        throw refusal(entry, u"is encrypted"_s);
+    if (!entry.hasKnownMethod)
+        throw refusal(entry, u"is compressed in a way that is not supported"_s);
+    if (entry.setsUserOrGroup)
+        throw refusal(entry, u"would run with another user's rights"_s);
+    const auto place = entryPath(entry).toStdString();
+    if (place.empty() && entry.kind != ZipEntry::Kind::folder)
+        throw refusal(entry, u"has no name"_s);
+    if (entry.kind == ZipEntry::Kind::link &&
+        (entry.target.isEmpty() || entry.target.size() > maxPathLength))
+        throw refusal(entry, u"leads nowhere"_s);
+    addSizes(entry);
+    addFoldersAbove(entry, place);
+    addPlace(entry, place);
+}
+
+QByteArray ZipVetting::entryPath(const ZipEntry& entry)
+{
+    const auto& name = entry.name;
+    if (name.isEmpty() || name.contains('\0'))
+        throw refusal(entry, u"has no name"_s);
+    if (name.size() > maxPathLength)
+        throw refusal(entry, u"has too long a name"_s);
+    if (name.startsWith('/'))
+        throw refusal(entry, u"would lie outside the folder"_s);
+    QByteArray place;
+    qsizetype depth = 0;
+    for (const auto part : partsOf({name.constData(), static_cast<std::size_t>(name.size())})) {
+        const QByteArrayView view(part);
+        if (part == "..")
+            throw refusal(entry, u"would lie outside the folder"_s);
+        if (view.size() > maxPartLength || ++depth > maxDepth)
+            throw refusal(entry, u"has too long a name"_s);
+        if (!place.isEmpty())
+            place.append('/');
+        place.append(view);
+    }
+    return place;
+}
+
+void ZipVetting::checkOverlap(qint64 archiveSize) const
+{
+    if (m_archivedSize > static_cast<quint64>(archiveSize))
+        throw ZipError(u"The archive's entries overlap."_s);
+}
+
+void ZipVetting::addSizes(const ZipEntry& entry)
+{
+    // Two headers and the content; there may be more, but not less.
+    constexpr quint64 headersSize = 30 + 46;
+    m_archivedSize += headersSize + 2 * static_cast<quint64>(entry.name.size()) +
+                      std::min(entry.compressedSize, maxContent);
+    if (entry.kind != ZipEntry::Kind::file)
+        return;
+    // A sum beyond all disks is as good as any other of that kind.
+    constexpr quint64 max = std::numeric_limits<qint64>::max();
+    m_totalSize = entry.size > max - m_totalSize ? max : m_totalSize + entry.size;
+}
+
+void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& place)
+{
+    for (auto folder = folderOf(place); !folder.empty(); folder = folderOf(folder)) {
+        const auto [known, isNew] = m_places.try_emplace(folder);
+        if (known->second.kind != ZipEntry::Kind::folder)
+            throw refusal(entry, u"would lie below a file or a link"_s);
+        if (!isNew)
+            return;
+        countPlace(folder.size());
+    }
+}
+
+void ZipVetting::countPlace(std::size_t bytes)
+{
+    m_rememberedBytes += bytes;
+    if (m_places.size() > maxPaths || m_rememberedBytes > maxRememberedBytes)
+        throw ZipError(u"The archive has too many files and folders."_s);
+}
+
+void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
+{
+    const auto [known, isNew] = m_places.try_emplace(place);
+    if (!isNew && (known->second.hasOwnEntry || entry.kind != ZipEntry::Kind::folder))
+        throw refusal(entry, u"occurs twice"_s);
+    known->second = {entry.kind, true, entry.target.toStdString()};
+    countPlace(place.size() + known->second.target.size());
+}
+
+void ZipVetting::checkLinks(const std::stop_token& stop) const
+{
+    auto stepsLeft = maxStepsOfAllLinks;
+    for (const auto& [place, what] : m_places) {
+        if (what.kind == ZipEntry::Kind::link)
+            checkLink(place, stepsLeft, stop);
+    }
+}
+
+void ZipVetting::checkLink(const std::string& link, int& stepsLeft,
+                           const std::stop_token& stop) const
+{
+    const auto refuse = [&link](const QString& reason) {
+        ZipEntry entry;
+        entry.name = QByteArray::fromStdString(link);
+        throw refusal(entry, reason);
+    };
+    // Walked as the system would: a link on the way is replaced by where it leads. Text alone does
+    // not tell, for after a link, ".." is not the folder that the link stands in.
+    std::vector<std::string> rest{std::string(partsOf(link).back())};
+    auto here = folderOf(link);
+    int linksOnTheWay = 0;
+    while (!rest.empty()) {
+        throwIfCancelled(stop);
+        if (--stepsLeft < 0)
+            throw ZipError(u"The archive's links are too many to follow."_s);
+        const auto part = std::move(rest.back());
+        rest.pop_back();
+        if (std::string_view(part) == "..") {
+            if (here.empty())
+                refuse(u"leads outside the folder"_s);
+            here = folderOf(here);
+            continue;
+        }
+        // Not one expression: GCC 12 takes part of the temporary for uninitialised.
+        auto next = here;
+        if (!next.empty())
+            next += '/';
+        next += part;
+        // The system follows no longer path either, and each step costs as much as it is long.
+        if (next.size() > static_cast<std::size_t>(maxPathLength))
+            refuse(u"leads along too long a path"_s);
+        const auto known = m_places.find(next);
+        if (known == m_places.end() || known->second.kind != ZipEntry::Kind::link) {
+            here = std::move(next);
+            continue;
+        }
+        const auto& target = known->second.target;
+        if (target.front() == '/')
+            refuse(u"leads outside the folder"_s);
+        if (++linksOnTheWay > maxLinkDepth)
+            refuse(u"leads through too many links"_s);
+        pushParts(rest, target);
+    }
+}

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "Model/AppModel.h"
+
+#include "Install/EngineManager.h"
+#include "Install/FileDownloader.h"
+#include "Install/Paths.h"
+#include "Model/Desktop.h"
+#include "Model/ProgressRelay.h"
+#include "Project/ProjectInspector.h"
+#include "System/ByteCount.h"
+#include "System/Errors.h"
+#include "System/OffThread.h"
+
+#include <QFile>
+#include <QSettings>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto fullscreenKey = u"fullscreen"_s;
+const auto resolutionKey = u"resolution"_s;
+
+constexpr int logBound = 2000;
+
+} // namespace
+
+AppModel::AppModel(Desktop& desktop, const InstallationLock& lock, const Durations& durations)
+    : m_desktop(desktop)
+    , m_lock(lock)
+    , m_durations(durations)
+    , m_log(logBound, durations.logFlushInterval)
+    , m_runner(durations)
+{
+    const QSettings settings;
+    m_fullscreen = settings.value(fullscreenKey, false).toBool();
+    m_resolution = resolutionChoice(settings.value(resolutionKey).toString())
+                       .value_or(ResolutionChoice::gameDefault);
+    clearStaleFolders();
+    refreshState();
+}
+
+AppModel::~AppModel()
+{
+    Q_ASSERT_X(!m_flowRunning, "AppModel", "the flow must have ended before its model does");
+    m_backgroundStop.request_stop();
+}
+
+QString AppModel::statusTitle() const
+{
+    switch (m_phase.kind()) {
+    case Phase::Kind::needs:
+        return tr("Needs something");
+    case Phase::Kind::notDownloaded:
+        return tr("Not downloaded");
+    case Phase::Kind::downloading:
+        return tr("Downloading");
+    case Phase::Kind::settingUp:
+        return tr("Setting up");
+    case Phase::Kind::ready:
+        return tr("Ready");
+    case Phase::Kind::playing:
+        return m_stillStarting ? tr("Starting…") : tr("Playing");
+    }
+    Q_UNREACHABLE();
+}
+
+QString AppModel::statusDetail() const
+{
+    switch (m_phase.kind()) {
+    case Phase::Kind::needs:
+        return m_phase.message();
+    case Phase::Kind::notDownloaded:
+        return tr("Downloads the game and the Godot engine once, about 70 MB for the engine plus "
+                  "the game's files. Nothing to type.");
+    case Phase::Kind::downloading:
+    case Phase::Kind::settingUp:
+        return m_stepText;
+    case Phase::Kind::ready:
+        return tr("Everything is installed. Press Play.");
+    case Phase::Kind::playing:
+        return m_stillStarting
+                   ? tr("The game was launched. Waiting 10 seconds to make sure it stays open.")
+                   : tr("The game is running in its own window.");
+    }
+    Q_UNREACHABLE();
+}
+
+void AppModel::setShowLog(bool show)
+{
+    if (m_showLog == show)
+        return;
+    m_showLog = show;
+    Q_EMIT changed();
+}
+
+void AppModel::setFullscreen(bool fullscreen)
+{
+    if (m_fullscreen == fullscreen)
+        return;
+    m_fullscreen = fullscreen;
+    QSettings().setValue(fullscreenKey, fullscreen);
+    Q_EMIT changed();
+}
+
+void AppModel::setResolution(ResolutionChoice resolution)
+{
+    if (m_resolution == resolution)
+        return;
+    m_resolution = resolution;
+    QSettings().setValue(resolutionKey, rawValue(resolution));
+    Q_EMIT changed();
+}
+
+void AppModel::refreshState()
+{
+    clearProgress();
+    m_stepText.clear();
+    m_stillStarting = false;
+    m_info.reset();
+    m_facts = RepoFacts();
+    try {
+        m_phase = phaseOnDisk();
+    } catch (const PlatformError& error) {
+        m_phase = Phase::needs(error.message());
+    }
+    Q_EMIT changed();
+    updateSize();
+}
+
+Phase AppModel::phaseOnDisk()
+{
+    const auto game = Paths::game();
+    const auto project = ProjectInspector::findProject(game);
+    if (!project)
+        return Phase::notDownloaded();
+    m_info = ProjectInspector::inspect(*project);
+    if (!m_info)
+        return Phase::notDownloaded();
+    m_facts = ProjectInspector::facts(*project, game);
+    const EngineManager engine{.mono = m_info->usesCSharp};
+    const auto complete = engine.executable() && QFile::exists(engine.markerFile());
+    return complete ? Phase::ready() : Phase::notDownloaded();
+}
+
+void AppModel::updateSize()
+{
+    QString root;
+    try {
+        root = Paths::root();
+    } catch (const PlatformError&) {
+        return; // Nothing can be installed where there is no home; the phase says so.
+    }
+    const auto measurement = ++m_sizesStarted;
+    const auto size =
+        offThread([root, stop = m_backgroundStop.get_token()] { return Paths::size(root, stop); });
+    whenFinished(size, this, [this, measurement](qint64 bytes) { applySize(measurement, bytes); });
+}
+
+void AppModel::applySize(int measurement, qint64 bytes)
+{
+    // Several measurements may be in flight; an older one must not overwrite a newer one's result.
+    if (measurement < m_sizeShown)
+        return;
+    m_sizeShown = measurement;
+    const auto text = bytes < 1 ? QString() : formattedByteCount(bytes);
+    if (text == m_installedSize)
+        return;
+    m_installedSize = text;
+    Q_EMIT changed();
+}
+
+std::shared_ptr<const FileDownloader> AppModel::makeDownloader()
+{
+    // The former relay goes, and with it every report of the former download still on its way. The
+    // new one may serve by its address: a download reports nothing once its future has finished,
+    // and no flow goes on before that.
+    m_progressRelay = std::make_unique<ProgressRelay>();
+    connect(m_progressRelay.get(), &ProgressRelay::progressed, this, &AppModel::applyProgress);
+    return std::make_shared<const FileDownloader>(
+        [relay = m_progressRelay.get()](const DownloadProgress& progress) {
+            relay->report(progress);
+        },
+        m_durations.stallTimeout);
+}
+
+void AppModel::applyProgress(const DownloadProgress& progress)
+{
+    if (progress.total >= 1) {
+        const auto fraction =
+            static_cast<double>(progress.received) / static_cast<double>(progress.total);
+        m_progress = std::min(fraction, 1.0);
+    } else {
+        m_progress.reset();
+    }
+    m_progressText = progress.text();
+    Q_EMIT changed();
+}
+
+void AppModel::clearProgress()
+{
+    m_progressRelay.reset();
+    m_progress.reset();
+    m_progressText.clear();
+}
+
+void AppModel::enterDownloading(const QString& stepText)
+{
+    clearProgress();
+    m_phase = Phase::downloading();
+    m_stepText = stepText;
+    Q_EMIT changed();
+}
+
+void AppModel::enterSettingUp(const QString& stepText)
+{
+    clearProgress();
+    m_phase = Phase::settingUp();
+    m_stepText = stepText;
+    Q_EMIT changed();
+}
+
+void AppModel::enterPlaying(const QString& stepText)
+{
+    clearProgress();
+    m_phase = Phase::playing();
+    m_stepText = stepText;
+    m_stillStarting = true;
+    Q_EMIT changed();
+}
+
+void AppModel::markStarted()
+{
+    if (m_phase != Phase::Kind::playing || !m_stillStarting)
+        return;
+    m_stillStarting = false;
+    Q_EMIT changed();
+}

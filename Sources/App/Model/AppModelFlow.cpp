@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+//
+// What every flow has in common, be it a press of Play or a housekeeping action: that there is one
+// at a time, how it is ended, and how its end is told.
+#include "Model/AppModel.h"
+
+#include "System/Errors.h"
+#include "System/InstallationLock.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int reportedLogLines = 30;
+
+} // namespace
+
+bool AppModel::failIfGameRuns()
+{
+    // It was left running by a launcher that was killed. Its files must not change under it, and a
+    // second one would write to the same saves.
+    if (!m_lock.isGameRunning())
+        return false;
+    concludeFailed(tr("The game is still running from an earlier start. Close it first."));
+    return true;
+}
+
+void AppModel::startFlow(Flow flow)
+{
+    m_userStopped = false;
+    m_flowStop = std::stop_source();
+    m_flowRunning = true;
+    Q_EMIT changed();
+    m_flowTask = runFlow(flow, m_flowStop.get_token());
+}
+
+QCoro::Task<> AppModel::runFlow(Flow flow, std::stop_token stop)
+{
+    try {
+        co_await (this->*flow)(stop);
+    } catch (const Cancelled&) {
+        concludeCancelled();
+    } catch (const std::exception& error) {
+        if (stop.stop_requested())
+            concludeCancelled();
+        else
+            concludeFailed(QString::fromUtf8(error.what()));
+    }
+    m_flowRunning = false;
+    Q_EMIT changed();
+    Q_EMIT flowEnded();
+}
+
+void AppModel::cancelSetup()
+{
+    // First of all, so that whatever error the interrupted step throws is known for a cancel. It
+    // also ends a download.
+    m_flowStop.request_stop();
+    m_backgroundStop.request_stop(); // The flow may be waiting for a deletion.
+    m_runner.terminateCurrent();
+}
+
+void AppModel::concludeCancelled()
+{
+    m_log.append(u"Cancelled."_s);
+    m_backgroundStop = std::stop_source();
+    clearStaleFolders();
+    refreshState();
+}
+
+void AppModel::concludeFailed(const QString& description)
+{
+    m_log.append(u"Error: "_s + description);
+    fail(description);
+    updateSize();
+}
+
+void AppModel::fail(const QString& message)
+{
+    m_failureText = tr("What happened: %1\n\nLast log lines:\n%2")
+                        .arg(message, m_log.newest(reportedLogLines).join(u'\n'));
+    clearProgress();
+    m_stillStarting = false;
+    m_phase = Phase::needs(message);
+    Q_EMIT changed();
+}

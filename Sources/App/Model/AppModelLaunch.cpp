@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+//
+// Starts the game and stays with it until it ends. A game that closes at once is the commonest way
+// for a launcher to look broken, so the first seconds are watched.
+#include "Model/AppModel.h"
+
+#include "Install/EngineManager.h"
+#include "Model/PlayOutcome.h"
+#include "System/Errors.h"
+#include "System/InstallationLock.h"
+#include "System/OffThread.h"
+
+#include <QCoroFuture>
+#include <QFile>
+#include <QScopeGuard>
+#include <QTimer>
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+
+QCoro::Task<> AppModel::launch(QString engine, QString project)
+{
+    const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
+    m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
+    enterPlaying(tr("Step 4 of 4 · Play"));
+
+    const auto start = std::chrono::steady_clock::now();
+    const auto status = co_await runGame(engine, arguments);
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+
+    m_stillStarting = false;
+    concludePlay(PlayOutcome::judge(m_userStopped, elapsed, status, m_durations.startupThreshold));
+}
+
+QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
+{
+    QTimer startupThreshold;
+    startupThreshold.setSingleShot(true);
+    startupThreshold.setTimerType(Qt::PreciseTimer);
+    connect(&startupThreshold, &QTimer::timeout, this, &AppModel::markStarted);
+    startupThreshold.start(m_durations.startupThreshold);
+
+    const auto game = std::make_shared<ManagedProcess>(
+        ManagedProcess::Lifetime::mayOutliveLauncher, m_durations.killTimeout, m_lock.descriptor());
+    m_runner.process = game;
+    const auto clear = qScopeGuard([this] { m_runner.process.reset(); });
+    const auto run =
+        offThread([=, log = m_log.callback()] { return game->run(engine, arguments, log); });
+    co_return co_await run;
+}
+
+void AppModel::concludePlay(const PlayOutcome& outcome)
+{
+    switch (outcome.kind()) {
+    case PlayOutcome::Kind::stoppedByPlayer:
+    case PlayOutcome::Kind::closedNormally:
+        m_log.append(outcome.sentence());
+        refreshState();
+        return;
+    case PlayOutcome::Kind::closedTooSoon:
+        // The next Play imports once more. Always the name of the standard edition, deliberately:
+        // a C# game keeps its marker, and is not imported anew because it closed at once.
+        QFile::remove(EngineManager{.mono = false}.markerFile());
+        throw AppError(outcome.sentence());
+    case PlayOutcome::Kind::stoppedUnexpectedly:
+        throw AppError(outcome.sentence());
+    }
+}
+
+void AppModel::stopGame()
+{
+    m_userStopped = true;
+    m_runner.terminateCurrent();
+}

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/CavernyxPlatformerApp.h"
+
+#include "Controls/LauncherStyle.h"
+#include "Controls/Palettes.h"
+#include "Install/Paths.h"
+#include "Model/AppModel.h"
+#include "Platform/ColorScheme.h"
+#include "Shell/AppDelegate.h"
+#include "Shell/SingleInstance.h"
+#include "Shell/WidgetDesktop.h"
+#include "System/Errors.h"
+#include "System/InstallationLock.h"
+#include "System/OffThread.h"
+#include "System/TerminationSignals.h"
+#include "Views/ContentView.h"
+
+#include <QIcon>
+#include <QImageReader>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QScopeGuard>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Sets what has to be known before the application is constructed.
+void prepare()
+{
+    QCoreApplication::setOrganizationName(u"Cavernyx Platformer"_s);
+    QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CAVERNYX_VERSION));
+    QGuiApplication::setDesktopFileName(u"io.github.brindlework_demos.CavernyxPlatformer"_s);
+    // Fractional scales are not rounded, so that sizes stay exact.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication::setStyle(new LauncherStyle);
+}
+
+std::mutex messagesMutex;
+QStringList startMessages;
+
+/// Turns Qt's fatal error for a display that cannot be opened into one sentence and exit status 1.
+void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    const std::lock_guard guard(messagesMutex);
+    startMessages.append(message);
+    if (type != QtFatalMsg)
+        return;
+    std::fputs("Cavernyx Platformer needs a graphical desktop, and no display could be opened.\n",
+               stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// Qt's messages meanwhile are printed afterwards, since they may belong to the fatal error.
+QApplication makeApplication(int& argumentCount, char** arguments)
+{
+    qInstallMessageHandler(handleStartMessage);
+    const auto guard = qScopeGuard([] {
+        qInstallMessageHandler(nullptr);
+        for (const auto& message : std::exchange(startMessages, {}))
+            std::fprintf(stderr, "%s\n", qPrintable(message));
+    });
+    prepare();
+    return QApplication(argumentCount, arguments);
+}
+
+/// The icon in the sizes that the window and its alerts show. The desktop uses the installed ones.
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const auto& file : {u":/icon/icon-64.png"_s, u":/icon/icon-128.png"_s}) {
+        QImageReader reader(file, "png");
+        // To detect the format, Qt would load every image plug-in.
+        reader.setAutoDetectImageFormat(false);
+        icon.addPixmap(QPixmap::fromImageReader(&reader));
+    }
+    return icon;
+}
+
+/// To be read before the application is constructed, which unsets these variables.
+QByteArray activationToken()
+{
+    const auto token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+QString lockFile()
+{
+    try {
+        return Paths::lockFile();
+    } catch (const PlatformError&) {
+        return {}; // Nothing can be installed without a home folder, so no lock is needed.
+    }
+}
+
+/// Never destroyed: if the program ends without releasing the lock, its process keeps it until
+/// everything that works on the files is gone.
+InstallationLock& installationLock()
+{
+    static auto& lock = *new InstallationLock(lockFile());
+    return lock;
+}
+
+/// Lets the next start go on. The application's destructor can take long after this: it waits for
+/// pending lookups of host names.
+void releaseLock()
+{
+    // All children have ended. What else changes the installation runs on this pool.
+    workerPool().waitForDone();
+    installationLock().release();
+}
+
+} // namespace
+
+AppModel& AppModel::shared()
+{
+    static WidgetDesktop desktop;
+    // Never destroyed: it serves until the process ends.
+    static auto& model = *new AppModel(desktop, installationLock());
+    return model;
+}
+
+CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
+    : m_arguments{programName, nullptr}
+    , m_activationToken(activationToken())
+    , m_application(makeApplication(m_argumentCount, m_arguments))
+{
+    // A blinking cursor in the read-only texts would wake the processor for nothing.
+    QApplication::setCursorFlashTime(0);
+    // The delegate decides when the program ends.
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadTranslation();
+    QApplication::setWindowIcon(programIcon());
+}
+
+int CavernyxPlatformerApp::run()
+{
+    // The lock creates the folder that the server's name is derived from.
+    auto& lock = installationLock();
+    SingleInstance instance(lock, SingleInstance::serverName(lockFile()));
+    switch (instance.start(m_activationToken)) {
+    case SingleInstance::Start::first: {
+        const auto status = runFirst(instance);
+        releaseLock();
+        return status;
+    }
+    case SingleInstance::Start::handedOver:
+        return EXIT_SUCCESS;
+    case SingleInstance::Start::noAnswer:
+        warnNoAnswer();
+        return EXIT_FAILURE;
+    }
+    Q_UNREACHABLE();
+}
+
+int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
+{
+    auto& model = AppModel::shared();
+    Palettes::apply(ColorScheme::Preference::none);
+    const ColorScheme colorScheme;
+    ContentView window(model);
+    AppDelegate delegate(model, window);
+    const TerminationSignals terminationSignals;
+
+    QObject::connect(&colorScheme, &ColorScheme::preferenceReceived, &Palettes::apply);
+    QObject::connect(&instance, &SingleInstance::activated, &delegate, &AppDelegate::activate);
+    QObject::connect(&delegate, &AppDelegate::terminating, &instance,
+                     &SingleInstance::stopListening);
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &delegate,
+                     &AppDelegate::terminate);
+
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+void CavernyxPlatformerApp::warnNoAnswer()
+{
+    const auto sentence =
+        tr("Cavernyx Platformer is already running, but does not answer. Close it first.");
+    std::fputs(qPrintable(sentence + u'\n'), stderr);
+    QMessageBox::warning(nullptr, QCoreApplication::applicationName(), sentence);
+}
+
+void CavernyxPlatformerApp::loadTranslation()
+{
+    const auto folder =
+        QCoreApplication::applicationDirPath() + u"/../share/cavernyx-platformer/translations"_s;
+    // Qt's own texts, such as the context menu of a selectable text, follow our language.
+    if (installTranslation(u"cavernyx-platformer"_s, folder))
+        installTranslation(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+}
+
+bool CavernyxPlatformerApp::installTranslation(const QString& name, const QString& folder)
+{
+    auto* const translator = new QTranslator(&m_application);
+    return translator->load(QLocale(), name, u"_"_s, folder) &&
+           QCoreApplication::installTranslator(translator);
+}

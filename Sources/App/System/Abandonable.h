@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <stop_token>
+#include <thread>
+#include <type_traits>
+#include <utility>
+
+/// Runs `work` on a thread of its own and returns its result; nothing if it has not ended when
+/// `timeout` has passed or `stop` is requested. It then goes on by itself, so it must own all that
+/// it uses; it must not throw. For calls that cannot be interrupted. Blocks.
+template<typename Work>
+auto runAbandonable(Work work, std::chrono::milliseconds timeout, const std::stop_token& stop)
+    -> std::optional<std::invoke_result_t<Work&>>
+{
+    struct Shared
+    {
+        std::mutex mutex;
+        std::condition_variable_any ended;
+        std::optional<std::invoke_result_t<Work&>> result;
+    };
+    const auto shared = std::make_shared<Shared>();
+    std::thread([shared, work = std::move(work)]() mutable {
+        auto result = work();
+        const std::lock_guard guard(shared->mutex);
+        shared->result = std::move(result);
+        shared->ended.notify_all();
+    }).detach();
+    std::unique_lock lock(shared->mutex);
+    shared->ended.wait_for(lock, stop, timeout, [&shared] { return shared->result.has_value(); });
+    return std::exchange(shared->result, std::nullopt);
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "System/ByteCount.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Unit
+{
+    qint64 bytes;
+    int decimals;
+    const char* pattern;
+};
+
+constexpr std::array units{
+    Unit{1'000, 0, QT_TRANSLATE_NOOP("ByteCount", "%1 KB")},
+    Unit{1'000'000, 1, QT_TRANSLATE_NOOP("ByteCount", "%1 MB")},
+    Unit{1'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 GB")},
+    Unit{1'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 TB")},
+    Unit{1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 PB")},
+};
+
+QString withoutTrailingZeros(QString number)
+{
+    if (!number.contains(u'.'))
+        return number;
+    while (number.endsWith(u'0'))
+        number.chop(1);
+    if (number.endsWith(u'.'))
+        number.chop(1);
+    return number;
+}
+
+QString inUnit(qint64 bytes, const Unit& unit)
+{
+    const auto amount = static_cast<double>(bytes) / static_cast<double>(unit.bytes);
+    return withoutTrailingZeros(QString::number(amount, 'f', unit.decimals));
+}
+
+} // namespace
+
+QString formattedByteCount(qint64 bytes)
+{
+    if (bytes == 0)
+        return QCoreApplication::translate("ByteCount", "Zero KB");
+    if (bytes == 1)
+        return QCoreApplication::translate("ByteCount", "1 byte");
+    if (bytes > -1'000 && bytes < 1'000)
+        return QCoreApplication::translate("ByteCount", "%1 bytes").arg(bytes);
+    const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
+    std::size_t index = 0;
+    while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
+        ++index;
+    // What rounds up to a thousand of one unit is one of the next.
+    auto number = inUnit(bytes, units[index]);
+    if (index + 1 < units.size() && (number == "1000"_L1 || number == "-1000"_L1))
+        number = inUnit(bytes, units[++index]);
+    return QCoreApplication::translate("ByteCount", units[index].pattern).arg(number);
+}

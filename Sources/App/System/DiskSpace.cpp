@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "System/DiskSpace.h"
+
+#include <limits>
+
+#include <sys/statvfs.h>
+
+std::optional<qint64> freeSpace(int descriptor)
+{
+    struct statvfs status = {};
+    // Some file systems of networks and of user programs report no blocks at all.
+    if (::fstatvfs(descriptor, &status) != 0 || status.f_blocks == 0)
+        return std::nullopt;
+    const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);
+    constexpr auto max = std::numeric_limits<qint64>::max();
+    return bytes < static_cast<double>(max) ? static_cast<qint64>(bytes) : max;
+}

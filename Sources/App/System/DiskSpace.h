@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <optional>
+
+/// The bytes that an ordinary user may still write to the file system of the open file or folder;
+/// nothing if the file system does not say. A write may still fail for want of space.
+std::optional<qint64> freeSpace(int descriptor);

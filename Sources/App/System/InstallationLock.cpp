@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "System/InstallationLock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <tuple>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Each locks a byte of its own, none of which has to be in the file.
+enum class Role : off_t { launcher = 0, game = 1 };
+
+struct flock lockOf(Role role)
+{
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = static_cast<off_t>(role);
+    lock.l_len = 1;
+    return lock;
+}
+
+bool tryLock(int descriptor, Role role)
+{
+    auto lock = lockOf(role);
+    return ::fcntl(descriptor, F_SETLK, &lock) == 0;
+}
+
+} // namespace
+
+InstallationLock::InstallationLock(const QString& path)
+    : m_path(path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    open();
+}
+
+InstallationLock::~InstallationLock()
+{
+    release();
+}
+
+void InstallationLock::release()
+{
+    // The file goes before the lock does: whoever waits for the lock finds it gone then, and makes
+    // a new one.
+    if (m_isHeld && isStillThere() && !isGameRunning())
+        QFile::remove(m_path);
+    m_file.close();
+    m_isHeld = false;
+}
+
+void InstallationLock::open()
+{
+    m_file = FileDescriptor(::open(QFile::encodeName(m_path).constData(),
+                                   O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+}
+
+bool InstallationLock::tryAcquire()
+{
+    while (!m_isHeld && m_file.isOpen()) {
+        if (!tryLock(m_file.get(), Role::launcher))
+            return errno != EACCES && errno != EAGAIN;
+        m_isHeld = isStillThere();
+        if (!m_isHeld)
+            open();
+    }
+    return true;
+}
+
+bool InstallationLock::isStillThere() const
+{
+    struct stat ours = {};
+    struct stat there = {};
+    return ::fstat(m_file.get(), &ours) == 0 &&
+           ::stat(QFile::encodeName(m_path).constData(), &there) == 0 &&
+           ours.st_ino == there.st_ino && ours.st_dev == there.st_dev;
+}
+
+bool InstallationLock::isGameRunning() const
+{
+    auto lock = lockOf(Role::game);
+    return m_file.isOpen() && ::fcntl(m_file.get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+}
+
+void InstallationLock::holdAsGame(int descriptor) noexcept
+{
+    // Under another number it would be open twice, and the end of one would end the lock.
+    if (::fcntl(descriptor, F_SETFD, 0) == 0)
+        std::ignore = tryLock(descriptor, Role::game);
+}

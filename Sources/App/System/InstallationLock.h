@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "System/FileDescriptor.h"
+
+#include <QString>
+
+/// How the processes that use one installation know of each other: at most one launcher, and the
+/// game, which may go on without its launcher when that is killed.
+///
+/// Both are record locks (fcntl) on a file that nothing else opens. Such a lock belongs to one
+/// process: it stays when the process becomes another program, is not passed on to what the process
+/// starts, and ends with the process however that ends, so that nothing ever has to be cleared
+/// away. Where the file cannot be made or locked, nobody knows of anybody and all goes on without.
+///
+/// A process has at most one of these for a file: closing it would end the locks of another.
+class InstallationLock final
+{
+public:
+    /// Creates the file at `path`, with missing parents.
+    explicit InstallationLock(const QString& path);
+    /// As release() does.
+    ~InstallationLock();
+
+    InstallationLock(const InstallationLock&) = delete;
+    InstallationLock& operator=(const InstallationLock&) = delete;
+
+    /// Makes this process the launcher. False exactly when another process is.
+    bool tryAcquire();
+    /// Ends this launcher's claim and removes the file, unless a game still uses it. From then on
+    /// this knows of nobody, as where locks do not work.
+    void release();
+    /// Whether this process has become the launcher, so that what is left behind by earlier ones
+    /// is nobody's. False where locks do not work.
+    [[nodiscard]] bool isHeld() const { return m_isHeld; }
+
+    /// Whether a game runs that another process than this one is.
+    [[nodiscard]] bool isGameRunning() const;
+
+    /// What to hand to holdAsGame(); negative where locks do not work.
+    [[nodiscard]] int descriptor() const { return m_file.get(); }
+
+    /// Makes the calling process, a new child about to become the game, count as the running game
+    /// until it ends. Does nothing but make system calls.
+    static void holdAsGame(int descriptor) noexcept;
+
+private:
+    void open();
+    [[nodiscard]] bool isStillThere() const;
+
+    QString m_path;
+    FileDescriptor m_file;
+    bool m_isHeld = false;
+};

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "System/Text.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+std::optional<QString> Text::readFile(const QString& path)
+{
+    // Looked at before it is opened: opening a pipe would wait for its writer.
+    if (!QFileInfo(path).isFile())
+        return std::nullopt;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > maxFileSize)
+        return std::nullopt;
+    const auto bytes = file.read(maxFileSize + 1);
+    if (file.error() != QFileDevice::NoError || bytes.size() > maxFileSize)
+        return std::nullopt;
+    if (!QByteArrayView(bytes).isValidUtf8())
+        return std::nullopt;
+    return QString::fromUtf8(bytes);
+}
+
+QStringView Text::trimmedBlanks(QStringView text)
+{
+    const auto isBlank = [](QChar character) { return character == u' ' || character == u'\t'; };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
+QString Text::decodedUtf8(QByteArrayView bytes)
+{
+    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+    qsizetype marks = 0;
+    for (; bytes.startsWith(byteOrderMark); ++marks)
+        bytes = bytes.sliced(byteOrderMark.size());
+    const auto text = QString::fromUtf8(bytes);
+    return marks == 0 ? text : QString(marks, QChar::ByteOrderMark) + text;
+}

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "ZipExtractorTest.h"
+
+#include <QFileInfo>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+using ZipDamageTest = ZipExtractorTest;
+
+TEST_F(ZipDamageTest, refusesWhatIsNoArchive)
+{
+    for (const auto& bytes : {QByteArray(), QByteArray("PK"), QByteArray(100'000, 'x'),
+                              QByteArray("<html>Not found</html>")}) {
+        EXPECT_EQ(extract(bytes), 1);
+        EXPECT_EQ(log.size(), 1);
+        EXPECT_TRUE(log.value(0).startsWith(u"The archive cannot be read: "_s));
+    }
+}
+
+TEST_F(ZipDamageTest, refusesATruncatedArchiveAtEveryLength)
+{
+    ZipWriter zip;
+    zip.addFile("first", "some bytes").addLink("second", "first");
+    const auto whole = zip.archive();
+
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+        EXPECT_EQ(extract(whole.first(size)), 1) << size;
+        EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty()) << size;
+    }
+    EXPECT_EQ(extract(whole), 0);
+}
+
+TEST_F(ZipDamageTest, refusesAnArchiveWithoutItsDirectory)
+{
+    const auto whole = ZipWriter().addFile("first", "some bytes").archive();
+
+    EXPECT_EQ(extract(whole.first(whole.indexOf("PK\1\2")) + QByteArray(50'000, '\0')), 1);
+}
+
+TEST_F(ZipDamageTest, failsOnABadChecksum)
+{
+    for (const auto deflated : {false, true}) {
+        ZipWriter zip;
+        zip.add({.name = "a", .data = "some bytes", .deflated = deflated, .checksum = 1234});
+
+        EXPECT_EQ(extract(zip), 1);
+        EXPECT_EQ(log.size(), 1);
+        QFile::remove(folder.path(unpacked(u"a"_s)));
+    }
+}
+
+TEST_F(ZipDamageTest, failsOnABadChecksumOfALink)
+{
+    ZipWriter zip;
+    zip.addFile("a").add({.name = "l", .data = "a", .mode = S_IFLNK | 0777, .checksum = 1234});
+
+    EXPECT_EQ(extract(zip), 1);
+    EXPECT_EQ(log, QStringList{u"The archive entry “l” is damaged."_s});
+    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+}
+
+TEST_F(ZipDamageTest, failsWhenTheAnnouncedSizeIsNotTheTrueOne)
+{
+    for (const quint32 size : {5U, 50U}) {
+        ZipWriter zip;
+        zip.add({.name = "a",
+                 .data = QByteArray("some bytes").repeated(3),
+                 .deflated = true,
+                 .size = size});
+
+        EXPECT_EQ(extract(zip), 1);
+        EXPECT_LE(QFileInfo(folder.path(unpacked(u"a"_s))).size(), 30);
+        QFile::remove(folder.path(unpacked(u"a"_s)));
+    }
+}
+
+TEST_F(ZipDamageTest, failsOnDamagedData)
+{
+    auto bytes = ZipWriter()
+                     .add({.name = "a", .data = QByteArray(5'000, 'x') + "yz", .deflated = true})
+                     .archive();
+    bytes[40] = static_cast<char>(~bytes[40]);
+
+    EXPECT_EQ(extract(bytes), 1);
+    EXPECT_EQ(log.size(), 1);
+}
+
+TEST_F(ZipDamageTest, failsWhenAFileCannotBeWritten)
+{
+    rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto archive = ZipWriter()
+                             .add({.name = "a", .data = QByteArray(999'999, 'x'), .deflated = true})
+                             .archive();
+    const rlimit limited{100'000, before.rlim_max};
+    const auto handlerBefore = ::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+
+    const auto status = extract(archive);
+
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    ::signal(SIGXFSZ, handlerBefore);
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(log, QStringList{u"Could not write “a”: File too large."_s});
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "System/ByteCount.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ostream>
+#include <string>
+
+namespace {
+
+struct Example
+{
+    qint64 bytes;
+    const char* text;
+};
+
+void PrintTo(const Example& example, std::ostream* stream)
+{
+    *stream << example.bytes;
+}
+
+std::string nameOf(const testing::TestParamInfo<Example>& example)
+{
+    const auto bytes = example.param.bytes;
+    return (bytes < 0 ? "minus" : "") + std::to_string(std::abs(bytes)) + "Bytes";
+}
+
+class ByteCount : public testing::TestWithParam<Example>
+{
+};
+
+TEST_P(ByteCount, isWrittenInTheStyleOfAFileSize)
+{
+    EXPECT_EQ(formattedByteCount(GetParam().bytes).toStdString(), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Examples, ByteCount,
+    testing::Values(Example{0, "Zero KB"}, Example{1, "1 byte"}, Example{512, "512 bytes"},
+                    Example{999, "999 bytes"}, Example{1000, "1 KB"}, Example{11'999, "12 KB"},
+                    Example{12'345, "12 KB"}, Example{7'300'000, "7.3 MB"},
+                    Example{70'100'000, "70.1 MB"}, Example{123'456'789, "123.5 MB"},
+                    Example{999'900'000, "999.9 MB"}, Example{1'000'000'000, "1 GB"},
+                    Example{1'500'000'000, "1.5 GB"}, Example{1'234'567'898, "1.23 GB"},
+                    Example{999'999, "1 MB"}, Example{999'999'999, "1 GB"},
+                    Example{-2'000, "-2 KB"}),
+    nameOf);
+
+} // namespace

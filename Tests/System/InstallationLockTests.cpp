@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "System/InstallationLock.h"
+
+#include "Support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <functional>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another process, a copy of this one: it does `work`, which gets a descriptor to answer to and
+/// one that ends with this object, and then leaves with the status that `work` gives.
+class OtherProcess final
+{
+public:
+    using Work = std::function<int(int answer, int orders)>;
+
+    explicit OtherProcess(const Work& work)
+    {
+        std::array<int, 2> answers{};
+        std::array<int, 2> orders{};
+        EXPECT_EQ(::pipe(answers.data()), 0);
+        EXPECT_EQ(::pipe(orders.data()), 0);
+        m_id = ::fork();
+        if (m_id == 0) {
+            ::close(orders[1]);
+            ::_exit(work(answers[1], orders[0]));
+        }
+        ::close(answers[1]);
+        ::close(orders[0]);
+        m_answers = FileDescriptor(answers[0]);
+        m_orders = FileDescriptor(orders[1]);
+    }
+    ~OtherProcess() { std::ignore = end(); }
+
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+    /// Waits for the next answer, a line.
+    QByteArray answer()
+    {
+        QByteArray line;
+        char next = 0;
+        while (::read(m_answers.get(), &next, 1) == 1 && next != '\n')
+            line.append(next);
+        return line;
+    }
+
+    void kill() { ::kill(m_id, SIGKILL); }
+    void order() { EXPECT_EQ(::write(m_orders.get(), "\n", 1), 1); }
+
+    /// Lets it go to its end and gives its status, negative when it was killed.
+    int end()
+    {
+        m_orders.close();
+        if (m_id > 0) {
+            int status = 0;
+            EXPECT_EQ(::waitpid(m_id, &status, 0), m_id);
+            m_status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+            m_id = -1;
+        }
+        return m_status;
+    }
+
+private:
+    pid_t m_id = -1;
+    int m_status = -1;
+    FileDescriptor m_answers;
+    FileDescriptor m_orders;
+};
+
+void say(int answer, const char* line)
+{
+    std::ignore = ::write(answer, line, std::char_traits<char>::length(line));
+}
+
+void awaitOrder(int orders)
+{
+    char next = 0;
+    std::ignore = ::read(orders, &next, 1);
+}
+
+class InstallationLockTest : public testing::Test
+{
+protected:
+    /// What another launcher gets when it claims the lock now: 1 for yes.
+    int otherClaims()
+    {
+        return OtherProcess(
+                   [this](int, int) { return InstallationLock(m_path).tryAcquire() ? 1 : 0; })
+            .end();
+    }
+
+    const TestFolder m_folder;
+    const QString m_path = m_folder.path(u"new folder/lock"_s);
+};
+
+TEST_F(InstallationLockTest, isClaimedByOneProcessOnly)
+{
+    InstallationLock lock(m_path);
+    EXPECT_EQ(otherClaims(), 1) << "to have the file open is no claim";
+    EXPECT_FALSE(lock.isHeld());
+    EXPECT_TRUE(lock.tryAcquire());
+    EXPECT_TRUE(lock.isHeld());
+    EXPECT_TRUE(lock.tryAcquire()) << "it is still this process's own";
+    EXPECT_EQ(otherClaims(), 0);
+}
+
+TEST_F(InstallationLockTest, isFreeAgainWhenItsHolderWasKilled)
+{
+    OtherProcess holder([this](int answer, int orders) {
+        InstallationLock lock(m_path);
+        say(answer, lock.tryAcquire() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(holder.answer(), "claimed");
+    InstallationLock lock(m_path);
+    EXPECT_FALSE(lock.tryAcquire());
+    holder.kill();
+    EXPECT_EQ(holder.end(), -1);
+    EXPECT_TRUE(lock.tryAcquire());
+    EXPECT_TRUE(lock.isHeld());
+}
+
+TEST_F(InstallationLockTest, leavesNoFileBehind)
+{
+    {
+        InstallationLock lock(m_path);
+        EXPECT_TRUE(m_folder.exists(u"new folder/lock"_s));
+        EXPECT_TRUE(lock.tryAcquire());
+    }
+    EXPECT_FALSE(m_folder.exists(u"new folder/lock"_s));
+}
+
+TEST_F(InstallationLockTest, canBeReleasedBeforeItsEnd)
+{
+    InstallationLock lock(m_path);
+    ASSERT_TRUE(lock.tryAcquire());
+    OtherProcess waiting([this](int answer, int orders) {
+        InstallationLock others(m_path);
+        say(answer, others.tryAcquire() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        say(answer, others.tryAcquire() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(waiting.answer(), "refused");
+    lock.release();
+    EXPECT_FALSE(lock.isHeld());
+    EXPECT_FALSE(QFile::exists(m_path));
+    waiting.order();
+    EXPECT_EQ(waiting.answer(), "claimed");
+    lock.release();
+    EXPECT_TRUE(QFile::exists(m_path)) << "it is the next launcher's";
+}
+
+TEST_F(InstallationLockTest, leavesTheFileOfAnotherLauncherAlone)
+{
+    {
+        InstallationLock lock(m_path);
+        ASSERT_TRUE(lock.tryAcquire());
+        EXPECT_EQ(otherClaims(), 0);
+        EXPECT_TRUE(m_folder.exists(u"new folder/lock"_s));
+        ASSERT_TRUE(QFile::remove(m_path));
+        m_folder.write(u"new folder/lock"_s);
+    }
+    EXPECT_TRUE(m_folder.exists(u"new folder/lock"_s))
+        << "somebody removed the file, and another launcher made a new one";
+}
+
+TEST_F(InstallationLockTest, isClaimedOnTheFileThatIsThereNow)
+{
+    auto first = std::make_unique<InstallationLock>(m_path);
+    ASSERT_TRUE(first->tryAcquire());
+    OtherProcess second([this](int answer, int orders) {
+        InstallationLock lock(m_path);
+        say(answer, "open\n");
+        awaitOrder(orders);
+        say(answer, lock.tryAcquire() && lock.isHeld() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(second.answer(), "open");
+    first.reset();
+    second.order();
+    ASSERT_EQ(second.answer(), "claimed");
+    EXPECT_EQ(otherClaims(), 0) << "who comes now finds the file that is locked";
+}
+
+TEST_F(InstallationLockTest, knowsARunningGameUntilItsEndHoweverItEnds)
+{
+    auto lock = std::make_unique<InstallationLock>(m_path);
+    ASSERT_TRUE(lock->tryAcquire());
+    EXPECT_FALSE(lock->isGameRunning());
+    OtherProcess game([&lock](int answer, int orders) {
+        InstallationLock::holdAsGame(lock->descriptor());
+        say(answer, "held\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(game.answer(), "held");
+    EXPECT_TRUE(lock->isGameRunning());
+    lock.reset();
+    EXPECT_TRUE(m_folder.exists(u"new folder/lock"_s)) << "the game still uses it";
+
+    InstallationLock next(m_path);
+    EXPECT_TRUE(next.tryAcquire()) << "a game is no launcher";
+    EXPECT_TRUE(next.isGameRunning());
+    game.kill();
+    EXPECT_EQ(game.end(), -1);
+    EXPECT_FALSE(next.isGameRunning());
+}
+
+TEST_F(InstallationLockTest, takesOnlyTheGameItselfForTheGame)
+{
+    const InstallationLock lock(m_path);
+    OtherProcess game([&lock](int answer, int orders) {
+        InstallationLock::holdAsGame(lock.descriptor());
+        ::dup2(answer, STDOUT_FILENO);
+        ::dup2(orders, STDIN_FILENO);
+        // It becomes another program and starts a third one that goes on.
+        ::execl("/bin/sh", "sh", "-c", "sleep 600 >/dev/null & echo $!; read line", nullptr);
+        return 1;
+    });
+    const auto helper = game.answer().toInt();
+    ASSERT_GT(helper, 0);
+    EXPECT_TRUE(lock.isGameRunning());
+    std::ignore = game.end();
+    EXPECT_FALSE(lock.isGameRunning());
+    EXPECT_EQ(::kill(helper, SIGKILL), 0) << "it was still there";
+}
+
+TEST_F(InstallationLockTest, letsEverybodyGoOnWhereItCannotBeMade)
+{
+    InstallationLock lock(u"/dev/null/lock"_s);
+    EXPECT_TRUE(lock.tryAcquire());
+    EXPECT_FALSE(lock.isHeld());
+    EXPECT_FALSE(lock.isGameRunning());
+    EXPECT_LT(lock.descriptor(), 0);
+}
+
+} // namespace
