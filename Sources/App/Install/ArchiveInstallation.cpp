@@ -13,7 +13,7 @@
 namespace {
 
 /// A new folder's path beside `target`. What is there at the end is removed, unless `stop` has been
-/// requested: that may take long, and who cancels does not want to wait.
+/// requested: that may take long, and a cancel must not wait for it.
 class StagingFolder final
 {
 public:

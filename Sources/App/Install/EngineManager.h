@@ -15,8 +15,7 @@
 class FileDownloader;
 class InputFile;
 
-/// Everything about the one engine build the launcher installs: its names, its place on disk, and
-/// its installation.
+/// The engine build that the launcher installs: its names, its path on disk, its installation.
 struct EngineManager
 {
     /// Whether the engine's C# edition is meant.

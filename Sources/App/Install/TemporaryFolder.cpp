@@ -88,7 +88,8 @@ void TemporaryFolder::removeIfAbandoned(const QString& path) noexcept
     const auto folder = openFolder(name);
     if (!folder.isOpen() || !isOwnFolder(folder) || ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0)
         return;
-    // Before the lock, another launcher may have removed the folder, and its owner made it anew.
+    // Before the lock, another launcher may have removed the folder, and its owner created it
+    // again.
     if (isAt(name, folder))
         FileTree::removeBestEffort(path);
 }

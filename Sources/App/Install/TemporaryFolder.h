@@ -7,8 +7,8 @@
 
 /// A temporary folder that is removed, with everything in it, when its owner goes away.
 ///
-/// While it is owned, the folder itself is locked (flock), and the lock ends with the process
-/// however that ends; so a later start can tell a folder in use from one left behind.
+/// The folder itself is locked (flock). The lock ends with the process, so a later start can tell a
+/// folder in use from a stale one.
 class TemporaryFolder final
 {
 public:
@@ -19,8 +19,8 @@ public:
     TemporaryFolder(TemporaryFolder&& other) noexcept;
     TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
-    /// Removes the folder at `path` if it is this user's and nobody owns it any more. Does nothing
-    /// to a link, nor where folders cannot be locked. May block.
+    /// Removes the folder at `path` if it belongs to this user and its owner has ended. Does
+    /// nothing to a link, nor where folders cannot be locked. May block.
     static void removeIfAbandoned(const QString& path) noexcept;
 
     [[nodiscard]] const QString& path() const { return m_path; }

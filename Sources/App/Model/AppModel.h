@@ -117,9 +117,9 @@ public:
     /// then on nothing new begins. The caller waits for flowEnded() while isFlowRunning().
     void endForQuit();
 
-    /// Derives info, facts and phase from the disk anew and clears the progress.
+    /// Derives info, facts and phase from the disk and clears the progress.
     void refreshState();
-    /// Measures the installed size anew, in the background.
+    /// Measures the installed size in the background.
     void updateSize();
 
 Q_SIGNALS:

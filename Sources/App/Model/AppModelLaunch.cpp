@@ -60,7 +60,7 @@ void AppModel::concludePlay(const PlayOutcome& outcome)
         return;
     case PlayOutcome::Kind::closedTooSoon:
         // The next Play imports once more. Always the name of the standard edition, deliberately:
-        // a C# game keeps its marker, and is not imported anew because it closed at once.
+        // a C# game keeps its marker, and is not imported again because it closed at once.
         QFile::remove(EngineManager{.mono = false}.markerFile());
         throw AppError(outcome.sentence());
     case PlayOutcome::Kind::stoppedUnexpectedly:

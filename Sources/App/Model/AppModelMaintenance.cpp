@@ -22,8 +22,8 @@ namespace {
 
 constexpr int copiedLogLines = 2000;
 
-/// Moves the game and the engines out of their places, each in one step: a half of one must never
-/// be taken for a whole. What cannot be moved is deleted where it is.
+/// Renames the game and the engines, each in one step, so that no half-deleted folder stays at a
+/// final path. A folder that cannot be renamed is deleted where it is.
 void vacate(const std::stop_token& stop)
 {
     for (const auto& folder : {Paths::game(), Paths::engines()}) {
@@ -131,8 +131,8 @@ void AppModel::concludeRemoval(const QString& failure)
         fail(failure);
 }
 
-/// Deletes what is left behind, beside the flows. Who cancels does not wait for that, nor does a
-/// press of Play after a launcher that was killed.
+/// Deletes stale folders in the background. Neither a cancel nor the first press of Play waits for
+/// that.
 void AppModel::clearStaleFolders()
 {
     const auto folders = StaleFolders::putBackAndList(m_lock);
@@ -204,7 +204,7 @@ bool AppModel::confirmQuit()
 
 void AppModel::endForQuit()
 {
-    // Whoever comes afterwards, with a question that was answered in the same instant, is too late.
+    // An answer to a question that comes after this starts no flow.
     m_quitting = true;
     if (m_phase == Phase::Kind::playing)
         stopGame();

@@ -11,7 +11,7 @@
 /// Carries one download's progress from the network thread to the thread it was made on.
 ///
 /// A fast download reports thousands of times a second. The relay passes on the newest report, at
-/// most twenty times a second, so that progress never costs the window its smoothness. Reports
+/// most twenty times a second, so that the window stays smooth. Reports
 /// that are still waiting when the relay is deleted are dropped.
 class ProgressRelay final : public QObject
 {

@@ -32,7 +32,7 @@ QString homeInUserDatabase()
 
 QString homeFolder()
 {
-    // Not QDir::homePath(): without HOME it gives the root folder.
+    // Not QDir::homePath(): without HOME it returns the root folder.
     for (const auto& candidate : {QFile::decodeName(qgetenv("HOME")), homeInUserDatabase()}) {
         if (QDir::isAbsolutePath(candidate))
             return QDir::cleanPath(candidate);

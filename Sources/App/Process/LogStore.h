@@ -11,15 +11,14 @@
 #include <functional>
 #include <mutex>
 
-/// Takes text for the log: a line, or several with a line feed between each two. It may be called
-/// from any thread.
+/// Takes one line for the log, or several separated by line feeds. Thread-safe.
 using LogCallback = std::function<void(const QString& text)>;
 
 /// The launcher's one log: the newest lines of everything that setup and play write, bounded.
 ///
-/// Writers on any thread are taken at once; readers of `lines()` are told of changes on the main
-/// thread, at most once per flush interval, so that a flood of output never redraws the window for
-/// every line. Lines are never written to disk.
+/// Any thread may append. Changes of `lines()` are published on the main thread, at most once per
+/// flush interval, so that a flood of output does not redraw the window for every line. Lines are
+/// never written to disk.
 class LogStore final : public QObject
 {
     Q_OBJECT

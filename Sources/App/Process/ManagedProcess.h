@@ -12,15 +12,15 @@
 /// Runs one child program to its end, delivers its output (standard output and standard error,
 /// interleaved as written) as text lines, and returns its exit status.
 ///
-/// It is made for one run. Whoever else holds it can stop the child meanwhile.
+/// One object serves one run; terminate() may be called from another thread meanwhile.
 class ManagedProcess final
 {
 public:
     using Lifetime = ChildProcess::Lifetime;
 
     /// `killTimeout` is the time from the polite request to stop to the kill. With the descriptor
-    /// of a InstallationLock, which must stay open until the child has started, the child counts as
-    /// the running game. Throws PlatformError if the system has no descriptor left.
+    /// of an InstallationLock, which must stay open until the child has started, the child counts
+    /// as the running game. Throws PlatformError if the system has no descriptor left.
     explicit ManagedProcess(Lifetime lifetime = Lifetime::endsWithLauncher,
                             std::chrono::milliseconds killTimeout = Durations().killTimeout,
                             int installationLock = -1);
@@ -29,8 +29,8 @@ public:
     /// ended and all its output was delivered; the number of the signal that ended it, if one did.
     /// `onLines` is called on this thread; a line of more than 16 KiB comes in pieces.
     ///
-    /// What a program that ends with the launcher has left behind in its process group is killed at
-    /// its end; what the game has left behind only if the game was asked to stop.
+    /// At the end of a program that ends with the launcher, the rest of its process group is
+    /// killed; at the end of a game only if the game was asked to stop.
     ///
     /// Throws PlatformError, and delivers nothing, if the child cannot be started. Blocks.
     int run(const QString& program, const QStringList& arguments, const LogCallback& onLines);
@@ -38,8 +38,8 @@ public:
     /// Whether run() is under way. Thread-safe.
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Asks the child's process group to stop, and kills it when the child has not ended after the
-    /// timeout. Before the child has started, it is carried out then; after its end it does
+    /// Sends SIGTERM to the child's process group, and SIGKILL if the child has not ended after the
+    /// timeout. Called before the start, it takes effect at the start; after the end it does
     /// nothing. Returns at once. Thread-safe.
     void terminate();
 

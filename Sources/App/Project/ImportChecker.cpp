@@ -94,7 +94,7 @@ public:
 
 private:
     /// The text of a regular file, under the rules of Text::readFile(), valid until the next call.
-    /// It is read anew for each of thousands of assets, every two seconds of an import: so within
+    /// It is read for each of thousands of assets, every two seconds of an import: so within
     /// the open folder, into one buffer, and without a copy in another encoding.
     std::optional<std::string_view> readText(int folder, const char* name)
     {

@@ -55,23 +55,23 @@ bool isSkipped(std::string_view name, DirectoryWalk::Hidden hidden)
     return hidden == DirectoryWalk::Hidden::skip || name == "." || name == "..";
 }
 
-/// Opens the folder at the path `place` from `root`.
-FileDescriptor openFolder(int root, std::string_view place)
+/// Opens the folder at `path`, relative to `root`.
+FileDescriptor openFolder(int root, std::string_view path)
 {
     constexpr auto flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    // The system takes no longer path at once; a name within has at most 255 bytes.
+    // The system takes no longer path in one call. A name has at most 255 bytes.
     constexpr std::size_t maxStepLength = 4000;
     FileDescriptor reached;
-    while (place.size() > maxStepLength) {
-        const auto end = place.rfind('/', maxStepLength);
+    while (path.size() > maxStepLength) {
+        const auto end = path.rfind('/', maxStepLength);
         reached = FileDescriptor(::openat(reached.isOpen() ? reached.get() : root,
-                                          std::string(place.substr(0, end)).c_str(), flags));
+                                          std::string(path.substr(0, end)).c_str(), flags));
         if (!reached.isOpen())
             return {};
-        place.remove_prefix(end + 1);
+        path.remove_prefix(end + 1);
     }
     return FileDescriptor(
-        ::openat(reached.isOpen() ? reached.get() : root, std::string(place).c_str(), flags));
+        ::openat(reached.isOpen() ? reached.get() : root, std::string(path).c_str(), flags));
 }
 
 /// One walk, by one thread or several.
@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    /// Waits while another thread may still find folders. Gives nothing when all is done.
+    /// Waits while another thread may still find folders. Returns nothing at the end.
     std::optional<std::string> takeFolder()
     {
         std::unique_lock lock(m_mutex);
@@ -116,7 +116,7 @@ private:
         m_changed.notify_all();
     }
 
-    /// Visits the entries of a folder and gives the folders among them.
+    /// Visits the entries of a folder and returns the folders among them.
     std::vector<std::string> read(const std::string& folder, const DirectoryWalk::Visit& visit)
     {
         std::vector<std::string> found;

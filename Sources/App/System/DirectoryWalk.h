@@ -10,13 +10,13 @@
 
 /// Walks a whole folder tree, fast enough for one of a hundred thousand files.
 ///
-/// Entries come in no particular order. Symbolic links are met but never followed, except at the
-/// path given. What cannot be read is passed over. Few folders are open at a time, however deep the
-/// tree is, and it may be deeper than a path may be long. Blocks, and so belongs off the main
-/// thread.
+/// Entries come in no particular order. Symbolic links are visited but never followed, except at
+/// the given path. Folders that cannot be read are skipped. Few folders are open at a time, however
+/// deep the tree is, and it may be deeper than a path may be long. Blocks, and so belongs off the
+/// main thread.
 namespace DirectoryWalk {
 
-/// Whether entries whose name begins with a dot, and what is below them, are met.
+/// Whether entries whose name begins with a dot, and what is below them, are visited.
 enum class Hidden { include, skip };
 
 enum class Kind { regularFile, folder, other };
@@ -33,12 +33,12 @@ struct Entry
 
 using Visit = std::function<void(const Entry&)>;
 
-/// Calls `visit` for every entry below `path` until `stop` is requested. Gives false when the
+/// Calls `visit` for every entry below `path` until `stop` is requested. Returns false if the
 /// folder at `path` cannot be read.
 bool walk(const QString& path, Hidden hidden, const std::stop_token& stop, const Visit& visit);
 
-/// The same by several threads, one for each visitor: an entry is met by one of them. None of them
-/// may throw.
+/// The same by several threads, one for each visitor: each entry is visited by one of them. None of
+/// them may throw.
 bool walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
                   std::span<const Visit> visitors);
 

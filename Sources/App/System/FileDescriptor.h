@@ -30,7 +30,7 @@ public:
     [[nodiscard]] bool isOpen() const { return m_descriptor >= 0; }
     /// The descriptor, still owned; negative when there is none.
     [[nodiscard]] int get() const { return m_descriptor; }
-    /// Gives up the descriptor without closing it.
+    /// Returns the descriptor, which the caller must close.
     [[nodiscard]] int release() { return std::exchange(m_descriptor, -1); }
 
     void close()
@@ -49,7 +49,7 @@ struct Pipe
     FileDescriptor readEnd;
     FileDescriptor writeEnd;
 
-    /// Nothing, with the reason in errno, when the system gives none.
+    /// Returns nothing, and sets errno, if the system has no descriptor left.
     static std::optional<Pipe> make();
 };
 

@@ -19,7 +19,7 @@ struct CloseListing
 /// The open listing of a folder, to be read with readdir().
 using FolderListing = std::unique_ptr<DIR, CloseListing>;
 
-/// The listing of the open folder, which it takes over; null when that is none or cannot be read.
+/// Returns the listing of the open folder and takes it over; null if it cannot be read.
 inline FolderListing listingOf(FileDescriptor folder)
 {
     FolderListing listing(::fdopendir(folder.get()));
@@ -28,10 +28,10 @@ inline FolderListing listingOf(FileDescriptor folder)
     return listing;
 }
 
-/// Whether a folder, and no link to one, is at `place` in the open folder `base`.
-inline bool isFolder(int base, const std::string& place)
+/// Whether `path`, relative to the open folder `base`, is a folder and not a link to one.
+inline bool isFolder(int base, const std::string& path)
 {
     struct stat status = {};
-    return ::fstatat(base, place.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+    return ::fstatat(base, path.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
            S_ISDIR(status.st_mode);
 }

@@ -27,8 +27,8 @@ FileDescriptor openFolder(const QString& path)
     throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
 }
 
-/// The error of writing an open file or folder to the disk; 0 for none. Where nobody can ask for
-/// it, what is written is as durable as it will ever be, which is no reason to refuse it.
+/// The error of writing an open file or folder to the disk; 0 for none. Where a program cannot ask
+/// for it, what is written is as durable as it will ever be, which is no reason to refuse it.
 int write(const FileDescriptor& file)
 {
     return ::fsync(file.get()) == 0 || isUnsupported(errno) ? 0 : errno;

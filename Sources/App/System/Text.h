@@ -10,7 +10,7 @@
 /// The text files of the game, and text in general, read by the same rules everywhere.
 namespace Text {
 
-/// The largest text file that is read, so that no single file of a game can fill memory.
+/// The maximum size of a text file that is read, so that no file of a game can fill memory.
 constexpr qint64 maxFileSize = qint64{64} * 1024 * 1024;
 
 /// Returns the whole text of the regular file at `path`; nothing if it is missing, unreadable, not

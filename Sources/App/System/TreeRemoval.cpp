@@ -136,7 +136,7 @@ bool TreeRemoval::isMount(int folder, const char* name) const
     return mount && mount != m_mount;
 }
 
-/// Removes what is not a folder; gives false for a folder.
+/// Removes anything but a folder; returns false for a folder.
 bool TreeRemoval::removeFile(int parent, const std::string& name)
 {
     if (::unlinkat(parent, name.c_str(), 0) == 0)
@@ -167,7 +167,7 @@ void TreeRemoval::enter(int parent, const std::string& name)
     struct stat status = {};
     if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0 || !unlock(opened.get(), status)) {
         const auto error = errno;
-        // When it is empty, it can be removed though it is somebody else's.
+        // An empty folder can be removed although another user owns it.
         if (::unlinkat(parent, name.c_str(), AT_REMOVEDIR) != 0)
             report(name, error);
         return;
@@ -220,7 +220,7 @@ void TreeRemoval::removeEntries(Folder& folder)
 void TreeRemoval::report(const std::string& name, int errorNumber)
 {
     if (errorNumber == ENOENT)
-        return; // Somebody else has removed it.
+        return; // It has been removed meanwhile.
     report(name, QString::fromStdString(std::generic_category().message(errorNumber)));
 }
 

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The longest path that a link may hold here, and a byte more to see that one is longer.
+/// The maximum length of a link's target, and one byte to detect a longer one.
 constexpr std::size_t maxTargetRead = 2049;
 
 ZipError unreadable(const QString& reason)

@@ -95,7 +95,7 @@ void unpack(const ZipArchive& archive, const std::vector<ZipEntry>& entries, Zip
     tree.makeLinks(stop);
 }
 
-/// Gives the memory that a large archive took back to the system: the allocator would keep it.
+/// Returns the memory of a large archive to the system; the allocator would keep it.
 void trimMemory()
 {
 #if defined(__GLIBC__)

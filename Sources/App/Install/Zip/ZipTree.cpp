@@ -29,44 +29,43 @@ ZipTree::ZipTree(const QString& destination)
                                        errno);
 }
 
-void ZipTree::makeFolder(const std::string& place)
+void ZipTree::makeFolder(const std::string& path)
 {
-    if (place.empty() || m_made.contains(place))
+    if (path.empty() || m_made.contains(path))
         return;
-    const auto slash = place.rfind('/');
+    const auto slash = path.rfind('/');
     if (slash != std::string::npos)
-        makeFolder(place.substr(0, slash));
-    if (::mkdirat(m_folder.get(), place.c_str(), executableMode) != 0) {
+        makeFolder(path.substr(0, slash));
+    if (::mkdirat(m_folder.get(), path.c_str(), executableMode) != 0) {
         const auto reason = errno;
-        if (reason != EEXIST || !isFolder(m_folder.get(), place)) {
+        if (reason != EEXIST || !isFolder(m_folder.get(), path)) {
             throw PlatformError::fromErrno(
-                PlatformError::tr("create the folder “%1”").arg(QString::fromStdString(place)),
+                PlatformError::tr("create the folder “%1”").arg(QString::fromStdString(path)),
                 reason);
         }
     }
-    m_made.insert(place);
+    m_made.insert(path);
 }
 
-OutputFile ZipTree::makeFile(const QByteArray& place, bool executable)
+OutputFile ZipTree::makeFile(const QByteArray& path, bool executable)
 {
-    makeFolderAbove(place);
-    return OutputFile(m_folder.get(), place, executable ? executableMode : plainMode);
+    makeFolderAbove(path);
+    return OutputFile(m_folder.get(), path, executable ? executableMode : plainMode);
 }
 
-void ZipTree::addLink(const QByteArray& place, const QByteArray& target)
+void ZipTree::addLink(const QByteArray& path, const QByteArray& target)
 {
-    m_links.push_back({place, target});
+    m_links.push_back({path, target});
 }
 
 void ZipTree::makeLinks(const std::stop_token& stop)
 {
     for (const auto& link : m_links) {
         throwIfCancelled(stop);
-        makeFolderAbove(link.place);
-        if (::symlinkat(link.target.constData(), m_folder.get(), link.place.constData()) != 0) {
+        makeFolderAbove(link.path);
+        if (::symlinkat(link.target.constData(), m_folder.get(), link.path.constData()) != 0) {
             throw PlatformError::fromErrno(
-                PlatformError::tr("create the link “%1”").arg(QFile::decodeName(link.place)),
-                errno);
+                PlatformError::tr("create the link “%1”").arg(QFile::decodeName(link.path)), errno);
         }
     }
 }
@@ -76,9 +75,9 @@ std::optional<qint64> ZipTree::freeSpace() const
     return ::freeSpace(m_folder.get());
 }
 
-void ZipTree::makeFolderAbove(const QByteArray& place)
+void ZipTree::makeFolderAbove(const QByteArray& path)
 {
-    const auto slash = place.lastIndexOf('/');
+    const auto slash = path.lastIndexOf('/');
     if (slash > 0)
-        makeFolder(place.first(slash).toStdString());
+        makeFolder(path.first(slash).toStdString());
 }

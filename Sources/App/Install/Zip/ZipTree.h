@@ -15,38 +15,38 @@
 
 /// The files, folders and links that an archive is unpacked to, below one folder.
 ///
-/// Links are made last, so that while files are written none of the archive's leads anywhere. Every
-/// place is relative to the folder, and has been vetted.
+/// Links are made last, so that no file is written through one. Paths are relative to the folder
+/// and must have been vetted.
 class ZipTree final
 {
 public:
     /// Below the existing folder `destination`. Throws PlatformError.
     explicit ZipTree(const QString& destination);
 
-    /// Makes the folder with missing parents; one that is there already will do. The empty place is
+    /// Creates the folder and its missing parents. An existing folder is kept. An empty path means
     /// the folder itself. Throws PlatformError.
-    void makeFolder(const std::string& place);
+    void makeFolder(const std::string& path);
 
     /// Creates the file, with the folders above. Throws PlatformError.
-    OutputFile makeFile(const QByteArray& place, bool executable);
+    OutputFile makeFile(const QByteArray& path, bool executable);
 
-    void addLink(const QByteArray& place, const QByteArray& target);
+    void addLink(const QByteArray& path, const QByteArray& target);
 
-    /// Makes the links that were added. Throws PlatformError, or Cancelled when `stop` is
+    /// Creates the links that were added. Throws PlatformError, or Cancelled when `stop` is
     /// requested.
     void makeLinks(const std::stop_token& stop);
 
-    /// The bytes that the file system has room for; nothing if it does not say.
+    /// The free bytes of the file system; nothing if it does not tell.
     [[nodiscard]] std::optional<qint64> freeSpace() const;
 
 private:
     struct Link
     {
-        QByteArray place;
+        QByteArray path;
         QByteArray target;
     };
 
-    void makeFolderAbove(const QByteArray& place);
+    void makeFolderAbove(const QByteArray& path);
 
     FileDescriptor m_folder;
     std::unordered_set<std::string> m_made;

@@ -54,10 +54,10 @@ void pushParts(std::vector<std::string>& rest, std::string_view first)
     rest.insert(rest.end(), parts.rbegin(), parts.rend());
 }
 
-std::string folderOf(const std::string& place)
+std::string folderOf(const std::string& path)
 {
-    const auto slash = place.rfind('/');
-    return slash == std::string::npos ? std::string() : place.substr(0, slash);
+    const auto slash = path.rfind('/');
+    return slash == std::string::npos ? std::string() : path.substr(0, slash);
 }
 
 } // namespace
@@ -72,15 +72,15 @@ void ZipVetting::add(const ZipEntry& entry)
         throw refusal(entry, u"is compressed in a way that is not supported"_s);
     if (entry.setsUserOrGroup)
         throw refusal(entry, u"would run with another user's rights"_s);
-    const auto place = entryPath(entry).toStdString();
-    if (place.empty() && entry.kind != ZipEntry::Kind::folder)
+    const auto path = entryPath(entry).toStdString();
+    if (path.empty() && entry.kind != ZipEntry::Kind::folder)
         throw refusal(entry, u"has no name"_s);
     if (entry.kind == ZipEntry::Kind::link &&
         (entry.target.isEmpty() || entry.target.size() > maxPathLength))
         throw refusal(entry, u"leads nowhere"_s);
     addSizes(entry);
-    addFoldersAbove(entry, place);
-    addPlace(entry, place);
+    addFoldersAbove(entry, path);
+    addPath(entry, path);
 }
 
 QByteArray ZipVetting::entryPath(const ZipEntry& entry)
@@ -92,7 +92,7 @@ QByteArray ZipVetting::entryPath(const ZipEntry& entry)
         throw refusal(entry, u"has too long a name"_s);
     if (name.startsWith('/'))
         throw refusal(entry, u"would lie outside the folder"_s);
-    QByteArray place;
+    QByteArray path;
     qsizetype depth = 0;
     for (const auto part : partsOf({name.constData(), static_cast<std::size_t>(name.size())})) {
         const QByteArrayView view(part);
@@ -100,11 +100,11 @@ QByteArray ZipVetting::entryPath(const ZipEntry& entry)
             throw refusal(entry, u"would lie outside the folder"_s);
         if (view.size() > maxPartLength || ++depth > maxDepth)
             throw refusal(entry, u"has too long a name"_s);
-        if (!place.isEmpty())
-            place.append('/');
-        place.append(view);
+        if (!path.isEmpty())
+            path.append('/');
+        path.append(view);
     }
-    return place;
+    return path;
 }
 
 void ZipVetting::checkOverlap(qint64 archiveSize) const
@@ -126,40 +126,40 @@ void ZipVetting::addSizes(const ZipEntry& entry)
     m_totalSize = entry.size > max - m_totalSize ? max : m_totalSize + entry.size;
 }
 
-void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& place)
+void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& path)
 {
-    for (auto folder = folderOf(place); !folder.empty(); folder = folderOf(folder)) {
-        const auto [known, isNew] = m_places.try_emplace(folder);
+    for (auto folder = folderOf(path); !folder.empty(); folder = folderOf(folder)) {
+        const auto [known, isNew] = m_paths.try_emplace(folder);
         if (known->second.kind != ZipEntry::Kind::folder)
             throw refusal(entry, u"would lie below a file or a link"_s);
         if (!isNew)
             return;
-        countPlace(folder.size());
+        countPath(folder.size());
     }
 }
 
-void ZipVetting::countPlace(std::size_t bytes)
+void ZipVetting::countPath(std::size_t bytes)
 {
     m_rememberedBytes += bytes;
-    if (m_places.size() > maxPaths || m_rememberedBytes > maxRememberedBytes)
+    if (m_paths.size() > maxPaths || m_rememberedBytes > maxRememberedBytes)
         throw ZipError(u"The archive has too many files and folders."_s);
 }
 
-void ZipVetting::addPlace(const ZipEntry& entry, const std::string& place)
+void ZipVetting::addPath(const ZipEntry& entry, const std::string& path)
 {
-    const auto [known, isNew] = m_places.try_emplace(place);
+    const auto [known, isNew] = m_paths.try_emplace(path);
     if (!isNew && (known->second.hasOwnEntry || entry.kind != ZipEntry::Kind::folder))
         throw refusal(entry, u"occurs twice"_s);
     known->second = {entry.kind, true, entry.target.toStdString()};
-    countPlace(place.size() + known->second.target.size());
+    countPath(path.size() + known->second.target.size());
 }
 
 void ZipVetting::checkLinks(const std::stop_token& stop) const
 {
     auto stepsLeft = maxStepsOfAllLinks;
-    for (const auto& [place, what] : m_places) {
+    for (const auto& [path, what] : m_paths) {
         if (what.kind == ZipEntry::Kind::link)
-            checkLink(place, stepsLeft, stop);
+            checkLink(path, stepsLeft, stop);
     }
 }
 
@@ -196,8 +196,8 @@ void ZipVetting::checkLink(const std::string& link, int& stepsLeft,
         // The system follows no longer path either, and each step costs as much as it is long.
         if (next.size() > static_cast<std::size_t>(maxPathLength))
             refuse(u"leads along too long a path"_s);
-        const auto known = m_places.find(next);
-        if (known == m_places.end() || known->second.kind != ZipEntry::Kind::link) {
+        const auto known = m_paths.find(next);
+        if (known == m_paths.end() || known->second.kind != ZipEntry::Kind::link) {
             here = std::move(next);
             continue;
         }
