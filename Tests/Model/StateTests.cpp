@@ -159,6 +159,7 @@ TEST_F(State, quotesAtMostThirtyLogLinesInAFailureReport)
 
 TEST_F(State, namesEachPhaseInItsOwnWords)
 {
+    durations = {};
     startModel();
     AppModelAccess::setStep(model(), u"the step"_s);
     AppModelAccess::setPhase(model(), Phase::downloading());

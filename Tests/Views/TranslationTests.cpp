@@ -71,7 +71,8 @@ TEST_F(TranslationTest, reachesEveryTextOfTheWindowInEveryPhase)
     for (const auto& phase : {Phase::notDownloaded(), Phase::downloading(), Phase::settingUp(),
                               Phase::ready(), Phase::playing(), Phase::needs(u"It broke."_s)}) {
         enter(phase);
-        expectTranslated(window(), {u"summary"_s, u"MIT \u00b7 author"_s, u"It broke."_s});
+        expectTranslated(window(), {GameFacts::launcherName.toString(), u"summary"_s,
+                                    u"MIT \u00b7 author"_s, u"It broke."_s});
     }
 }
 

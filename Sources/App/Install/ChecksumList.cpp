@@ -5,7 +5,6 @@
 #include "System/Errors.h"
 #include "System/Text.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QStringView>
 
@@ -49,10 +48,9 @@ QStringView withoutAsterisks(QStringView name)
 void refuseIfTooLarge(qint64 size)
 {
     if (size > maxListSize) {
-        throw AppError(QCoreApplication::translate(
-                           "ChecksumList",
-                           "The engine checksum list is larger than %1 MiB, so it was not read.")
-                           .arg(maxListSize / mebibyte));
+        throw AppError(
+            AppError::tr("The engine checksum list is larger than %1 MiB, so it was not read.")
+                .arg(maxListSize / mebibyte));
     }
 }
 
@@ -67,8 +65,7 @@ QByteArray ChecksumList::download(const QUrl& url, std::chrono::milliseconds sta
             [](int status, qint64 length) {
                 if (status != 200) {
                     throw AppError(
-                        QCoreApplication::translate(
-                            "ChecksumList", "Could not read the engine checksum list (HTTP %1).")
+                        AppError::tr("Could not read the engine checksum list (HTTP %1).")
                             .arg(status));
                 }
                 refuseIfTooLarge(length);

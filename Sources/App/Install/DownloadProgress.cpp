@@ -3,8 +3,6 @@
 
 #include "System/ByteCount.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 
@@ -22,10 +20,8 @@ QString DownloadProgress::text() const
     if (!std::isfinite(bytesPerSecond))
         qFatal("A download's rate must be finite.");
     const auto amount = formattedByteCount(received);
-    const auto rate = QCoreApplication::translate("DownloadProgress", "%1/s")
-                          .arg(formattedByteCount(static_cast<qint64>(bytesPerSecond)));
+    const auto rate = tr("%1/s").arg(formattedByteCount(static_cast<qint64>(bytesPerSecond)));
     if (total < 1)
-        return QCoreApplication::translate("DownloadProgress", "%1 · %2").arg(amount, rate);
-    return QCoreApplication::translate("DownloadProgress", "%1 of %2 · %3")
-        .arg(amount, formattedByteCount(total), rate);
+        return tr("%1 · %2").arg(amount, rate);
+    return tr("%1 of %2 · %3").arg(amount, formattedByteCount(total), rate);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <chrono>
@@ -8,6 +9,9 @@
 /// How far a download has come.
 struct DownloadProgress
 {
+    Q_DECLARE_TR_FUNCTIONS(DownloadProgress)
+
+public:
     /// Bytes written to disk so far.
     qint64 received = 0;
     /// Bytes expected in all, as the server announced; below 1 when unknown.

@@ -7,11 +7,11 @@
 #include "Install/Http/WebHost.h"
 #include "Install/Paths.h"
 #include "Process/ManagedProcess.h"
+#include "Project/GameFacts.h"
 #include "System/Errors.h"
 #include "System/InputFile.h"
 #include "System/OffThread.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QScopeGuard>
 
@@ -77,9 +77,7 @@ QString readChecksum(const QString& archiveName, std::chrono::milliseconds stall
     const auto list = ChecksumList::download(url, stallTimeout, stop);
     const auto digest = ChecksumList::digestFor(list, archiveName);
     if (!digest) {
-        throw AppError(
-            QCoreApplication::translate("EngineManager", "The checksum list has no entry for %1.")
-                .arg(archiveName));
+        throw AppError(AppError::tr("The checksum list has no entry for %1.").arg(archiveName));
     }
     return *digest;
 }
@@ -89,8 +87,7 @@ void verify(const InputFile& archive, const QString& expected, const LogCallback
 {
     log(u"Checking the download against the official SHA-512 checksum…"_s);
     if (EngineManager::sha512(archive, stop) != expected) {
-        throw AppError(QCoreApplication::translate(
-            "EngineManager",
+        throw AppError(AppError::tr(
             "The engine download did not match its official checksum, so it was discarded."));
     }
     log(u"Checksum OK."_s);
@@ -130,8 +127,7 @@ QString installEngine(const EngineManager& manager, const FileDownloader& downlo
         downloader, log, stop, platform);
     const auto program = manager.executable();
     if (!program)
-        throw AppError(QCoreApplication::translate(
-            "EngineManager", "The engine was unpacked but its program was not found."));
+        throw AppError(AppError::tr("The engine was unpacked but its program was not found."));
     return *program;
 }
 
@@ -139,7 +135,7 @@ QString installEngine(const EngineManager& manager, const FileDownloader& downlo
 
 QString EngineManager::version()
 {
-    return u"3.5.3-stable"_s;
+    return GameFacts::engineVersion.toString();
 }
 
 QString EngineManager::archiveName() const
@@ -163,7 +159,7 @@ QUrl EngineManager::releaseURL(const QString& fileName)
                        u"/godotengine/godot/releases/download/%1/%2"_s.arg(version(), fileName),
                    QUrl::StrictMode);
     if (!url.isValid())
-        throw AppError(QCoreApplication::translate("EngineManager", "Invalid engine URL."));
+        throw AppError(AppError::tr("Invalid engine URL."));
     return url;
 }
 

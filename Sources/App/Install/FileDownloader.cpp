@@ -9,7 +9,6 @@
 #include "System/FileTree.h"
 #include "System/OutputFile.h"
 
-#include <QCoreApplication>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -68,7 +67,7 @@ private:
     const std::optional<qint64> m_free;
 };
 
-/// Moves the complete file to the place of whatever has its name.
+/// Moves the complete file to its final name, replacing what is there.
 void moveInto(const QString& destination, const QString& part)
 {
     FileTree::remove(destination);
@@ -100,8 +99,7 @@ InputFile FileDownloader::start(const QUrl& url, const QString& into,
             [&](int status, qint64 length) {
                 if (status != 200) {
                     throw AppError(
-                        QCoreApplication::translate("FileDownloader",
-                                                    "The server answered with HTTP %1 for %2.")
+                        AppError::tr("The server answered with HTTP %1 for %2.")
                             .arg(QString::number(status), url.toString(QUrl::FullyEncoded)));
                 }
                 total = length;

@@ -3,6 +3,7 @@
 
 #include "Install/TemporaryFolder.h"
 #include "Platform/Platform.h"
+#include "Project/GameFacts.h"
 #include "System/DirectoryWalk.h"
 #include "System/Errors.h"
 
@@ -23,7 +24,7 @@ namespace {
 
 const auto stagingInfix = u".new-"_s;
 const auto asideInfix = u".old-"_s;
-const auto temporaryPrefix = u"CavernyxPlatformer-"_s;
+const auto temporaryPrefix = GameFacts::launcherName.toString().remove(u' ') + u'-';
 
 /// As long as every random UUID in its text form.
 constexpr qsizetype uuidLength = 36;
@@ -65,7 +66,7 @@ qint64 allocatedSize(const DirectoryWalk::Entry& entry)
 
 QString Paths::root()
 {
-    return hostPlatform().applicationSupport() + u"/Cavernyx Platformer"_s;
+    return hostPlatform().applicationSupport() + u"/%1"_s.arg(GameFacts::launcherName);
 }
 
 QString Paths::game()
@@ -80,7 +81,7 @@ QString Paths::engines()
 
 QString Paths::lockFile()
 {
-    return hostPlatform().applicationSupport() + u"/.Cavernyx Platformer.lock"_s;
+    return hostPlatform().applicationSupport() + u"/.%1.lock"_s.arg(GameFacts::launcherName);
 }
 
 QString Paths::newUuid()

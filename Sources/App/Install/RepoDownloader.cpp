@@ -10,18 +10,11 @@
 #include "System/Errors.h"
 #include "System/OffThread.h"
 
-#include <QCoreApplication>
-
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString branch()
-{
-    return u"master"_s;
-}
 
 bool isPlayable(const std::optional<ProjectInfo>& info)
 {
@@ -39,8 +32,7 @@ void check(const QString& staging, const QString& game)
 {
     const auto project = ProjectInspector::findProject(staging);
     if (!project)
-        throw AppError(QCoreApplication::translate(
-            "RepoDownloader", "The downloaded game does not contain a project.godot file."));
+        throw AppError(AppError::tr("The downloaded game does not contain a project.godot file."));
     // A first installation goes on in any case, and the setup then says what is wrong.
     auto info = ProjectInspector::inspect(*project);
     if (!isPlayable(info) && hasPlayableGame(game))
@@ -52,7 +44,8 @@ QString install(const FileDownloader& downloader, const LogCallback& log,
 {
     const auto game = Paths::game();
     installArchive(
-        {.announcement = u"Downloading the game source from GitHub (branch %1)…"_s.arg(branch()),
+        {.announcement =
+             u"Downloading the game source from GitHub (branch %1)…"_s.arg(RepoDownloader::branch),
          .url = RepoDownloader::zipURL,
          .target = game,
          .verify = [&log](const InputFile&) { log(u"Unpacking the game with ditto…"_s); },
@@ -60,8 +53,8 @@ QString install(const FileDownloader& downloader, const LogCallback& log,
         downloader, log, stop, hostPlatform());
     const auto project = ProjectInspector::findProject(game);
     if (!project)
-        throw AppError(QCoreApplication::translate(
-            "RepoDownloader", "The game folder was unpacked but project.godot was not found."));
+        throw AppError(
+            AppError::tr("The game folder was unpacked but project.godot was not found."));
     log(u"Game ready at %1"_s.arg(*project));
     return *project;
 }
@@ -77,10 +70,10 @@ RefusedUpdate::RefusedUpdate(std::optional<ProjectInfo> info, RepoFacts facts)
 QUrl RepoDownloader::zipURL()
 {
     const QUrl url(webHost() +
-                       u"/brindlework-demos/tetherwalk/archive/refs/heads/%1.zip"_s.arg(branch()),
+                       u"/%1/archive/refs/heads/%2.zip"_s.arg(GameFacts::repository, branch),
                    QUrl::StrictMode);
     if (!url.isValid())
-        throw AppError(QCoreApplication::translate("RepoDownloader", "Invalid game URL."));
+        throw AppError(AppError::tr("Invalid game URL."));
     return url;
 }
 

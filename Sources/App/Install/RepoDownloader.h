@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Process/LogStore.h"
+#include "Project/GameFacts.h"
 #include "Project/ProjectInfo.h"
 
 #include <QFuture>
@@ -32,8 +33,10 @@ private:
     RepoFacts m_facts;
 };
 
-/// Installs the game: downloads the branch archive of its repository and puts it in place.
+/// Installs the game: downloads the branch archive of its repository and moves it to Paths::game().
 namespace RepoDownloader {
+
+inline constexpr QStringView branch = GameFacts::branch;
 
 /// The address of the archive. Throws AppError "Invalid game URL.".
 QUrl zipURL();

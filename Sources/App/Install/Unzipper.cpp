@@ -7,8 +7,6 @@
 #include "System/Errors.h"
 #include "System/InputFile.h"
 
-#include <QCoreApplication>
-
 void Unzipper::unzip(const InputFile& archive, const QString& destination, const LogCallback& log,
                      const std::stop_token& stop, const Platform& platform)
 {
@@ -17,8 +15,6 @@ void Unzipper::unzip(const InputFile& archive, const QString& destination, const
     const auto status = tool ? runTool(tool->program, tool->arguments, log, stop)
                              : ZipExtractor::extract(archive, destination, log, stop);
     if (status != 0) {
-        throw AppError(
-            QCoreApplication::translate("Unzipper", "Unzipping failed (ditto exit code %1).")
-                .arg(status));
+        throw AppError(AppError::tr("Unzipping failed (ditto exit code %1).").arg(status));
     }
 }

@@ -6,6 +6,7 @@
 #include "Install/Paths.h"
 #include "Model/Desktop.h"
 #include "Model/ProgressRelay.h"
+#include "Project/GameFacts.h"
 #include "Project/ProjectInspector.h"
 #include "System/ByteCount.h"
 #include "System/Errors.h"
@@ -24,6 +25,11 @@ const auto fullscreenKey = u"fullscreen"_s;
 const auto resolutionKey = u"resolution"_s;
 
 constexpr int logBound = 2000;
+
+int wholeSeconds(std::chrono::milliseconds duration)
+{
+    return static_cast<int>(std::chrono::ceil<std::chrono::seconds>(duration).count());
+}
 
 } // namespace
 
@@ -73,8 +79,9 @@ QString AppModel::statusDetail() const
     case Phase::Kind::needs:
         return m_phase.message();
     case Phase::Kind::notDownloaded:
-        return tr("Downloads the game and the Godot engine once, about 70 MB for the engine plus "
-                  "the game's files. Nothing to type.");
+        return tr("Downloads the game and the Godot engine once, about %1 MB for the engine plus "
+                  "the game's files. Nothing to type.")
+            .arg(GameFacts::engineMegabytes);
     case Phase::Kind::downloading:
     case Phase::Kind::settingUp:
         return m_stepText;
@@ -82,7 +89,8 @@ QString AppModel::statusDetail() const
         return tr("Everything is installed. Press Play.");
     case Phase::Kind::playing:
         return m_stillStarting
-                   ? tr("The game was launched. Waiting 10 seconds to make sure it stays open.")
+                   ? tr("The game was launched. Waiting %n seconds to make sure it stays open.",
+                        nullptr, wholeSeconds(m_durations.startupThreshold))
                    : tr("The game is running in its own window.");
     }
     Q_UNREACHABLE();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Project/GameFacts.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -28,12 +30,11 @@ struct ProjectInfo
 /// for whatever it does not say.
 struct RepoFacts
 {
-    QString summary = QStringLiteral("A short platform/adventure demo project to teach how to "
-                                     "create similar 2D games, inspired by cavernyxes.");
+    QString summary = GameFacts::summary.toString();
     /// The licence's name.
-    QString license = QStringLiteral("MIT License");
+    QString license = GameFacts::license.toString();
     /// The whole copyright line of the licence file.
-    QString author = QStringLiteral("Quennet (Brindlework)");
+    QString author = GameFacts::author.toString();
 
     bool operator==(const RepoFacts&) const = default;
 };

@@ -6,6 +6,7 @@
 #include "Install/Paths.h"
 #include "Model/AppModel.h"
 #include "Platform/ColorScheme.h"
+#include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
 #include "Shell/SingleInstance.h"
 #include "Shell/WidgetDesktop.h"
@@ -36,10 +37,10 @@ namespace {
 /// Sets what has to be known before the application is constructed.
 void prepare()
 {
-    QCoreApplication::setOrganizationName(u"Cavernyx Platformer"_s);
-    QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
+    QCoreApplication::setOrganizationName(GameFacts::launcherName.toString());
+    QCoreApplication::setApplicationName(GameFacts::launcherName.toString());
     QCoreApplication::setApplicationVersion(QStringLiteral(CAVERNYX_VERSION));
-    QGuiApplication::setDesktopFileName(u"io.github.brindlework_demos.CavernyxPlatformer"_s);
+    QGuiApplication::setDesktopFileName(GameFacts::applicationId.toString());
     // Fractional scales are not rounded, so that sizes stay exact.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -56,8 +57,8 @@ void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString
     startMessages.append(message);
     if (type != QtFatalMsg)
         return;
-    std::fputs("Cavernyx Platformer needs a graphical desktop, and no display could be opened.\n",
-               stderr);
+    std::fprintf(stderr, "%s needs a graphical desktop, and no display could be opened.\n",
+                 qPrintable(GameFacts::launcherName.toString()));
     std::_Exit(EXIT_FAILURE);
 }
 
@@ -185,18 +186,19 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
 
 void CavernyxPlatformerApp::warnNoAnswer()
 {
-    const auto sentence =
-        tr("Cavernyx Platformer is already running, but does not answer. Close it first.");
+    const auto sentence = tr("%1 is already running, but does not answer. Close it first.")
+                              .arg(GameFacts::launcherName);
     std::fputs(qPrintable(sentence + u'\n'), stderr);
     QMessageBox::warning(nullptr, QCoreApplication::applicationName(), sentence);
 }
 
 void CavernyxPlatformerApp::loadTranslation()
 {
+    const auto program = GameFacts::programName.toString();
     const auto folder =
-        QCoreApplication::applicationDirPath() + u"/../share/cavernyx-platformer/translations"_s;
+        u"%1/../share/%2/translations"_s.arg(QCoreApplication::applicationDirPath(), program);
     // Qt's own texts, such as the context menu of a selectable text, follow our language.
-    if (installTranslation(u"cavernyx-platformer"_s, folder))
+    if (installTranslation(program, folder))
         installTranslation(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 

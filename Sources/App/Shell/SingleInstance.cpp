@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/SingleInstance.h"
 
+#include "Project/GameFacts.h"
 #include "System/InstallationLock.h"
 
 #include <QCryptographicHash>
@@ -63,7 +64,8 @@ QString SingleInstance::serverName(const QString& lockFile)
     const auto folder = QFileInfo(file.path()).canonicalFilePath();
     const auto path = folder.isEmpty() ? lockFile : folder + u'/' + file.fileName();
     const auto key = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256);
-    return u"cavernyx-platformer-%1-%2"_s.arg(::geteuid())
+    return u"%1-%2-%3"_s.arg(GameFacts::programName)
+        .arg(::geteuid())
         .arg(QString::fromLatin1(key.toHex().first(16)));
 }
 

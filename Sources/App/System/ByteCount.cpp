@@ -11,17 +11,20 @@ namespace {
 
 struct Unit
 {
+    Q_DECLARE_TR_FUNCTIONS(Unit)
+
+public:
     qint64 bytes;
     int decimals;
     const char* pattern;
 };
 
 constexpr std::array units{
-    Unit{1'000, 0, QT_TRANSLATE_NOOP("ByteCount", "%1 KB")},
-    Unit{1'000'000, 1, QT_TRANSLATE_NOOP("ByteCount", "%1 MB")},
-    Unit{1'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 GB")},
-    Unit{1'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 TB")},
-    Unit{1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 PB")},
+    Unit{1'000, 0, QT_TRANSLATE_NOOP("Unit", "%1 KB")},
+    Unit{1'000'000, 1, QT_TRANSLATE_NOOP("Unit", "%1 MB")},
+    Unit{1'000'000'000, 2, QT_TRANSLATE_NOOP("Unit", "%1 GB")},
+    Unit{1'000'000'000'000, 2, QT_TRANSLATE_NOOP("Unit", "%1 TB")},
+    Unit{1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("Unit", "%1 PB")},
 };
 
 QString withoutTrailingZeros(QString number)
@@ -46,11 +49,11 @@ QString inUnit(qint64 bytes, const Unit& unit)
 QString formattedByteCount(qint64 bytes)
 {
     if (bytes == 0)
-        return QCoreApplication::translate("ByteCount", "Zero KB");
+        return Unit::tr("Zero KB");
     if (bytes == 1)
-        return QCoreApplication::translate("ByteCount", "1 byte");
+        return Unit::tr("1 byte");
     if (bytes > -1'000 && bytes < 1'000)
-        return QCoreApplication::translate("ByteCount", "%1 bytes").arg(bytes);
+        return Unit::tr("%1 bytes").arg(bytes);
     const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
     std::size_t index = 0;
     while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
@@ -59,5 +62,5 @@ QString formattedByteCount(qint64 bytes)
     auto number = inUnit(bytes, units[index]);
     if (index + 1 < units.size() && (number == "1000"_L1 || number == "-1000"_L1))
         number = inUnit(bytes, units[++index]);
-    return QCoreApplication::translate("ByteCount", units[index].pattern).arg(number);
+    return Unit::tr(units[index].pattern).arg(number);
 }

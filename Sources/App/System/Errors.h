@@ -11,10 +11,13 @@
 
 /// A failure in words for the player: one whole sentence, shown as it stands.
 ///
-/// It describes what went wrong in the launcher's own terms. What the operating system or the
-/// network reports is a PlatformError; a cancellation by the player is Cancelled.
+/// It describes what went wrong in the launcher's own terms, as AppError::tr("…"). What the
+/// operating system or the network reports is a PlatformError; a cancellation by the player is
+/// Cancelled.
 class AppError final : public std::runtime_error
 {
+    Q_DECLARE_TR_FUNCTIONS(AppError)
+
 public:
     explicit AppError(const QString& message)
         : std::runtime_error(message.toStdString())

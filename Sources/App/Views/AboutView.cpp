@@ -4,6 +4,8 @@
 #include "Controls/LinkLabel.h"
 #include "Controls/TextLabel.h"
 
+#include "Project/GameFacts.h"
+
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -15,15 +17,10 @@ AboutView::AboutView(QWidget* parent)
         10,
         {
             new TextLabel(TextStyle::title2, tr("About")),
-            new TextLabel(
-                TextStyle::body,
-                tr("The game \"Snaglet!\" is made by Quennet and the Brindlework team, 2019, and "
-                   "is released under the MIT License. The game belongs to its author; this app "
-                   "is only a launcher that downloads it.")),
-            new TextLabel(TextStyle::callout,
-                          tr("Based on brindlework-demos/tetherwalk, MIT License.")),
+            new TextLabel(TextStyle::body, GameFacts::translated(GameFacts::credits)),
+            new TextLabel(TextStyle::callout, GameFacts::translated(GameFacts::basis)),
             {new LinkLabel(TextStyle::body,
-                           QUrl(u"https://github.com/brindlework-demos/tetherwalk"_s)),
+                           QUrl(u"https://github.com/%1"_s.arg(GameFacts::repository))),
              Qt::AlignLeading},
             new TextLabel(
                 TextStyle::body,

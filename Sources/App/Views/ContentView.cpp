@@ -8,6 +8,7 @@
 #include "Controls/Stack.h"
 #include "Controls/TextLabel.h"
 #include "Model/AppModel.h"
+#include "Project/GameFacts.h"
 #include "Views/AboutView.h"
 #include "Views/HeaderArt.h"
 #include "Views/PlayPanel.h"
@@ -76,7 +77,7 @@ ContentView::ContentView(AppModel& model)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setWindowTitle(tr("Cavernyx Platformer"));
+    setWindowTitle(GameFacts::launcherName.toString());
     new ScreenFit(*this, minSize);
     new Dimmer(*this);
     m_panel->playButton().setFocus();
@@ -90,21 +91,12 @@ ContentView::ContentView(AppModel& model)
 
 QWidget* ContentView::controlsBlock()
 {
-    return verticalStack(
-        {.spacing = 4},
-        {
-            new TextLabel(TextStyle::headline, tr("Controls")),
-            controlRow(tr("Move"), tr("A / D, or the left stick")),
-            controlRow(tr("Jump"), tr("Space or W, or the A button")),
-            controlRow(tr("Grappling hook"), tr("Left mouse button, or a shoulder button")),
-            controlRow(tr("Aim"), tr("Hold F, or use the right stick")),
-            controlRow(tr("Restart"), tr("Alt + R")),
-            new TextLabel(
-                TextStyle::caption,
-                tr("The README has no controls list (see README); these come from the game's "
-                   "input settings."),
-                TextTone::secondary),
-        });
+    QList<StackItem> rows{new TextLabel(TextStyle::headline, tr("Controls"))};
+    for (const auto& [action, input] : GameFacts::controls)
+        rows.append(controlRow(GameFacts::translated(action), GameFacts::translated(input)));
+    rows.append(new TextLabel(TextStyle::caption, GameFacts::translated(GameFacts::controlsSource),
+                              TextTone::secondary));
+    return verticalStack({.spacing = 4}, rows);
 }
 
 void ContentView::open(Sheet* sheet)

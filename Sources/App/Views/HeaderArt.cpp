@@ -7,6 +7,7 @@
 #include "Controls/SystemColors.h"
 #include "Controls/TextLabel.h"
 #include "Controls/TypeScale.h"
+#include "Project/GameFacts.h"
 
 #include <QBoxLayout>
 #include <QLinearGradient>
@@ -65,10 +66,10 @@ HeaderArt::HeaderArt()
     : m_symbolRoom(new QWidget)
 {
     m_symbolRoom->setFixedSize(symbolSize);
-    auto* const title =
-        new TextLabel([] { return systemFont(30, QFont::Bold); }, tr("Cavernyx Platformer"));
+    auto* const title = new TextLabel([] { return systemFont(30, QFont::Bold); },
+                                      GameFacts::launcherName.toString());
     auto* const subtitle =
-        new TextLabel(TextStyle::subheadline, tr("A 2D grappling-hook adventure"));
+        new TextLabel(TextStyle::subheadline, GameFacts::translated(GameFacts::tagline));
     setColor(*title, Qt::white);
     setColor(*subtitle, QColor::fromRgbF(1, 1, 1, 0.85F));
     auto* const texts = verticalStack({.spacing = 2}, {title, subtitle});

@@ -4,6 +4,7 @@
 #include "Install/Http/ProxySettings.h"
 #include "Install/Http/TransferError.h"
 #include "Install/Http/WebHost.h"
+#include "Project/GameFacts.h"
 #include "System/Errors.h"
 
 #include <QCoreApplication>
@@ -50,9 +51,9 @@ bool isRedirectStatus(long status)
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-bool isHostOrBelow(const QString& host, const QString& domain)
+bool isHostOrBelow(QStringView host, QStringView domain)
 {
-    return host == domain || host.endsWith(u'.' + domain);
+    return host == domain || host.endsWith(u'.' + domain.toString());
 }
 
 /// The player was promised that nothing but GitHub is contacted.
@@ -60,8 +61,10 @@ void checkRedirect(const QUrl& download, const QUrl& next)
 {
     const QUrl home(webHost());
     const auto host = next.host();
-    const auto isKnown = host == home.host() || isHostOrBelow(host, u"github.com"_s) ||
-                         isHostOrBelow(host, u"githubusercontent.com"_s);
+    const auto isKnown =
+        host == home.host() ||
+        std::ranges::any_of(GameFacts::allowedDomains,
+                            [&host](QStringView domain) { return isHostOrBelow(host, domain); });
     const auto isEncrypted = next.scheme() == "https"_L1;
     if (!isKnown || (!isEncrypted && next.scheme() != home.scheme())) {
         throw PlatformError(
@@ -92,7 +95,7 @@ public:
         , m_proxy(ProxySettings::proxyFor(url, stop))
     {
         // The bytes as they are: a compressed body would be unpacked on the way, so that neither
-        // its length nor an early end of it could be told. And no header that nobody needs.
+        // its length nor an early end of it could be told. And no header without a use.
         m_headers.reset(curl_slist_append(nullptr, "Accept-Encoding: identity"));
         curl_slist_append(m_headers.get(), "Accept:");
         set(CURLOPT_HTTPHEADER, m_headers.get());

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringView>
+
+#include <array>
+
+/// All that is particular to the one game of this launcher. A launcher for another game made with
+/// Godot 3 changes this file, and the icons, pictures and translations beside it.
+///
+/// The build reads the names of the launcher from here for the files that desktops list it by, so
+/// each of those stands on one line.
+namespace GameFacts {
+
+// The launcher.
+
+/// Its name in the window, and of the folder that it installs into.
+inline constexpr QStringView launcherName = u"Cavernyx Platformer";
+/// The file name of its program.
+inline constexpr QStringView programName = u"cavernyx-platformer";
+/// What desktops know it by: the address of its makers, reversed, and a name.
+inline constexpr QStringView applicationId = u"io.github.brindlework_demos.CavernyxPlatformer";
+/// Who makes it, in the listings of software.
+inline constexpr QStringView developers = u"The Cavernyx Platformer developers";
+/// Where it is made, in the listings of software.
+inline constexpr QStringView homepage = u"https://github.com/brindlework-demos/CavernyxPlatformer";
+/// What it is for, in a menu of programs.
+inline constexpr QStringView purpose = u"Install and play a 2D grappling-hook adventure";
+
+// Where the game and its engine come from.
+
+/// The game's repository on GitHub, and the branch whose archive is installed.
+inline constexpr QStringView repository = u"brindlework-demos/tetherwalk";
+inline constexpr QStringView branch = u"master";
+/// The engine's release in the repository godotengine/godot.
+inline constexpr QStringView engineVersion = u"3.5.3-stable";
+/// About how much of the engine is downloaded.
+inline constexpr int engineMegabytes = 70;
+/// GitHub's own domains. Nothing else is contacted.
+inline constexpr std::array<QStringView, 2> allowedDomains{u"github.com", u"githubusercontent.com"};
+
+// What the window says of the game until it is downloaded, and wherever the game says nothing.
+
+inline constexpr QStringView summary = u"A short platform/adventure demo project to teach how to "
+                                       "create similar 2D games, inspired by cavernyxes.";
+inline constexpr QStringView license = u"MIT License";
+inline constexpr QStringView author = u"Quennet (Brindlework)";
+
+// Texts of the window, to be shown by translated().
+
+inline constexpr auto tagline = QT_TRANSLATE_NOOP("GameFacts", "A 2D grappling-hook adventure");
+
+/// One row of the game's controls.
+struct Control
+{
+    const char* action;
+    const char* input;
+};
+inline constexpr std::array controls{
+    Control{QT_TRANSLATE_NOOP("GameFacts", "Move"),
+            QT_TRANSLATE_NOOP("GameFacts", "A / D, or the left stick")},
+    Control{QT_TRANSLATE_NOOP("GameFacts", "Jump"),
+            QT_TRANSLATE_NOOP("GameFacts", "Space or W, or the A button")},
+    Control{QT_TRANSLATE_NOOP("GameFacts", "Grappling hook"),
+            QT_TRANSLATE_NOOP("GameFacts", "Left mouse button, or a shoulder button")},
+    Control{QT_TRANSLATE_NOOP("GameFacts", "Aim"),
+            QT_TRANSLATE_NOOP("GameFacts", "Hold F, or use the right stick")},
+    Control{QT_TRANSLATE_NOOP("GameFacts", "Restart"), QT_TRANSLATE_NOOP("GameFacts", "Alt + R")},
+};
+inline constexpr auto controlsSource =
+    QT_TRANSLATE_NOOP("GameFacts", "The README has no controls list (see README); these come from "
+                                   "the game's input settings.");
+
+inline constexpr auto credits = QT_TRANSLATE_NOOP(
+    "GameFacts", "The game \"Snaglet!\" is made by Quennet and the Brindlework team, 2019, and is "
+                 "released under the MIT License. The game belongs to its author; this app is only "
+                 "a launcher that downloads it.");
+inline constexpr auto basis =
+    QT_TRANSLATE_NOOP("GameFacts", "Based on brindlework-demos/tetherwalk, MIT License.");
+
+inline QString translated(const char* text)
+{
+    return QCoreApplication::translate("GameFacts", text);
+}
+
+} // namespace GameFacts
