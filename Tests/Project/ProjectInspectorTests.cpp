@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -221,6 +222,16 @@ TEST_F(FindProjectTest, looksFourLevelsDownAndNoDeeper)
     EXPECT_EQ(found(), u"none"_s);
     writeProject("1/2/3/4");
     EXPECT_EQ(found(), u"/1/2/3/4"_s);
+}
+
+TEST_F(FindProjectTest, searchesABoundedNumberOfFolders)
+{
+    writeProject("1/2/3");
+    for (int folder = 0; folder < 9'997; ++folder)
+        m_root.makeFolder(u"1/empty-%1"_s.arg(folder));
+    EXPECT_EQ(found(), u"none"_s);
+    ASSERT_TRUE(QDir().rmdir(m_root.path(u"1/empty-0"_s)));
+    EXPECT_EQ(found(), u"/1/2/3"_s);
 }
 
 TEST_F(FindProjectTest, doesNotEnterHiddenFolders)

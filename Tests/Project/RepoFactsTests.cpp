@@ -52,6 +52,16 @@ TEST_F(RepoFactsTest, ignoreAKeywordWithNothingAfterIt)
     EXPECT_EQ(facts().summary, u"First"_s);
 }
 
+TEST_F(RepoFactsTest, areReadFromABoundedAmountOfText)
+{
+    constexpr qsizetype mebibyte = 1024 * 1024;
+    write("game/LICENSE", "Inner\n" + QByteArray(3 * mebibyte, ' '));
+    write("LICENSE", "Outer\n" + QByteArray(2 * mebibyte, ' '));
+    EXPECT_EQ(facts("game").license, u"Inner"_s);
+    write("LICENSE", "Outer\n");
+    EXPECT_EQ(facts("game").license, u"Outer"_s);
+}
+
 TEST_F(RepoFactsTest, takeTheLastOfSeveralSummaries)
 {
     write("readme", "#+DESCRIPTION: First\n#+Description:Second\n");

@@ -4,13 +4,23 @@
 #include "System/Text.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The window waits for what is read here, so an archive must not decide how long that takes. No
+// game comes near these limits.
+constexpr std::size_t maxEntries = 10'000;
+constexpr qsizetype maxSearchedFolders = 10'000;
+constexpr qint64 maxFactBytes = qint64{4} * 1024 * 1024;
 
 /// The path of the project file that `folder` holds if it is a project folder.
 QString projectFile(const QString& folder)
@@ -18,21 +28,32 @@ QString projectFile(const QString& folder)
     return folder + u"/project.godot"_s;
 }
 
-QStringList entryNames(const QString& folder)
+/// The entries of `folder`, in the file system's order.
+std::vector<std::filesystem::directory_entry> entriesOf(const QString& folder)
 {
-    return QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    std::vector<std::filesystem::directory_entry> entries;
+    std::error_code error;
+    std::filesystem::directory_iterator next(QFile::encodeName(folder).toStdString(), error);
+    for (; next != std::filesystem::directory_iterator() && entries.size() < maxEntries;
+         next.increment(error))
+        entries.push_back(*next);
+    return entries;
+}
+
+QString nameOf(const std::filesystem::directory_entry& entry)
+{
+    return QFile::decodeName(entry.path().filename().c_str());
 }
 
 /// The folders directly in `folder`, without hidden ones and links.
 QStringList foldersIn(const QString& folder)
 {
     QStringList paths;
-    const auto entries = QDir(folder).entryInfoList(
-        QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::Unsorted);
-    for (const auto& entry : entries) {
-        if (!entry.fileName().startsWith(u'.'))
-            paths.append(entry.filePath());
+    for (const auto& entry : entriesOf(folder)) {
+        std::error_code error;
+        const auto isFolder = !entry.is_symlink(error) && entry.is_directory(error);
+        if (const auto name = nameOf(entry); isFolder && !name.startsWith(u'.'))
+            paths.append(folder + u'/' + name);
     }
     return paths;
 }
@@ -77,7 +98,8 @@ bool usesCSharp(const ProjectInfo& info, const QString& text)
 {
     if (info.features.contains(u"C#"_s) || text.contains(u"[mono]"))
         return true;
-    return std::ranges::any_of(entryNames(info.folder), [](const QString& name) {
+    return std::ranges::any_of(entriesOf(info.folder), [](const auto& entry) {
+        const auto name = nameOf(entry);
         return name.endsWith(u".csproj") || name.endsWith(u".sln");
     });
 }
@@ -111,18 +133,22 @@ void readReadme(const QString& text, RepoFacts& facts)
     }
 }
 
-void readFacts(const QString& folder, RepoFacts& facts)
+/// Reads the facts of one folder, from files of at most `bytesLeft` altogether.
+void readFacts(const QString& folder, qint64& bytesLeft, RepoFacts& facts)
 {
-    for (const auto& name : entryNames(folder)) {
+    const auto read = [&](const QString& name, auto readText) {
         const auto path = folder + u'/' + name;
-        if (name.startsWith(u"license", Qt::CaseInsensitive)) {
-            if (const auto text = Text::readFile(path))
-                readLicense(*text, facts);
+        if (const auto text = Text::readFile(path, bytesLeft)) {
+            bytesLeft -= QFileInfo(path).size();
+            readText(*text, facts);
         }
-        if (name.startsWith(u"readme", Qt::CaseInsensitive)) {
-            if (const auto text = Text::readFile(path))
-                readReadme(*text, facts);
-        }
+    };
+    for (const auto& entry : entriesOf(folder)) {
+        const auto name = nameOf(entry);
+        if (name.startsWith(u"license", Qt::CaseInsensitive))
+            read(name, readLicense);
+        if (name.startsWith(u"readme", Qt::CaseInsensitive))
+            read(name, readReadme);
     }
 }
 
@@ -132,12 +158,16 @@ std::optional<QString> ProjectInspector::findProject(const QString& root)
 {
     constexpr int levelCount = 5;
     QStringList level{root};
+    qsizetype searchedCount = 0;
     for (int depth = 0; depth < levelCount; ++depth) {
         QStringList next;
         for (const auto& folder : level) {
+            if (++searchedCount > maxSearchedFolders)
+                return std::nullopt;
             if (QFileInfo(projectFile(folder)).isFile())
                 return folder;
-            next += foldersIn(folder);
+            if (next.size() < maxSearchedFolders)
+                next += foldersIn(folder);
         }
         level = next;
     }
@@ -165,8 +195,9 @@ RepoFacts ProjectInspector::facts(const QString& folder, const QString& stopFold
     const auto stop = QDir::cleanPath(stopFolder);
     auto current = QDir::cleanPath(folder);
     RepoFacts facts;
+    auto bytesLeft = maxFactBytes;
     for (int count = 0; count < maxFolders; ++count) {
-        readFacts(current, facts);
+        readFacts(current, bytesLeft, facts);
         if (current == stop || current == u"/")
             break;
         current = QDir::cleanPath(current + u"/.."_s);

@@ -6,7 +6,8 @@
 #include <optional>
 
 /// Finds the game's Godot project and reads the few facts the launcher relies on. Only reads, never
-/// throws, and may be called from any thread: a problem becomes an absent result or a default.
+/// throws, and may be called from any thread: a problem becomes an absent result or a default. How
+/// much is read is bounded, whatever the folders hold.
 namespace ProjectInspector {
 
 /// The shallowest folder at or below `root`, at most four levels down, that holds a file

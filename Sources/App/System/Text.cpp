@@ -4,16 +4,16 @@
 #include <QFile>
 #include <QFileInfo>
 
-std::optional<QString> Text::readFile(const QString& path)
+std::optional<QString> Text::readFile(const QString& path, qint64 maxSize)
 {
     // Looked at before it is opened: opening a pipe would wait for its writer.
     if (!QFileInfo(path).isFile())
         return std::nullopt;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > maxFileSize)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > maxSize)
         return std::nullopt;
-    const auto bytes = file.read(maxFileSize + 1);
-    if (file.error() != QFileDevice::NoError || bytes.size() > maxFileSize)
+    const auto bytes = file.read(maxSize + 1);
+    if (file.error() != QFileDevice::NoError || bytes.size() > maxSize)
         return std::nullopt;
     if (!QByteArrayView(bytes).isValidUtf8())
         return std::nullopt;

@@ -14,9 +14,9 @@ namespace Text {
 constexpr qint64 maxFileSize = qint64{64} * 1024 * 1024;
 
 /// Returns the whole text of the regular file at `path`; nothing if it is missing, unreadable, not
-/// a regular file, larger than `maxFileSize` or not well-formed UTF-8. A byte order mark at its
+/// a regular file, larger than `maxSize` bytes or not well-formed UTF-8. A byte order mark at its
 /// beginning is the file's signature and not text.
-std::optional<QString> readFile(const QString& path);
+std::optional<QString> readFile(const QString& path, qint64 maxSize = maxFileSize);
 
 /// Returns `text` without the spaces and tabs at its ends. A carriage return stays.
 QStringView trimmedBlanks(QStringView text);
