@@ -79,7 +79,6 @@ QString webHost()
 int main(int argumentCount, char** arguments)
 {
     const QCoreApplication application(argumentCount, arguments);
-    QCoreApplication::setOrganizationName(u"Cavernyx Platformer"_s);
     QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
     const auto words = QCoreApplication::arguments();
     host = words.value(1);

@@ -16,17 +16,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(LinuxPlatform, keepsDataInTheUsersDataFolder)
+TEST(LinuxPlatform, keepsDataAndSettingsInTheUsersFolders)
 {
     const EnvironmentScope home("HOME", "/home/player");
     const EnvironmentScope data("XDG_DATA_HOME", std::nullopt);
+    const EnvironmentScope settings("XDG_CONFIG_HOME", std::nullopt);
     EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/home/player/.local/share"_s);
+    EXPECT_EQ(LinuxPlatform().configuration(), u"/home/player/.config"_s);
 }
 
-TEST(LinuxPlatform, keepsDataWhereTheEnvironmentSaysSo)
+TEST(LinuxPlatform, keepsDataAndSettingsWhereTheEnvironmentSaysSo)
 {
     const EnvironmentScope data("XDG_DATA_HOME", "/data/größe/");
+    const EnvironmentScope settings("XDG_CONFIG_HOME", "/settings/größe/");
     EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/data/größe"_s);
+    EXPECT_EQ(LinuxPlatform().configuration(), u"/settings/größe"_s);
 }
 
 TEST(LinuxPlatform, ignoresADataFolderThatIsRelativeOrEmpty)

@@ -16,6 +16,7 @@ TEST(MacPlatform, keepsDataInTheLibraryOfTheHomeFolder)
 {
     const EnvironmentScope home("HOME", "/Users/player");
     EXPECT_EQ(MacPlatform().applicationSupport(), u"/Users/player/Library/Application Support"_s);
+    EXPECT_EQ(MacPlatform().configuration(), u"/Users/player/Library/Preferences"_s);
     EXPECT_EQ(MacPlatform().savesFolder(u"Tiny: Game"_s),
               u"/Users/player/Library/Application Support/Godot/app_userdata/Tiny: Game"_s);
 }

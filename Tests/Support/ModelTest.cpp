@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSettings>
 #include <QTest>
 #include <QThreadPool>
 
@@ -17,13 +16,11 @@ using namespace std::chrono_literals;
 
 ModelTest::ModelTest()
     : m_data("XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8())
+    , m_configuration("XDG_CONFIG_HOME", home.path(u"config"_s).toUtf8())
     , m_temporary("TMPDIR", home.makeFolder(u"temporary"_s).toUtf8())
 {
     lock.tryAcquire();
-    QCoreApplication::setOrganizationName(u"Cavernyx Platformer"_s);
     QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       home.makeFolder(u"settings"_s));
     durations.startupThreshold = 300ms;
     durations.importPollInterval = 20ms;
     durations.importSettleTime = 40ms;

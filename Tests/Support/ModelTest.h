@@ -57,6 +57,7 @@ private:
     void endModel();
 
     EnvironmentScope m_data;
+    EnvironmentScope m_configuration;
     EnvironmentScope m_temporary;
     std::unique_ptr<AppModel> m_model;
 };

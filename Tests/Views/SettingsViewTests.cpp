@@ -81,6 +81,15 @@ TEST_F(SettingsViewTest, showsTheStoredSettings)
     EXPECT_EQ(resolution().currentText(), u"1920 \u00d7 1080"_s);
 }
 
+TEST_F(SettingsViewTest, doesNotStoreWhatItOnlyShows)
+{
+    home.write(u"config"_s); // No folder, so that every attempt to store is logged.
+    settings();
+    model().setFullscreen(true);
+    model().setResolution(ResolutionChoice::r1080);
+    EXPECT_EQ(logged().size(), 2);
+}
+
 TEST_F(SettingsViewTest, disablesMaintenanceWhileBusy)
 {
     const auto maintenance = {&control(u"Update the game"), &control(u"Reinstall"), &removal()};

@@ -84,6 +84,11 @@ QString Paths::lockFile()
     return hostPlatform().applicationSupport() + u"/.%1.lock"_s.arg(GameFacts::launcherName);
 }
 
+QString Paths::settingsFile()
+{
+    return hostPlatform().configuration() + u"/%1/%1.conf"_s.arg(GameFacts::launcherName);
+}
+
 QString Paths::newUuid()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();

@@ -27,6 +27,9 @@ QString engines();
 /// everything does not end the lock.
 QString lockFile();
 
+/// The file of the player's settings. Throws PlatformError as root() does.
+QString settingsFile();
+
 /// A random UUID in its standard text form: upper-case, without braces.
 QString newUuid();
 

@@ -6,6 +6,7 @@
 #include "Install/Paths.h"
 #include "Model/Desktop.h"
 #include "Model/ProgressRelay.h"
+#include "Model/StoredSettings.h"
 #include "Project/GameFacts.h"
 #include "Project/ProjectInspector.h"
 #include "System/ByteCount.h"
@@ -13,7 +14,7 @@
 #include "System/OffThread.h"
 
 #include <QFile>
-#include <QSettings>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -40,9 +41,8 @@ AppModel::AppModel(Desktop& desktop, const InstallationLock& lock, const Duratio
     , m_log(logBound, durations.logFlushInterval)
     , m_runner(durations)
 {
-    const QSettings settings;
-    m_fullscreen = settings.value(fullscreenKey, false).toBool();
-    m_resolution = resolutionChoice(settings.value(resolutionKey).toString())
+    m_fullscreen = StoredSettings::value(fullscreenKey).toBool();
+    m_resolution = resolutionChoice(StoredSettings::value(resolutionKey).toString())
                        .value_or(ResolutionChoice::gameDefault);
     clearStaleFolders();
     refreshState();
@@ -106,20 +106,29 @@ void AppModel::setShowLog(bool show)
 
 void AppModel::setFullscreen(bool fullscreen)
 {
+    store(fullscreenKey, fullscreen ? u"true"_s : u"false"_s);
     if (m_fullscreen == fullscreen)
         return;
     m_fullscreen = fullscreen;
-    QSettings().setValue(fullscreenKey, fullscreen);
     Q_EMIT changed();
 }
 
 void AppModel::setResolution(ResolutionChoice resolution)
 {
+    store(resolutionKey, rawValue(resolution));
     if (m_resolution == resolution)
         return;
     m_resolution = resolution;
-    QSettings().setValue(resolutionKey, rawValue(resolution));
     Q_EMIT changed();
+}
+
+void AppModel::store(const QString& key, const QString& value)
+{
+    try {
+        StoredSettings::setValue(key, value);
+    } catch (const PlatformError& error) {
+        m_log.append(error.message()); // The setting holds until the program ends.
+    }
 }
 
 void AppModel::refreshState()

@@ -78,7 +78,8 @@ public:
     [[nodiscard]] LogStore& log() { return m_log; }
 
     void setShowLog(bool show);
-    /// Stored at once; used by the next start of the game.
+    /// Stored at once, also when it stays what it is; used by the next start of the game. That it
+    /// could not be stored is logged.
     void setFullscreen(bool fullscreen);
     void setResolution(ResolutionChoice resolution);
 
@@ -133,6 +134,7 @@ private:
 
     // State.
     Phase phaseOnDisk();
+    void store(const QString& key, const QString& value);
     void applySize(int measurement, qint64 bytes);
     std::shared_ptr<const FileDownloader> makeDownloader();
     void applyProgress(const DownloadProgress& progress);

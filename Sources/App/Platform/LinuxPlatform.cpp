@@ -15,6 +15,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The folder that the environment variable names, else `fallback` in the home folder.
+QString userFolder(const char* variable, const QString& fallback)
+{
+    const auto folder = QFile::decodeName(qgetenv(variable));
+    if (QDir::isAbsolutePath(folder))
+        return QDir::cleanPath(folder);
+    return homeFolder() + fallback;
+}
+
 /// The files of one folder level, in plain string order of their paths.
 std::optional<QString> engineProgramAmong(const QStringList& folders)
 {
@@ -65,10 +74,12 @@ LinuxPlatform::LinuxPlatform(QString processor)
 
 QString LinuxPlatform::applicationSupport() const
 {
-    const auto dataHome = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
-    if (QDir::isAbsolutePath(dataHome))
-        return QDir::cleanPath(dataHome);
-    return homeFolder() + u"/.local/share"_s;
+    return userFolder("XDG_DATA_HOME", u"/.local/share"_s);
+}
+
+QString LinuxPlatform::configuration() const
+{
+    return userFolder("XDG_CONFIG_HOME", u"/.config"_s);
 }
 
 QString LinuxPlatform::engineArchiveSuffix(bool mono) const

@@ -16,6 +16,8 @@ public:
     /// `$XDG_DATA_HOME`, else `~/.local/share`. A relative XDG_DATA_HOME is ignored, as the XDG
     /// base directory rules say.
     [[nodiscard]] QString applicationSupport() const override;
+    /// `$XDG_CONFIG_HOME`, else `~/.config`, by the same rules.
+    [[nodiscard]] QString configuration() const override;
     /// E.g. "x11.64.zip", or "mono_x11_64.zip" for the C# edition.
     [[nodiscard]] QString engineArchiveSuffix(bool mono) const override;
     /// The shallowest regular file, then the first in plain string order, whose lower-cased name

@@ -37,6 +37,11 @@ QString MacPlatform::applicationSupport() const
     return homeFolder() + u"/Library/Application Support"_s;
 }
 
+QString MacPlatform::configuration() const
+{
+    return homeFolder() + u"/Library/Preferences"_s;
+}
+
 QString MacPlatform::engineArchiveSuffix(bool mono) const
 {
     return mono ? u"mono_osx.universal.zip"_s : u"osx.universal.zip"_s;

@@ -9,6 +9,8 @@ class MacPlatform final : public Platform
 public:
     /// `~/Library/Application Support`.
     [[nodiscard]] QString applicationSupport() const override;
+    /// `~/Library/Preferences`.
+    [[nodiscard]] QString configuration() const override;
     /// "osx.universal.zip" or "mono_osx.universal.zip"; one build serves every processor.
     [[nodiscard]] QString engineArchiveSuffix(bool mono) const override;
     /// The program of the first application bundle ("*.app") in the engine folder: in its

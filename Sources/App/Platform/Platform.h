@@ -29,6 +29,9 @@ public:
     /// known.
     [[nodiscard]] virtual QString applicationSupport() const = 0;
 
+    /// The folder for the user's settings. Throws PlatformError as applicationSupport() does.
+    [[nodiscard]] virtual QString configuration() const = 0;
+
     /// The part of the engine archive's name that names the system and the processor, ".zip"
     /// included, for the standard or the C# edition. Throws AppError for a processor without a
     /// build.

@@ -37,7 +37,6 @@ namespace {
 /// Sets what has to be known before the application is constructed.
 void prepare()
 {
-    QCoreApplication::setOrganizationName(GameFacts::launcherName.toString());
     QCoreApplication::setApplicationName(GameFacts::launcherName.toString());
     QCoreApplication::setApplicationVersion(QStringLiteral(CAVERNYX_VERSION));
     QGuiApplication::setDesktopFileName(GameFacts::applicationId.toString());

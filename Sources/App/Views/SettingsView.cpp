@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -112,6 +113,9 @@ void SettingsView::refresh()
     const auto& size = m_model.installedSize();
     const auto choice = std::ranges::find(allResolutionChoices, m_model.resolution());
 
+    // What is only shown is not the player's choice.
+    const QSignalBlocker windowBlocker(m_window);
+    const QSignalBlocker resolutionBlocker(m_resolution);
     m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
     m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));
     m_update->setEnabled(!busy);
