@@ -6,6 +6,7 @@
 #include "System/FileDescriptor.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <csignal>
 #include <thread>
@@ -18,8 +19,9 @@ namespace {
 
 using StartOfAChild = ChildTest;
 
-/// The signal's bit in the masks that the system shows.
+/// The bits of these signals in the masks that the system shows.
 constexpr qulonglong brokenPipeBit = 1ULL << (SIGPIPE - 1);
+constexpr qulonglong fileSizeBit = 1ULL << (SIGXFSZ - 1);
 
 TEST_F(StartOfAChild, ofAMissingProgramIsReportedInASentence)
 {
@@ -105,6 +107,22 @@ TEST_F(StartOfAChild, letsEverySignalThroughToTheChild)
         run(u"/bin/grep"_s, {u"SigBlk"_s, u"/proc/self/status"_s});
     }).join();
     EXPECT_EQ(lines(), QStringList{u"SigBlk:\t0000000000000000"_s});
+}
+
+TEST(ChildOfALauncherWithLimits, getsTheLimitsThatTheLauncherInherited)
+{
+    QProcess launcher;
+    launcher.start(u"/bin/sh"_s,
+                   {u"-c"_s,
+                    u"ulimit -Sn 99; exec \"$0\" ends /bin/sh -c 'ulimit -n; ulimit -Hn; "
+                    "grep SigIgn /proc/self/status'"_s,
+                    QStringLiteral(CHILD_LAUNCHER)});
+    ASSERT_TRUE(waitUntil([&] { return launcher.state() == QProcess::NotRunning; }));
+    const auto lines = launcher.readAllStandardOutput().split('\n');
+    ASSERT_GE(lines.size(), 3);
+    EXPECT_EQ(lines[0], "99");
+    EXPECT_NE(lines[1], "99");
+    EXPECT_EQ(lines[2].split('\t').last().toULongLong(nullptr, 16) & fileSizeBit, 0U);
 }
 
 TEST_F(StartOfAChild, leavesBrokenPipesDeadlyToATool)

@@ -2,6 +2,7 @@
 #include "Process/ChildProcess.h"
 
 #include "System/Errors.h"
+#include "System/InheritedAttributes.h"
 #include "System/InstallationLock.h"
 
 #include <QFile>
@@ -62,6 +63,7 @@ void unblockSignals() noexcept
     ::dup2(command.output, STDERR_FILENO);
     setCloseOnExec();
     unblockSignals();
+    InheritedAttributes::restoreInChild();
     if (command.lifetime == ChildProcess::Lifetime::endsWithLauncher)
         setParentDeathSignal(parent);
     else

@@ -12,8 +12,9 @@
 /// A child program that was started: the leader of a process group of its own, so that it can be
 /// signalled together with what it starts.
 ///
-/// It inherits the environment and the working directory. Its standard input is the null device,
-/// and no descriptor but the three standard ones is open in it.
+/// It inherits the environment, the working directory, and the limits that the launcher inherited.
+/// No signal is blocked in it, its standard input is the null device, and no descriptor but the
+/// three standard ones is open.
 class ChildProcess final
 {
 public:
