@@ -44,6 +44,15 @@ TEST_F(GameUpdateTest, updatesTheGameAndImportsItAnew)
     EXPECT_EQ(leftovers(), QStringList());
 }
 
+TEST_F(GameUpdateTest, downloadsTheGameOnceForEachUpdate)
+{
+    playToTheEnd();
+    model().updateGame();
+    waitForFlow();
+    playToTheEnd();
+    EXPECT_EQ(requestsOf(gamePath), 2);
+}
+
 TEST_F(GameUpdateTest, completesASwapThatIsUnderWayWhenItIsCancelled)
 {
     playToTheEnd();

@@ -128,6 +128,19 @@ TEST_F(Launch, tellsAStopByThePlayerFromACrash)
     EXPECT_FALSE(model().failureText());
 }
 
+TEST_F(Launch, tellsACrashFromAnEarlierStopByThePlayer)
+{
+    startReady("echo up; exec sleep 60");
+    model().play();
+    waitUntilItIsUp();
+    model().stopGame();
+    waitForFlow();
+    installEngine("sleep 0.5; exit 1");
+    model().play();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::needs(u"The game stopped unexpectedly (exit code 1)."_s));
+}
+
 TEST_F(Launch, carriesOutAStopThatIsAskedForBeforeTheGameHasStarted)
 {
     startReady("exec sleep 60");

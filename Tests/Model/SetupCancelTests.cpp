@@ -97,6 +97,30 @@ TEST_F(SetupCancelTest, cancelsAlreadyInItsSilentChecks)
     EXPECT_TRUE(server.requests().isEmpty());
 }
 
+TEST_F(SetupCancelTest, quitsAlreadyInItsSilentChecks)
+{
+    {
+        const BusyPool busy;
+        model().play();
+        EXPECT_TRUE(model().confirmQuit());
+    }
+    waitForFlow();
+    expectNothingInstalled();
+    EXPECT_TRUE(server.requests().isEmpty());
+}
+
+TEST_F(SetupCancelTest, playsAfterACancel)
+{
+    server.on(gamePath, HttpServer::silence());
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    model().cancelSetup();
+    waitForFlow();
+    serveGame("config_version=4\n");
+    playToTheEnd();
+    EXPECT_EQ(model().phase(), Phase::ready());
+}
+
 TEST_F(SetupCancelTest, quitsDuringADownloadWithoutAQuestion)
 {
     server.on(gamePath, HttpServer::silence());
