@@ -34,7 +34,7 @@ TEST_F(SetupCancelTest, showsNoProgressOnceTheDownloadHasEnded)
 {
     server.on(gamePath, HttpServer::silence());
     model().play();
-    waitForPhase(Phase::Kind::downloading);
+    ASSERT_TRUE(waitUntil([this] { return requestsOf(gamePath) > 0; }));
     const DownloadProgress report{.received = 10, .total = 1000, .bytesPerSecond = 1};
     AppModelAccess::progressRelay(model()).report(report);
     model().cancelSetup();
