@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ChildTest.h"
 
+#include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
 #include "System/Errors.h"
 #include "System/FileDescriptor.h"
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QProcess>
 
+#include <cerrno>
 #include <csignal>
 #include <thread>
 
@@ -18,6 +20,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using StartOfAChild = ChildTest;
+
+/// Has every later start of a thread in this process fail: its stack would not fit.
+void startNoMoreThreads()
+{
+    pthread_attr_t attributes;
+    ::pthread_attr_init(&attributes);
+    ::pthread_attr_setstacksize(&attributes, std::size_t{1} << 47);
+    ::pthread_setattr_default_np(&attributes);
+}
 
 /// The bits of these signals in the masks that the system shows.
 constexpr qulonglong brokenPipeBit = 1ULL << (SIGPIPE - 1);
@@ -46,6 +57,20 @@ TEST_F(StartOfAChild, ofAFileThatIsNoProgramIsReportedInASentence)
     } catch (const PlatformError& error) {
         EXPECT_EQ(error.message(), u"Could not start “%1”: Permission denied."_s.arg(file));
     }
+}
+
+TEST_F(StartOfAChild, leavesNoneBehindWhereNoThreadCanBeStarted)
+{
+    const auto status = inAnotherProcess([this] {
+        startNoMoreThreads();
+        try {
+            run(u"/bin/sleep"_s, {u"600"_s});
+            return 1;
+        } catch (const PlatformError&) {
+            return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD ? 0 : 2;
+        }
+    });
+    EXPECT_EQ(status, 0);
 }
 
 TEST_F(StartOfAChild, passesArgumentsUnchanged)

@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <system_error>
 #include <vector>
 
 #include <fcntl.h>
@@ -124,14 +125,25 @@ ChildProcess::ChildProcess(const Command& command)
     if (m_id < 0)
         throw startError(command, errno);
     errors.writeEnd.close();
-    m_waiter = std::thread([this] {
-        waitForEnd(m_id);
-        m_end.writeEnd.close();
-    });
+    startWaiter(command);
     int error = 0;
     if (::read(errors.readEnd.get(), &error, sizeof error) == sizeof error) {
         reap();
         throw startError(command, error);
+    }
+}
+
+void ChildProcess::startWaiter(const Command& command)
+{
+    try {
+        m_waiter = std::thread([this] {
+            waitForEnd(m_id);
+            m_end.writeEnd.close();
+        });
+    } catch (const std::system_error& error) {
+        ::kill(m_id, SIGKILL);
+        ::waitpid(m_id, nullptr, 0);
+        throw startError(command, error.code().value());
     }
 }
 

@@ -53,6 +53,8 @@ public:
     int reap();
 
 private:
+    void startWaiter(const Command& command);
+
     Pipe m_end;
     pid_t m_id = 0;
     std::thread m_waiter;

@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "System/Errors.h"
+
 #include <chrono>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <stop_token>
+#include <system_error>
 #include <thread>
 #include <type_traits>
 #include <utility>
 
 /// Runs `work` on a thread of its own and returns its result; nothing if it has not ended when
 /// `timeout` has passed or `stop` is requested. It then goes on by itself, so it must own all that
-/// it uses; it must not throw. For calls that cannot be interrupted. Blocks.
+/// it uses; it must not throw. For calls that cannot be interrupted. Blocks. Throws PlatformError
+/// if no thread can be started.
 template<typename Work>
 auto runAbandonable(Work work, std::chrono::milliseconds timeout, const std::stop_token& stop)
     -> std::optional<std::invoke_result_t<Work&>>
@@ -25,12 +29,16 @@ auto runAbandonable(Work work, std::chrono::milliseconds timeout, const std::sto
         std::optional<std::invoke_result_t<Work&>> result;
     };
     const auto shared = std::make_shared<Shared>();
-    std::thread([shared, work = std::move(work)]() mutable {
-        auto result = work();
-        const std::lock_guard guard(shared->mutex);
-        shared->result = std::move(result);
-        shared->ended.notify_all();
-    }).detach();
+    try {
+        std::thread([shared, work = std::move(work)]() mutable {
+            auto result = work();
+            const std::lock_guard guard(shared->mutex);
+            shared->result = std::move(result);
+            shared->ended.notify_all();
+        }).detach();
+    } catch (const std::system_error& error) {
+        throw PlatformError::fromErrno(PlatformError::tr("start a thread"), error.code().value());
+    }
     std::unique_lock lock(shared->mutex);
     shared->ended.wait_for(lock, stop, timeout, [&shared] { return shared->result.has_value(); });
     return std::exchange(shared->result, std::nullopt);
