@@ -51,12 +51,12 @@ TEST_F(Settings, areStoredUnderTheirOwnKeysForThePlayerAlone)
 
 TEST_F(Settings, leaveTheRestOfTheFileAsItIs)
 {
-    home.write(file, "; by hand\nFullScreen=true\n[Window]\nfullscreen=true\nsize=\xFF\n[general]\n"
-                     "fullscreen = 0\nlanguage=\"a, b\"");
+    const QByteArray before = "; by hand\nFullScreen=true\n[general]\n";
+    const QByteArray after = "\nlanguage=\"a, b\"\n[Window]\nfullscreen=false\nsize=\xFF";
+    home.write(file, before + "fullscreen = 0" + after);
     EXPECT_FALSE(startModel().fullscreen());
     model().setFullscreen(true);
-    EXPECT_EQ(stored(), "; by hand\nFullScreen=true\n[Window]\nfullscreen=true\nsize=\xFF\n"
-                        "[general]\nfullscreen=true\nlanguage=\"a, b\"");
+    EXPECT_EQ(stored(), before + "fullscreen=true" + after);
     EXPECT_TRUE(startModel().fullscreen());
     model().setResolution(ResolutionChoice::r900);
     EXPECT_EQ(startModel().resolution(), ResolutionChoice::r900);
