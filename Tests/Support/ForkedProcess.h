@@ -27,10 +27,7 @@ public:
         while (true)
             ::pause();
     }
-    ~ForkedProcess()
-    {
-        kill();
-    }
+    ~ForkedProcess() { kill(); }
 
     ForkedProcess(const ForkedProcess&) = delete;
     ForkedProcess& operator=(const ForkedProcess&) = delete;

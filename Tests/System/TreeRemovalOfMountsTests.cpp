@@ -72,8 +72,7 @@ protected:
     {
         m_folder.write(u"Other/folder/kept"_s);
         const auto other = m_folder.path(u"Other"_s);
-        expectObstacle(
-            place, [&] { return mountOver(place, other); }, kept);
+        expectObstacle(place, [&] { return mountOver(place, other); }, kept);
         EXPECT_TRUE(m_folder.exists(u"Other/folder/kept"_s));
     }
 };
@@ -109,8 +108,7 @@ TEST_F(TreeRemovalOfMountsTest, leavesAFileThatIsMountedAlone)
 {
     const auto place = m_folder.write(u"Game/a/file"_s);
     const auto other = m_folder.write(u"kept"_s);
-    expectObstacle(
-        place, [&] { return mountOver(place, other); }, u"Game/a/file"_s);
+    expectObstacle(place, [&] { return mountOver(place, other); }, u"Game/a/file"_s);
     EXPECT_TRUE(m_folder.exists(u"kept"_s));
 }
 

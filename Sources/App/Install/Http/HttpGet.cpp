@@ -191,9 +191,7 @@ private:
     static std::size_t write(const char* bytes, std::size_t, std::size_t size, void* request)
     {
         auto& self = *static_cast<Request*>(request);
-        return self.attempt([&] {
-            return self.take({bytes, static_cast<qsizetype>(size)});
-        })
+        return self.attempt([&] { return self.take({bytes, static_cast<qsizetype>(size)}); })
                    ? size
                    : CURL_WRITEFUNC_ERROR;
     }
