@@ -18,6 +18,7 @@ SCRATCH = "CAVERNYX_SCENARIO_SCRATCH"
 OUTSIDE = "CAVERNYX_SCENARIO_OUTSIDE"
 HOSTS_FILE = "hosts"
 PR_SET_CHILD_SUBREAPER = 36
+MS_REC, MS_PRIVATE = 1 << 14, 1 << 18
 
 
 def enter() -> Path:
@@ -30,6 +31,7 @@ def enter() -> Path:
         sys.exit(_run_inside())
     if outside in (None, _mount_namespace()):
         raise RuntimeError("This process is not in namespaces of its own.")
+    _make_mounts_private()
     subprocess.run(["ip", "link", "set", "lo", "up"], check=True)
     _become_subreaper()
     return Path(scratch)
@@ -111,9 +113,13 @@ def network_activity() -> dict[str, int]:
 
 
 def _run_inside() -> int:
-    unshare = ["unshare", "--mount", "--propagation", "private", "--net"]
+    unshare = ["unshare", "--mount", "--propagation", "unchanged", "--net"]
     if os.geteuid() != 0:
         unshare.append("--map-root-user")
+    attempt = subprocess.run([*unshare, "true"], capture_output=True, text=True)
+    if attempt.returncode != 0:
+        sys.exit("A scenario needs namespaces of its own, which this system refuses: "
+                 f"{attempt.stderr.strip()}")
     scratch = tempfile.mkdtemp(prefix="cavernyx-scenario-")
     environment = {**os.environ, SCRATCH: scratch, OUTSIDE: _mount_namespace()}
     status = subprocess.run([*unshare, sys.executable, *sys.argv], env=environment).returncode
@@ -127,6 +133,21 @@ def _mount_namespace() -> str:
     return os.readlink("/proc/self/ns/mnt")
 
 
+def _make_mounts_private() -> None:
+    """Nobody else sees what is mounted from now on. That can only be said of a mount point, and in
+    a chroot only the root outside of it need be one: this process goes there and comes back."""
+    folder = os.getcwd()
+    root = os.open("/", os.O_PATH)
+    namespace = os.open("/proc/self/ns/mnt", os.O_RDONLY)
+    _call("setns", namespace, 0)
+    _call("mount", None, b"/", None, ctypes.c_ulong(MS_REC | MS_PRIVATE), None)
+    os.fchdir(root)
+    os.chroot(".")
+    os.chdir(folder)
+    os.close(namespace)
+    os.close(root)
+
+
 def _mount_over(place: str, replacement: Path) -> None:
     """The one way in which anything is mounted: a file or folder made for this scenario covers a
     place of the system's. Never the other way round."""
@@ -135,9 +156,14 @@ def _mount_over(place: str, replacement: Path) -> None:
 
 def _become_subreaper() -> None:
     """What outlives its parent becomes a child of this process, and so can be found and ended."""
+    _call("prctl", PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
+
+
+def _call(function: str, *arguments) -> None:
+    """Calls a function of the C library that returns 0 unless it fails."""
     libc = ctypes.CDLL(None, use_errno=True)
-    if libc.prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
-        raise OSError(ctypes.get_errno(), "prctl")
+    if getattr(libc, function)(*arguments) != 0:
+        raise OSError(ctypes.get_errno(), function)
 
 
 def _descendants(pid: int) -> list[int]:
