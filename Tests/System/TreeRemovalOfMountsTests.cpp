@@ -2,27 +2,16 @@
 #include "System/TreeRemovalTest.h"
 
 #include "Support/InAnotherProcess.h"
+#include "Support/OwnMounts.h"
 #include "System/TreeRemoval.h"
 
 #include <functional>
 
-#include <sched.h>
 #include <sys/mount.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto skipped = 77;
-
-/// Gives this process mounts of its own, which nobody else sees.
-bool separateMounts()
-{
-    const auto flags = ::getuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
-    return ::unshare(flags) == 0 &&
-           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
 
 bool mountOver(const QString& place, const QString& what)
 {
@@ -36,7 +25,7 @@ template<typename Mount, typename Check>
 int removeAroundMount(const QString& target, const QString& place, Mount mount, Check isUntouched)
 {
     if (!separateMounts() || !mount())
-        return skipped;
+        return noOwnMounts;
     const auto failure = TreeRemoval::remove(target);
     if (!failure || failure->path != place ||
         failure->reason != u"another file system is mounted there"_s)
@@ -61,7 +50,7 @@ protected:
                        (place == m_target || !m_folder.exists(u"Game/b"_s));
             });
         });
-        if (status == skipped)
+        if (status == noOwnMounts)
             GTEST_SKIP() << "This system lets nobody here mount anything.";
         EXPECT_EQ(status, 0);
         EXPECT_FALSE(m_folder.exists(u"Game"_s));

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "Support/OwnMounts.h"
+
+#include "System/FileDescriptor.h"
+
+#include <string>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+namespace {
+
+bool write(const char* path, const std::string& text)
+{
+    const FileDescriptor file(::open(path, O_WRONLY | O_CLOEXEC));
+    return ::write(file.get(), text.data(), text.size()) == static_cast<ssize_t>(text.size());
+}
+
+/// Makes an ordinary user the administrator of a namespace in which only this user exists.
+bool becomeAdministrator()
+{
+    const auto user = "0 " + std::to_string(::geteuid()) + " 1";
+    const auto group = "0 " + std::to_string(::getegid()) + " 1";
+    return ::unshare(CLONE_NEWUSER) == 0 && write("/proc/self/setgroups", "deny") &&
+           write("/proc/self/uid_map", user) && write("/proc/self/gid_map", group);
+}
+
+/// Only a mount point can be made private, and in a chroot only the root outside of it need be one:
+/// this process goes there and comes back.
+bool makeMountsPrivate()
+{
+    const FileDescriptor root(::open("/", O_PATH | O_CLOEXEC));
+    const FileDescriptor mounts(::open("/proc/self/ns/mnt", O_RDONLY | O_CLOEXEC));
+    return ::setns(mounts.get(), CLONE_NEWNS) == 0 &&
+           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::fchdir(root.get()) == 0 && ::chroot(".") == 0;
+}
+
+} // namespace
+
+bool separateMounts()
+{
+    return (::geteuid() == 0 || becomeAdministrator()) && ::unshare(CLONE_NEWNS) == 0 &&
+           makeMountsPrivate();
+}
