@@ -13,12 +13,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     target_compile_options(CavernyxCompilerOptions INTERFACE -Wno-maybe-uninitialized)
 endif()
 
+# What a later Qt deprecates may have no successor in Qt 6.4 yet.
 target_compile_definitions(CavernyxCompilerOptions INTERFACE
     QT_NO_CAST_FROM_ASCII
     QT_NO_CAST_TO_ASCII
     QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS
-    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    QT_WARN_DEPRECATED_UP_TO=0x060400)
 
 if(CAVERNYX_SANITIZERS)
     target_compile_options(CavernyxCompilerOptions INTERFACE
