@@ -3,6 +3,7 @@
 
 #include "Install/TemporaryFolder.h"
 #include "Platform/Platform.h"
+#include "Support/EnvironmentScope.h"
 #include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
 #include "System/Errors.h"
@@ -68,6 +69,17 @@ TEST(Paths, giveTwoDifferentTemporaryFoldersThatExist)
         ASSERT_TRUE(folder.fileName().startsWith(prefix));
         EXPECT_TRUE(uuid().match(folder.fileName().sliced(prefix.size())).hasMatch());
     }
+}
+
+TEST(Paths, useTheSystemsTemporaryFolderWhereTheNamedOneIsOfNoUse)
+{
+    for (const auto* named : {"/no/such/folder", "relative", ":/", "/", "/.", ""}) {
+        const EnvironmentScope temporary("TMPDIR", named);
+        EXPECT_EQ(QFileInfo(Paths::newTempDir().path()).path(), u"/tmp") << named;
+    }
+    const TestFolder folder;
+    const EnvironmentScope temporary("TMPDIR", folder.path().toUtf8() + '/');
+    EXPECT_EQ(QFileInfo(Paths::newTempDir().path()).path(), folder.path());
 }
 
 TEST(Paths, ensureCreatesAFolderWithItsParentsAndLeavesAnExistingOneAlone)

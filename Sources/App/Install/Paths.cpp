@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
 
@@ -25,6 +26,16 @@ namespace {
 const auto stagingInfix = u".new-"_s;
 const auto asideInfix = u".old-"_s;
 const auto temporaryPrefix = GameFacts::launcherName.toString().remove(u' ') + u'-';
+
+/// The system's temporary folder. Not QDir::tempPath(): for a TMPDIR that does not exist, that is
+/// the root folder.
+QString temporaryFolder()
+{
+    const auto named = qEnvironmentVariable("TMPDIR");
+    const auto isUsable =
+        named.startsWith(u'/') && QDir::cleanPath(named) != u"/"_s && QFileInfo::exists(named);
+    return isUsable ? QDir::cleanPath(named) : u"/tmp"_s;
+}
 
 /// As long as every random UUID in its text form.
 constexpr qsizetype uuidLength = 36;
@@ -119,12 +130,12 @@ QList<std::pair<QString, QString>> Paths::asideFolders()
 
 TemporaryFolder Paths::newTempDir()
 {
-    return TemporaryFolder(QDir::tempPath() + u'/' + temporaryPrefix + newUuid());
+    return TemporaryFolder(temporaryFolder() + u'/' + temporaryPrefix + newUuid());
 }
 
 QStringList Paths::tempDirs()
 {
-    return foldersNamed(QDir::tempPath(), temporaryPrefix);
+    return foldersNamed(temporaryFolder(), temporaryPrefix);
 }
 
 void Paths::ensure(const QString& path)

@@ -47,8 +47,9 @@ QStringList stagingFolders();
 /// The existing folders of newAsideFolder(), each with the path of its target.
 QList<std::pair<QString, QString>> asideFolders();
 
-/// Creates and returns a new folder "CavernyxPlatformer-" + a random UUID in the system's temporary
-/// folder, readable by the user alone. Throws PlatformError.
+/// Creates and returns a new folder "CavernyxPlatformer-" + a random UUID, readable by the user
+/// alone, in `$TMPDIR`, or in `/tmp` if that names no absolute path that exists. Throws
+/// PlatformError.
 TemporaryFolder newTempDir();
 
 /// The existing folders of newTempDir(), of any process.
