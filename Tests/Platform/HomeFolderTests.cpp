@@ -25,8 +25,9 @@ TEST(HomeFolder, isWhatTheUserDatabaseSaysWhenTheEnvironmentNamesNone)
     const auto* const entry = ::getpwuid(::getuid());
     ASSERT_NE(entry, nullptr);
     const auto expected = QFile::decodeName(entry->pw_dir);
-    for (const auto& value : {std::optional<QByteArray>(), std::optional<QByteArray>(""),
-                              std::optional<QByteArray>("relative/home")}) {
+    for (const auto& value :
+         {std::optional<QByteArray>(), std::optional<QByteArray>(""),
+          std::optional<QByteArray>("relative/home"), std::optional<QByteArray>(":/home")}) {
         const EnvironmentScope home("HOME", value);
         EXPECT_EQ(homeFolder(), expected);
     }

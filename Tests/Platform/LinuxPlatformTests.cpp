@@ -36,10 +36,32 @@ TEST(LinuxPlatform, keepsDataAndSettingsWhereTheEnvironmentSaysSo)
 TEST(LinuxPlatform, ignoresADataFolderThatIsRelativeOrEmpty)
 {
     const EnvironmentScope home("HOME", "/home/player");
-    for (const auto* value : {"relative/data", "", "~/data"}) {
+    for (const auto* value : {"relative/data", "", "~/data", ":/data"}) {
         const EnvironmentScope data("XDG_DATA_HOME", value);
         EXPECT_EQ(LinuxPlatform().applicationSupport(), u"/home/player/.local/share"_s);
     }
+}
+
+TEST(LinuxPlatform, refusesAFolderWhoseNameIsNotUtf8)
+{
+    const auto refusal = [] {
+        try {
+            return LinuxPlatform().applicationSupport();
+        } catch (const PlatformError& error) {
+            return error.message();
+        }
+    };
+    const auto sentence =
+        u"Could not use the folder “/gr\uFFFD\uFFFDe”, because its name is not UTF-8."_s;
+    const EnvironmentScope home("HOME", "/gr\xF6\xDF"
+                                        "e");
+    {
+        const EnvironmentScope data("XDG_DATA_HOME", std::nullopt);
+        EXPECT_EQ(refusal(), sentence);
+    }
+    const EnvironmentScope data("XDG_DATA_HOME", "/gr\xF6\xDF"
+                                                 "e");
+    EXPECT_EQ(refusal(), sentence);
 }
 
 TEST(LinuxPlatform, namesTheEngineArchiveOfEachProcessorAndEdition)

@@ -18,10 +18,8 @@ namespace {
 /// The folder that the environment variable names, else `fallback` in the home folder.
 QString userFolder(const char* variable, const QString& fallback)
 {
-    const auto folder = QFile::decodeName(qgetenv(variable));
-    if (QDir::isAbsolutePath(folder))
-        return QDir::cleanPath(folder);
-    return homeFolder() + fallback;
+    const auto folder = absoluteFolder(qgetenv(variable));
+    return folder ? *folder : homeFolder() + fallback;
 }
 
 /// The files of one folder level, in plain string order of their paths.

@@ -14,7 +14,7 @@ public:
     explicit LinuxPlatform(QString processor = QSysInfo::currentCpuArchitecture());
 
     /// `$XDG_DATA_HOME`, else `~/.local/share`. A relative XDG_DATA_HOME is ignored, as the XDG
-    /// base directory rules say.
+    /// base directory rules say. Throws PlatformError also if the folder's name is not UTF-8.
     [[nodiscard]] QString applicationSupport() const override;
     /// `$XDG_CONFIG_HOME`, else `~/.config`, by the same rules.
     [[nodiscard]] QString configuration() const override;

@@ -57,5 +57,10 @@ public:
 const Platform& hostPlatform();
 
 /// The user's home folder, an absolute path without a trailing slash: `$HOME`, else what the user
-/// database says. Throws PlatformError when neither names one.
+/// database says. Throws PlatformError when neither names one that absoluteFolder() takes.
 QString homeFolder();
+
+/// The folder that the system names with `bytes`, without a trailing slash; nothing unless they
+/// begin with a slash. Throws PlatformError if they are not UTF-8, which Qt would turn into the
+/// name of another folder.
+std::optional<QString> absoluteFolder(const QByteArray& bytes);
