@@ -55,7 +55,7 @@ private:
 void eventLoopGaps(benchmark::State& state)
 {
     FakeDesktop desktop;
-    const InstallationLock session{QString()};
+    InstallationLock session{QString()};
     AppModel model(desktop, session);
     LogView view(model);
     view.resize(580, view.sizeHint().height());

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "System/InstallationLock.h"
 
+#include "Support/InAnotherProcess.h"
 #include "Support/TestFolder.h"
+#include "System/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <functional>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -100,6 +103,17 @@ protected:
         return OtherProcess(
                    [this](int, int) { return InstallationLock(m_path).tryAcquire() ? 1 : 0; })
             .end();
+    }
+
+    /// What acquire() says; empty if it succeeds.
+    static QString refusal(InstallationLock& lock)
+    {
+        try {
+            lock.acquire();
+            return {};
+        } catch (const PlatformError& error) {
+            return error.message();
+        }
     }
 
     const TestFolder m_folder;
@@ -242,13 +256,92 @@ TEST_F(InstallationLockTest, takesOnlyTheGameItselfForTheGame)
     EXPECT_EQ(::kill(helper, SIGKILL), 0) << "it was still there";
 }
 
-TEST_F(InstallationLockTest, letsEverybodyGoOnWhereItCannotBeMade)
+TEST_F(InstallationLockTest, isNotHeldWhereItCannotBeMade)
 {
-    InstallationLock lock(u"/dev/null/lock"_s);
-    EXPECT_TRUE(lock.tryAcquire());
+    m_folder.write(u"a file"_s);
+    ASSERT_TRUE(QFile::link(m_folder.path(u"a file"_s), m_folder.path(u"link"_s)));
+    for (const auto& [name, reason] : {std::pair(u"a folder"_s, u"Is a directory"_s),
+                                       std::pair(u"link"_s, u"Too many levels of symbolic links"_s),
+                                       std::pair(u"a file/lock"_s, u"Not a directory"_s)}) {
+        const auto path = m_folder.path(name);
+        m_folder.makeFolder(u"a folder"_s);
+        InstallationLock lock(path);
+        EXPECT_TRUE(lock.tryAcquire()) << "no other launcher is known";
+        EXPECT_FALSE(lock.isHeld());
+        EXPECT_FALSE(lock.isGameRunning());
+        EXPECT_LT(lock.descriptor(), 0);
+        EXPECT_EQ(refusal(lock),
+                  u"Could not lock “%1”, without which nothing is installed or removed: %2."_s.arg(
+                      path, reason));
+    }
+    EXPECT_TRUE(m_folder.exists(u"a folder"_s));
+    EXPECT_TRUE(m_folder.exists(u"link"_s));
+}
+
+TEST_F(InstallationLockTest, isNotHeldWhereThePlayerMayNotWrite)
+{
+    const auto folder = m_folder.makeFolder(u"read-only"_s);
+    ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(m_folder.path()).constData(), 0755), 0);
+    EXPECT_EQ(inAnotherProcess([this] {
+                  if (::geteuid() == 0 && ::setuid(65534) != 0)
+                      return 1;
+                  InstallationLock lock(m_folder.path(u"read-only/lock"_s));
+                  lock.tryAcquire();
+                  return !lock.isHeld() && refusal(lock).endsWith(u": Permission denied.") ? 0 : 1;
+              }),
+              0);
+}
+
+TEST_F(InstallationLockTest, isTakenAgainWhenItsFileWasRemovedOrReplaced)
+{
+    InstallationLock lock(m_path);
+    ASSERT_TRUE(lock.tryAcquire());
+    for (const auto isReplaced : {false, true}) {
+        ASSERT_TRUE(QFile::remove(m_path));
+        if (isReplaced)
+            m_folder.write(u"new folder/lock"_s);
+        EXPECT_FALSE(lock.isHeld());
+        EXPECT_EQ(refusal(lock), QString());
+        EXPECT_TRUE(lock.isHeld());
+        EXPECT_EQ(otherClaims(), 0);
+    }
+}
+
+TEST_F(InstallationLockTest, isAnotherLaunchersWhoTookItAfterItsFileWasRemoved)
+{
+    InstallationLock lock(m_path);
+    ASSERT_TRUE(lock.tryAcquire());
+    ASSERT_TRUE(QFile::remove(m_path));
+    OtherProcess other([this](int answer, int orders) {
+        InstallationLock others(m_path);
+        say(answer, others.tryAcquire() ? "claimed\n" : "refused\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(other.answer(), "claimed");
+    EXPECT_EQ(refusal(lock), u"The launcher is running a second time. Close the other one first.");
     EXPECT_FALSE(lock.isHeld());
-    EXPECT_FALSE(lock.isGameRunning());
-    EXPECT_LT(lock.descriptor(), 0);
+    EXPECT_EQ(other.end(), 0);
+    EXPECT_EQ(refusal(lock), QString());
+}
+
+TEST_F(InstallationLockTest, isNotTakenAgainWhileAGameUsesTheFileThatWasRemoved)
+{
+    InstallationLock lock(m_path);
+    ASSERT_TRUE(lock.tryAcquire());
+    OtherProcess game([&lock](int answer, int orders) {
+        InstallationLock::holdAsGame(lock.descriptor());
+        say(answer, "held\n");
+        awaitOrder(orders);
+        return 0;
+    });
+    ASSERT_EQ(game.answer(), "held");
+    ASSERT_TRUE(QFile::remove(m_path));
+    EXPECT_TRUE(refusal(lock).endsWith(u": Device or resource busy."));
+    EXPECT_TRUE(lock.isGameRunning());
+    EXPECT_EQ(game.end(), 0);
+    EXPECT_EQ(refusal(lock), QString());
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "Project/GameFacts.h"
 #include "Project/ProjectInspector.h"
 #include "System/ByteCount.h"
+#include "System/DiskSpace.h"
 #include "System/Errors.h"
 #include "System/OffThread.h"
 
@@ -34,7 +35,7 @@ int wholeSeconds(std::chrono::milliseconds duration)
 
 } // namespace
 
-AppModel::AppModel(Desktop& desktop, const InstallationLock& lock, const Durations& durations)
+AppModel::AppModel(Desktop& desktop, InstallationLock& lock, const Durations& durations)
     : m_desktop(desktop)
     , m_lock(lock)
     , m_durations(durations)
@@ -149,6 +150,7 @@ void AppModel::refreshState()
 
 Phase AppModel::phaseOnDisk()
 {
+    m_device = deviceOf(Paths::root());
     const auto game = Paths::game();
     const auto project = ProjectInspector::findProject(game);
     if (!project)

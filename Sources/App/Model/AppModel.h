@@ -18,6 +18,8 @@
 #include <optional>
 #include <stop_token>
 
+#include <sys/types.h>
+
 class Desktop;
 class FileDownloader;
 class PlayOutcome;
@@ -48,7 +50,7 @@ public:
 
     /// Reads the stored settings and derives the state from the disk. `desktop` and `lock` must
     /// outlive the model.
-    AppModel(Desktop& desktop, const InstallationLock& lock, const Durations& durations = {});
+    AppModel(Desktop& desktop, InstallationLock& lock, const Durations& durations = {});
     /// No flow may be running: see isFlowRunning().
     ~AppModel() override;
 
@@ -147,6 +149,8 @@ private:
     // Flows: what a press of Play or a housekeeping action starts, one at a time.
     using Flow = QCoro::Task<> (AppModel::*)(std::stop_token);
     bool failIfGameRuns();
+    bool failIfNotOwner();
+    void ensureOwner();
     void startFlow(Flow flow);
     QCoro::Task<> runFlow(Flow flow, std::stop_token stop);
     void concludeCancelled();
@@ -176,7 +180,7 @@ private:
     void concludeRemoval(const QString& failure);
 
     Desktop& m_desktop;
-    const InstallationLock& m_lock;
+    InstallationLock& m_lock;
     const Durations m_durations;
 
     Phase m_phase = Phase::notDownloaded();
@@ -201,6 +205,8 @@ private:
     bool m_userStopped = false;
     bool m_forceGameDownload = false;
     bool m_quitting = false;
+    /// The device of the storage root, or of where it would be, at the last look at the disk.
+    dev_t m_device = 0;
 
     /// Ends what goes on beside the flows: measuring, deleting and clearing up.
     std::stop_source m_backgroundStop;

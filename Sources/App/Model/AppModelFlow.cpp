@@ -4,8 +4,12 @@
 // at a time, how it is ended, and how its end is told.
 #include "Model/AppModel.h"
 
+#include "Install/Paths.h"
+#include "System/DiskSpace.h"
 #include "System/Errors.h"
 #include "System/InstallationLock.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +27,30 @@ bool AppModel::failIfGameRuns()
         return false;
     concludeFailed(tr("The game is still running from an earlier start. Close it first."));
     return true;
+}
+
+bool AppModel::failIfNotOwner()
+{
+    try {
+        ensureOwner();
+        return false;
+    } catch (const std::exception& error) {
+        concludeFailed(QString::fromUtf8(error.what()));
+        return true;
+    }
+}
+
+/// To be called before anything is installed or removed. Throws AppError or PlatformError when the
+/// disk is another one than the player was told of, or when another launcher may use it.
+void AppModel::ensureOwner()
+{
+    const auto root = Paths::root();
+    const auto device = deviceOf(root);
+    if (std::exchange(m_device, device) != device)
+        throw AppError(tr("The folder “%1” is on another disk than before. Connect that disk "
+                          "again, or try once more to use this one.")
+                           .arg(root));
+    m_lock.acquire();
 }
 
 void AppModel::startFlow(Flow flow)

@@ -24,6 +24,8 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
     enterPlaying(tr("Step 4 of 4 · Play"));
+    // The next launcher looks for the game's lock in the file that is there now.
+    m_lock.tryAcquire();
 
     const auto start = std::chrono::steady_clock::now();
     const auto status = co_await runGame(engine, arguments);
@@ -61,7 +63,8 @@ void AppModel::concludePlay(const PlayOutcome& outcome)
     case PlayOutcome::Kind::closedTooSoon:
         // The next Play imports once more. Always the name of the standard edition, deliberately:
         // a C# game keeps its marker, and is not imported again because it closed at once.
-        QFile::remove(EngineManager{.mono = false}.markerFile());
+        if (m_lock.isHeld())
+            QFile::remove(EngineManager{.mono = false}.markerFile());
         throw AppError(outcome.sentence());
     case PlayOutcome::Kind::stoppedUnexpectedly:
         throw AppError(outcome.sentence());

@@ -37,10 +37,9 @@ void vacate(const std::stop_token& stop)
 
 bool AppModel::askToChange(const QString& title, const QString& message, const QString& button)
 {
-    if (isBusy() || failIfGameRuns())
-        return false;
+    const auto isRefused = [this] { return isBusy() || failIfGameRuns() || failIfNotOwner(); };
     // While a question stands the program goes on, and may have begun something else.
-    return m_desktop.confirm(title, message, button) && !isBusy();
+    return !isRefused() && m_desktop.confirm(title, message, button) && !isRefused();
 }
 
 void AppModel::updateGame()

@@ -78,6 +78,7 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
         co_return *installed;
     }
     throwIfCancelled(stop);
+    ensureOwner();
     m_forceGameDownload = false;
     enterDownloading(tr("Step 1 of 4 · Downloading the game"));
     co_await waitUntilCleared();
@@ -126,6 +127,7 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
         m_log.append(u"Step 2 of 4 · Engine already installed, skipping."_s);
     } else {
         throwIfCancelled(stop);
+        ensureOwner();
         const auto edition = manager.mono ? u"-mono"_s : QString();
         enterDownloading(tr("Step 2 of 4 · Downloading the Godot engine (%1%2)")
                              .arg(EngineManager::version(), edition));
@@ -148,6 +150,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
         m_log.append(u"Step 3 of 4 · Already set up, skipping."_s);
         co_return;
     }
+    ensureOwner();
     QFile::remove(manager.markerFile());
     enterSettingUp(tr("Step 3 of 4 · First-time setup, this can take a minute or more"));
     // One wording for good: the run itself is given no "--quit", its watcher ends it.

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "System/DiskSpace.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 #include <limits>
 
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 
 std::optional<qint64> freeSpace(int descriptor)
@@ -14,4 +19,12 @@ std::optional<qint64> freeSpace(int descriptor)
     const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);
     constexpr auto max = std::numeric_limits<qint64>::max();
     return bytes < static_cast<double>(max) ? static_cast<qint64>(bytes) : max;
+}
+
+dev_t deviceOf(QString path)
+{
+    struct stat status = {};
+    while (::stat(QFile::encodeName(path).constData(), &status) != 0 && !QDir(path).isRoot())
+        path = QFileInfo(path).path();
+    return status.st_dev;
 }

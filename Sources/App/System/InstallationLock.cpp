@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "System/InstallationLock.h"
 
+#include "System/Errors.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,7 +40,6 @@ bool tryLock(int descriptor, Role role)
 InstallationLock::InstallationLock(const QString& path)
     : m_path(path)
 {
-    QDir().mkpath(QFileInfo(path).path());
     open();
 }
 
@@ -51,28 +52,58 @@ void InstallationLock::release()
 {
     // The file goes before the lock does: whoever waits for the lock finds it gone then, and makes
     // a new one.
-    if (m_isHeld && isStillThere() && !isGameRunning())
+    if (isHeld() && !isGameRunning())
         QFile::remove(m_path);
     m_file.close();
-    m_isHeld = false;
+    m_isLocked = false;
 }
 
 void InstallationLock::open()
 {
+    QDir().mkpath(QFileInfo(m_path).path());
+    m_isLocked = false;
     m_file = FileDescriptor(::open(QFile::encodeName(m_path).constData(),
                                    O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    m_error = m_file.isOpen() ? 0 : errno;
 }
 
 bool InstallationLock::tryAcquire()
 {
-    while (!m_isHeld && m_file.isOpen()) {
-        if (!tryLock(m_file.get(), Role::launcher))
-            return errno != EACCES && errno != EAGAIN;
-        m_isHeld = isStillThere();
-        if (!m_isHeld)
+    while (!isHeld()) {
+        if (!isStillThere()) {
+            // Only the removed file tells of a game that was started with it.
+            if (isGameRunning()) {
+                m_error = EBUSY;
+                return true;
+            }
             open();
+            if (!m_file.isOpen())
+                return true;
+        }
+        if (!tryLock(m_file.get(), Role::launcher)) {
+            m_error = errno;
+            return m_error != EACCES && m_error != EAGAIN;
+        }
+        m_isLocked = true;
     }
     return true;
+}
+
+void InstallationLock::acquire()
+{
+    if (!tryAcquire())
+        throw PlatformError(
+            PlatformError::tr("The launcher is running a second time. Close the other one first."));
+    if (!isHeld())
+        throw PlatformError::fromErrno(
+            PlatformError::tr("lock “%1”, without which nothing is installed or removed")
+                .arg(m_path),
+            m_error);
+}
+
+bool InstallationLock::isHeld() const
+{
+    return m_isLocked && isStillThere();
 }
 
 bool InstallationLock::isStillThere() const
@@ -80,7 +111,7 @@ bool InstallationLock::isStillThere() const
     struct stat ours = {};
     struct stat there = {};
     return ::fstat(m_file.get(), &ours) == 0 &&
-           ::stat(QFile::encodeName(m_path).constData(), &there) == 0 &&
+           ::lstat(QFile::encodeName(m_path).constData(), &there) == 0 &&
            ours.st_ino == there.st_ino && ours.st_dev == there.st_dev;
 }
 

@@ -11,7 +11,8 @@
 /// Both are record locks (fcntl) on a file that nothing else opens. Such a lock belongs to one
 /// process: it stays when the process becomes another program, is not passed on to what the process
 /// starts, and ends with the process however that ends, so that nothing ever has to be cleared
-/// away. Where the file cannot be made or locked, nobody knows of anybody and all goes on without.
+/// away. A launcher whose file cannot be made or locked, or was removed or replaced by somebody,
+/// does not hold the lock.
 ///
 /// A process has at most one of these for a file: closing it would end the locks of another.
 class InstallationLock final
@@ -25,14 +26,17 @@ public:
     InstallationLock(const InstallationLock&) = delete;
     InstallationLock& operator=(const InstallationLock&) = delete;
 
-    /// Makes this process the launcher. False exactly when another process is.
+    /// Makes this process the launcher, with a new file if the former one was removed or replaced.
+    /// Returns false exactly when another process is the launcher; see isHeld() for the rest.
     bool tryAcquire();
+    /// As tryAcquire(), but throws PlatformError unless this process is the launcher then.
+    void acquire();
     /// Ends this launcher's claim and removes the file, unless a game still uses it. From then on
     /// this knows of nobody, as where locks do not work.
     void release();
-    /// Whether this process has become the launcher, so that what is left behind by earlier ones
-    /// is nobody's. False where locks do not work.
-    [[nodiscard]] bool isHeld() const { return m_isHeld; }
+    /// Whether this process is the launcher, so that what is left behind by earlier ones is
+    /// nobody's.
+    [[nodiscard]] bool isHeld() const;
 
     /// Whether a game runs that another process than this one is.
     [[nodiscard]] bool isGameRunning() const;
@@ -50,5 +54,7 @@ private:
 
     QString m_path;
     FileDescriptor m_file;
-    bool m_isHeld = false;
+    bool m_isLocked = false;
+    /// Why the file could not be opened or locked last time.
+    int m_error = 0;
 };
