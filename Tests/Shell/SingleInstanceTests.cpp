@@ -7,10 +7,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 
+#include <csignal>
 #include <memory>
 #include <vector>
 
@@ -49,6 +51,14 @@ public:
     }
     void end() { m_process.closeWriteChannel(); }
     void kill() { m_process.kill(); }
+    void suspend() const
+    {
+        EXPECT_EQ(::kill(static_cast<pid_t>(m_process.processId()), SIGSTOP), 0);
+    }
+    void resume() const
+    {
+        EXPECT_EQ(::kill(static_cast<pid_t>(m_process.processId()), SIGCONT), 0);
+    }
     bool waitForEnd()
     {
         return waitUntil([this] { return m_process.state() == QProcess::NotRunning; });
@@ -118,6 +128,35 @@ TEST_F(SingleInstanceTest, waitsForALauncherThatIsAboutToEndAndTakesItsPlace)
     EXPECT_FALSE(second.hasLine()) << "It does not wait.";
     first.end();
     EXPECT_EQ(second.nextLine(), "first");
+}
+
+TEST_F(SingleInstanceTest, handsOverAlsoWhenSomebodyHasRemovedTheLock)
+{
+    ASSERT_TRUE(QFile::remove(lock));
+    Start second(lock);
+    EXPECT_EQ(second.nextLine(), "handed over");
+    EXPECT_TRUE(second.waitForEnd());
+    EXPECT_FALSE(QFile::exists(lock)) << "The first could not take it again.";
+}
+
+TEST_F(SingleInstanceTest, handsOverAlsoWhereNoLockCanBeMade)
+{
+    const auto noFile = folder.makeFolder(u"no file"_s);
+    Start only(noFile);
+    EXPECT_EQ(only.nextLine(), "first");
+    Start second(noFile);
+    EXPECT_EQ(second.nextLine(), "handed over");
+}
+
+TEST_F(SingleInstanceTest, givesUpALauncherThatDoesNotAnswerInTime)
+{
+    first.suspend();
+    QElapsedTimer timer;
+    timer.start();
+    Start second(lock, {}, 300);
+    EXPECT_EQ(second.nextLine(), "no answer");
+    EXPECT_LT(timer.elapsed(), 2000);
+    first.resume();
 }
 
 TEST_F(SingleInstanceTest, ignoresCallersThatSendNothingOrTooMuch)

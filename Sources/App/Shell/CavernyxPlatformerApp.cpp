@@ -8,7 +8,6 @@
 #include "Platform/ColorScheme.h"
 #include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
-#include "Shell/SingleInstance.h"
 #include "Shell/WidgetDesktop.h"
 #include "System/Errors.h"
 #include "System/InstallationLock.h"
@@ -23,14 +22,17 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScopeGuard>
+#include <QTimer>
 #include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <mutex>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -94,20 +96,11 @@ QByteArray activationToken()
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
-QString lockFile()
-{
-    try {
-        return Paths::lockFile();
-    } catch (const PlatformError&) {
-        return {}; // Nothing can be installed without a home folder, so no lock is needed.
-    }
-}
-
 /// Never destroyed: if the program ends without releasing the lock, its process keeps it until
 /// everything that works on the files is gone.
 InstallationLock& installationLock()
 {
-    static auto& lock = *new InstallationLock(lockFile());
+    static auto& lock = *new InstallationLock(Paths::lockFile());
     return lock;
 }
 
@@ -145,10 +138,20 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
 
 int CavernyxPlatformerApp::run()
 {
-    // The lock creates the folder that the server's name is derived from.
-    auto& lock = installationLock();
-    SingleInstance instance(lock, SingleInstance::serverName(lockFile()));
-    switch (instance.start(m_activationToken)) {
+    try {
+        // The lock creates the folder that the server's name is derived from.
+        auto& lock = installationLock();
+        SingleInstance instance(lock, SingleInstance::serverName(Paths::lockFile()));
+        return run(instance);
+    } catch (const PlatformError& error) {
+        warn(error.message());
+        return EXIT_FAILURE;
+    }
+}
+
+int CavernyxPlatformerApp::run(SingleInstance& instance)
+{
+    switch (start(instance)) {
     case SingleInstance::Start::first: {
         const auto status = runFirst(instance);
         releaseLock();
@@ -157,10 +160,28 @@ int CavernyxPlatformerApp::run()
     case SingleInstance::Start::handedOver:
         return EXIT_SUCCESS;
     case SingleInstance::Start::noAnswer:
-        warnNoAnswer();
+        warn(tr("%1 is already running, but does not answer. Close it first.")
+                 .arg(GameFacts::launcherName));
         return EXIT_FAILURE;
     }
     Q_UNREACHABLE();
+}
+
+SingleInstance::Start CavernyxPlatformerApp::start(SingleInstance& instance)
+{
+    // Usually the other launcher comes to the front sooner.
+    constexpr auto maxSilence = 300ms;
+    std::unique_ptr<QMessageBox> message;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&message] {
+        message = std::make_unique<QMessageBox>(
+            QMessageBox::Information, QCoreApplication::applicationName(),
+            tr("%1 is already running. Waiting for its answer…").arg(GameFacts::launcherName));
+        message->show();
+    });
+    timer.start(maxSilence);
+    return instance.start(m_activationToken);
 }
 
 int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
@@ -183,10 +204,8 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
     return QApplication::exec();
 }
 
-void CavernyxPlatformerApp::warnNoAnswer()
+void CavernyxPlatformerApp::warn(const QString& sentence)
 {
-    const auto sentence = tr("%1 is already running, but does not answer. Close it first.")
-                              .arg(GameFacts::launcherName);
     std::fputs(qPrintable(sentence + u'\n'), stderr);
     QMessageBox::warning(nullptr, QCoreApplication::applicationName(), sentence);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QApplication>
+#include "Shell/SingleInstance.h"
 
-class SingleInstance;
+#include <QApplication>
 
 /// The application: one model, one window, one delegate and the event loop. It reads no command
 /// line, so Qt's options have no effect.
@@ -17,12 +17,15 @@ public:
     explicit CavernyxPlatformerApp(char* programName);
 
     /// Runs until the player quits and returns the exit status. If another launcher serves the same
-    /// installation, brings that to the front instead and returns at once.
+    /// installation, brings that to the front instead and returns at once. Ends with one sentence
+    /// and status 1 if no folder is known for the installation.
     int run();
 
 private:
+    int run(SingleInstance& instance);
+    SingleInstance::Start start(SingleInstance& instance);
     int runFirst(SingleInstance& instance);
-    static void warnNoAnswer();
+    static void warn(const QString& sentence);
     void loadTranslation();
     bool installTranslation(const QString& name, const QString& folder);
 

@@ -6,11 +6,12 @@
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QTimer>
 
 #include <algorithm>
-#include <thread>
 #include <utility>
 
 #include <sys/socket.h>
@@ -43,6 +44,13 @@ bool isOwnUser(const QLocalSocket& socket)
 #endif
 }
 
+/// Runs the event loop until it quits, at most for `time`.
+void runFor(QEventLoop& loop, milliseconds time)
+{
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(InstallationLock& lock, QString serverName)
@@ -72,32 +80,53 @@ QString SingleInstance::serverName(const QString& lockFile)
 SingleInstance::Start SingleInstance::start(const QByteArray& activationToken, milliseconds timeout)
 {
     const QDeadlineTimer deadline(timeout);
-    while (!m_lock.tryAcquire()) {
+    while (!becomeFirst()) {
         if (handOver(activationToken, deadline))
             return Start::handedOver;
         if (deadline.hasExpired())
             return Start::noAnswer;
-        std::this_thread::sleep_for(retryInterval);
+        QEventLoop pause;
+        runFor(pause, retryInterval);
     }
+    return Start::first;
+}
+
+bool SingleInstance::becomeFirst()
+{
+    if (!m_lock.tryAcquire())
+        return false;
     // Where the socket is a file, a killed launcher may have left one.
     QLocalServer::removeServer(m_serverName);
-    // If this fails, a later launcher gets no answer and says so.
-    m_server.listen(m_serverName);
-    return Start::first;
+    // Another launcher may hold no lock, because it cannot or because somebody removed the file. It
+    // takes the lock again when it needs it.
+    QLocalSocket other;
+    if (!m_server.listen(m_serverName) && connectToOther(other)) {
+        m_lock.release();
+        return false;
+    }
+    // If it does not listen, a later launcher gets no answer and says so.
+    return true;
+}
+
+bool SingleInstance::connectToOther(QLocalSocket& socket) const
+{
+    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+    socket.connectToServer(m_serverName);
+    return socket.waitForConnected(static_cast<int>(milliseconds(retryInterval).count())) &&
+           isOwnUser(socket);
 }
 
 bool SingleInstance::handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline)
 {
-    const auto wait = static_cast<int>(
-        std::clamp<qint64>(deadline.remainingTime(), 1, milliseconds(answerTimeout).count()));
-
     QLocalSocket socket;
-    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-    socket.connectToServer(m_serverName);
-    if (!socket.waitForConnected(wait) || !isOwnUser(socket))
+    if (!connectToOther(socket))
         return false;
+    QEventLoop answer;
+    connect(&socket, &QLocalSocket::readyRead, &answer, &QEventLoop::quit);
+    connect(&socket, &QLocalSocket::disconnected, &answer, &QEventLoop::quit);
     socket.write(activationToken + '\n');
-    return socket.waitForReadyRead(wait);
+    runFor(answer, std::min<milliseconds>(milliseconds(deadline.remainingTime()), answerTimeout));
+    return socket.bytesAvailable() > 0;
 }
 
 void SingleInstance::stopListening()

@@ -15,8 +15,8 @@ class InstallationLock;
 /// installation's lock and listens on a local socket; a later one asks it there to come to the
 /// front, and ends.
 ///
-/// The lock alone decides which one is first: of two that start at the same time one is, and a
-/// killed launcher does not block the next one.
+/// The lock decides which one is first: of two that start at the same time one is, and a killed
+/// launcher does not block the next one. Where there is no lock, who listens is first.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
@@ -40,9 +40,9 @@ public:
 
     /// Becomes the first launcher, or hands `activationToken` over to it, the desktop's permission
     /// to come to the front. Waits up to `timeout` for a launcher that is about to end, and then
-    /// takes its place. Blocks.
+    /// takes its place. Meanwhile the event loop runs.
     Start start(const QByteArray& activationToken,
-                std::chrono::milliseconds timeout = std::chrono::seconds{10});
+                std::chrono::milliseconds timeout = std::chrono::seconds{4});
 
     /// Makes later launchers wait for the end of this one instead of handing over to it.
     void stopListening();
@@ -52,6 +52,8 @@ Q_SIGNALS:
     void activated(const QByteArray& activationToken);
 
 private:
+    bool becomeFirst();
+    bool connectToOther(QLocalSocket& socket) const;
     bool handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline);
     void serve(QLocalSocket* caller);
 
