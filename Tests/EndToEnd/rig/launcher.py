@@ -65,6 +65,7 @@ class Launcher(Program):
         return SettingsSheet(self._controls)
 
     def wait_for_alert(self) -> Alert:
+        wait_for("The launcher on the accessibility bus", self._has_come)
         return Alert(self._controls)
 
     def has_alert(self) -> bool:
