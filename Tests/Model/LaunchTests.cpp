@@ -141,19 +141,21 @@ TEST_F(Launch, tellsACrashFromAnEarlierStopByThePlayer)
     EXPECT_EQ(model().phase(), Phase::needs(u"The game stopped unexpectedly (exit code 1)."_s));
 }
 
-TEST_F(Launch, carriesOutAStopThatIsAskedForBeforeTheGameHasStarted)
+TEST_F(Launch, carriesOutAStopThatIsAskedForWhilePlayingIsAnnounced)
 {
-    startReady("exec sleep 60");
-    bool stopped = false;
-    QObject::connect(&model(), &AppModel::changed, &model(), [&] {
-        if (model().phase() == Phase::Kind::playing && !stopped) {
-            stopped = true;
-            QMetaObject::invokeMethod(&model(), &AppModel::stopGame, Qt::QueuedConnection);
-        }
-    });
-    model().play();
-    waitForFlow();
-    EXPECT_EQ(logged().last(), u"Game stopped by you.");
+    for (const auto connection : {Qt::DirectConnection, Qt::QueuedConnection}) {
+        startReady("exec sleep 60");
+        bool stopped = false;
+        QObject::connect(&model(), &AppModel::changed, &model(), [&] {
+            if (model().phase() == Phase::Kind::playing && !stopped) {
+                stopped = true;
+                QMetaObject::invokeMethod(&model(), &AppModel::stopGame, connection);
+            }
+        });
+        model().play();
+        waitForFlow();
+        EXPECT_EQ(logged().last(), u"Game stopped by you.");
+    }
 }
 
 TEST_F(Launch, killsAGameThatIgnoresTheRequestToStop)

@@ -83,6 +83,19 @@ TEST_F(SetupCancelTest, cancelsDuringTheImportAndEndsTheEngine)
     EXPECT_FALSE(QFile::exists(u"/proc/"_s + engine));
 }
 
+TEST_F(SetupCancelTest, startsNoEngineWhenCancelledWhileTheImportIsAnnounced)
+{
+    serveEngine("echo up; exec sleep 60");
+    QObject::connect(&model(), &AppModel::changed, &model(), [this] {
+        if (model().phase() == Phase::Kind::settingUp)
+            model().cancelSetup();
+    });
+    model().play();
+    waitForFlow();
+    EXPECT_FALSE(logged().contains(u"up"_s));
+    expectNothingInstalled();
+}
+
 TEST_F(SetupCancelTest, cancelsAlreadyInItsSilentChecks)
 {
     {

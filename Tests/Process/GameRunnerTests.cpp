@@ -4,6 +4,7 @@
 #include "Support/Await.h"
 #include "Support/CollectedLines.h"
 #include "Support/Eventually.h"
+#include "Support/ProcessState.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -114,6 +115,16 @@ TEST_F(ImportRunTest, endsWithTheEngineAndWithoutAWordBeforeTheFirstCount)
     start("exit 0");
     EXPECT_EQ(finish().value, 0);
     EXPECT_EQ(m_output.lines(), QStringList());
+}
+
+TEST_F(ImportRunTest, endsWhatAnEngineThatEndsByItselfLeavesBehind)
+{
+    use(durationsWithoutACount());
+    start("sleep 600 & echo $!");
+    EXPECT_EQ(finish().value, 0);
+    const auto left = m_output.lines().value(0).toLongLong();
+    ASSERT_GT(left, 0);
+    EXPECT_TRUE(waitUntil([&] { return !processRuns(left); }));
 }
 
 TEST_F(ImportRunTest, isClosedOnceEverythingIsImported)

@@ -23,6 +23,9 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 {
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
+    // Before the phase is announced: a stop that is asked for in that moment reaches the game too.
+    m_runner.process = std::make_shared<ManagedProcess>(
+        ManagedProcess::Lifetime::mayOutliveLauncher, m_durations.killTimeout, m_lock.descriptor());
     enterPlaying(tr("Step 4 of 4 · Play"));
     // The next launcher looks for the game's lock in the file that is there now.
     m_lock.tryAcquire();
@@ -37,18 +40,16 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 
 QCoro::Task<int> AppModel::runGame(QString engine, QStringList arguments)
 {
+    const auto clear = qScopeGuard([this] { m_runner.process.reset(); });
     QTimer startupThreshold;
     startupThreshold.setSingleShot(true);
     startupThreshold.setTimerType(Qt::PreciseTimer);
     connect(&startupThreshold, &QTimer::timeout, this, &AppModel::markStarted);
     startupThreshold.start(m_durations.startupThreshold);
 
-    const auto game = std::make_shared<ManagedProcess>(
-        ManagedProcess::Lifetime::mayOutliveLauncher, m_durations.killTimeout, m_lock.descriptor());
-    m_runner.process = game;
-    const auto clear = qScopeGuard([this] { m_runner.process.reset(); });
-    const auto run =
-        offThread([=, log = m_log.callback()] { return game->run(engine, arguments, log); });
+    const auto run = offThread([=, game = m_runner.process, log = m_log.callback()] {
+        return game->run(engine, arguments, log);
+    });
     co_return co_await run;
 }
 

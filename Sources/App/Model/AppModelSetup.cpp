@@ -156,6 +156,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     // One wording for good: the run itself is given no "--quit", its watcher ends it.
     m_log.append(u"Importing the game's assets (Godot 3 has no --headless flag; "
                  "using --editor --no-window --quit)."_s);
+    throwIfCancelled(stop); // A cancel may come while the phase is announced.
     const auto log = m_log.callback();
     const auto status =
         co_await m_runner.runImport(engine, info.folder, m_durations.importTimeout, log);
