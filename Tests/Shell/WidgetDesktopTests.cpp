@@ -7,9 +7,11 @@
 #include <QClipboard>
 #include <QLayout>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <functional>
 
@@ -63,6 +65,21 @@ TEST_F(WidgetDesktopTest, takesTheActionForReturnAndCancelForEscape)
     EXPECT_TRUE(ask([](QMessageBox& alert) { alert.buttons().at(0)->click(); }));
     EXPECT_FALSE(ask([](QMessageBox& alert) { alert.buttons().at(1)->click(); }));
     EXPECT_FALSE(ask([](QMessageBox& alert) { alert.close(); }));
+}
+
+TEST_F(WidgetDesktopTest, asksOnWhenTheSheetUnderTheQuestionIsClosed)
+{
+    const QPointer<QDialog> sheet(new QDialog(&window));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
+    EXPECT_TRUE(ask([&](QMessageBox& alert) {
+        EXPECT_EQ(alert.windowHandle()->transientParent(), sheet->windowHandle());
+        sheet->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_FALSE(sheet);
+        EXPECT_TRUE(alert.isVisible());
+        alert.buttons().at(0)->click();
+    }));
 }
 
 TEST_F(WidgetDesktopTest, padsAnAlertBy20)

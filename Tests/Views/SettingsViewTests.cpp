@@ -73,6 +73,19 @@ TEST_F(SettingsViewTest, offersTheResolutionsInOrderAndWritesTheChoiceAtOnce)
     EXPECT_EQ(model().resolution(), ResolutionChoice::r720);
 }
 
+TEST_F(SettingsViewTest, canBeClosedWhileAQuestionStands)
+{
+    desktop.answer = false;
+    desktop.whileAsking = [this] {
+        control(u"Done").click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(window().findChild<SettingsView*>());
+    };
+    for (const auto* const title : {u"Update the game", u"Reinstall", u"Remove everything"})
+        control(title).click();
+    EXPECT_EQ(desktop.questions.size(), 3);
+}
+
 TEST_F(SettingsViewTest, showsTheStoredSettings)
 {
     model().setFullscreen(true);

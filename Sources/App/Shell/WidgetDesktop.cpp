@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -31,29 +32,46 @@ QWidget* frontWindow()
     return nullptr;
 }
 
-void setUp(QMessageBox& alert, const QString& title, const QString& message)
+QWidget* mainWindow(QWidget* window)
 {
-    alert.setWindowTitle(QCoreApplication::applicationName());
-    alert.setWindowModality(Qt::WindowModal);
-    alert.setIconPixmap(QApplication::windowIcon().pixmap(64));
-    alert.setTextFormat(Qt::PlainText);
-    alert.setText(title);
-    alert.setInformativeText(message);
-    // QMessageBox gives access to its labels by these object names only.
-    if (auto* const label = alert.findChild<QLabel*>(u"qt_msgbox_label"_s))
-        label->setFont(textFont(TextStyle::headline));
-    if (auto* const label = alert.findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
-        label->setMinimumWidth(300);
-    // Setting the texts has created a new layout.
-    alert.layout()->setContentsMargins(20, 20, 20, 20);
+    while (window && window->parentWidget())
+        window = window->parentWidget();
+    return window;
 }
+
+/// An alert over the window in front. Its parent is the main window, so that it survives a sheet
+/// that is closed behind it: assistive technology can press the buttons of a blocked window.
+class Alert final : public QMessageBox
+{
+public:
+    Alert(const QString& title, const QString& message, QWidget* front = frontWindow())
+        : QMessageBox(mainWindow(front))
+    {
+        setWindowTitle(QCoreApplication::applicationName());
+        setWindowModality(Qt::ApplicationModal);
+        setIconPixmap(QApplication::windowIcon().pixmap(64));
+        setTextFormat(Qt::PlainText);
+        setText(title);
+        setInformativeText(message);
+        // QMessageBox gives access to its labels by these object names only.
+        if (auto* const label = findChild<QLabel*>(u"qt_msgbox_label"_s))
+            label->setFont(textFont(TextStyle::headline));
+        if (auto* const label = findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
+            label->setMinimumWidth(300);
+        // Setting the texts has created a new layout.
+        layout()->setContentsMargins(20, 20, 20, 20);
+        if (front) {
+            winId(); // Creates the window that the desktop is to keep in front.
+            windowHandle()->setTransientParent(front->windowHandle());
+        }
+    }
+};
 
 } // namespace
 
 bool WidgetDesktop::confirm(const QString& title, const QString& message, const QString& button)
 {
-    QMessageBox alert(frontWindow());
-    setUp(alert, title, message);
+    Alert alert(title, message);
     auto* const action = alert.addButton(button, QMessageBox::AcceptRole);
     auto* const cancel = alert.addButton(tr("Cancel"), QMessageBox::RejectRole);
     alert.setDefaultButton(action);
@@ -71,13 +89,13 @@ void WidgetDesktop::openFolder(const QString& path)
 {
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
         return;
-    auto* const alert = new QMessageBox(frontWindow());
+    auto* const alert =
+        new Alert(tr("The folder could not be opened."),
+                  tr("This desktop has no file browser. The folder is “%1”.").arg(path));
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    setUp(*alert, tr("The folder could not be opened."),
-          tr("This desktop has no file browser. The folder is “%1”.").arg(path));
     alert->addButton(tr("OK"), QMessageBox::AcceptRole);
     alert->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    alert->open();
+    alert->show();
 }
 
 void WidgetDesktop::revealFolder(const QString& path)

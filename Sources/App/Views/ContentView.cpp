@@ -14,8 +14,8 @@
 #include "Views/PlayPanel.h"
 #include "Views/SettingsView.h"
 
+#include <QApplication>
 #include <QBoxLayout>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTimer>
@@ -53,14 +53,15 @@ ContentView::ContentView(AppModel& model)
     , m_panel(new PlayPanel(model))
 {
     setAccessibleRole(*this, QAccessible::Window);
-    // One sheet at a time: assistive technology can press the buttons of a blocked window.
+    // One sheet at a time, and none over a question: assistive technology can press the buttons of
+    // a blocked window.
     auto* const settings = new BorderedButton(tr("Settings\u2026"), [this] {
-        if (!m_sheet)
-            open(new SettingsView(m_model, this));
+        if (!QApplication::activeModalWidget())
+            (new SettingsView(m_model, this))->open();
     });
     auto* const about = new BorderedButton(tr("About"), [this] {
-        if (!m_sheet)
-            open(new AboutView(this));
+        if (!QApplication::activeModalWidget())
+            (new AboutView(this))->open();
     });
     auto* const column = new QWidget;
     stackVertically(*column, {.spacing = 16, .padding = padding},
@@ -97,12 +98,6 @@ QWidget* ContentView::controlsBlock()
     rows.append(new TextLabel(TextStyle::caption, GameFacts::translated(GameFacts::controlsSource),
                               TextTone::secondary));
     return verticalStack({.spacing = 4}, rows);
-}
-
-void ContentView::open(Sheet* sheet)
-{
-    m_sheet = sheet;
-    m_sheet->open();
 }
 
 void ContentView::refreshFacts()

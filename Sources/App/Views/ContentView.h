@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPointer>
 #include <QScrollArea>
 
 class AppModel;
 class PlayPanel;
-class Sheet;
 class TextLabel;
 
 /// The root of the main window: a scrolling column with the banner, the game's description and
@@ -35,11 +33,9 @@ private:
     /// Takes the scroll bar's width from the padding, so that no text wraps differently when it
     /// comes and goes.
     void reserveScrollBarSpace();
-    void open(Sheet* sheet);
 
     AppModel& m_model;
     TextLabel* m_summary;
     TextLabel* m_credits;
     PlayPanel* m_panel;
-    QPointer<Sheet> m_sheet;
 };

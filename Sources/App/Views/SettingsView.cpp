@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -42,14 +43,9 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     : Sheet(tr("Settings"), parent)
     , m_model(model)
 {
-    m_update = new BorderedButton(tr("Update the game"), [this] {
-        m_model.updateGame();
-        accept();
-    });
-    m_reinstall = new BorderedButton(tr("Reinstall"), [this] {
-        m_model.reinstall();
-        accept();
-    });
+    m_update =
+        new BorderedButton(tr("Update the game"), [this] { closeAfter(&AppModel::updateGame); });
+    m_reinstall = new BorderedButton(tr("Reinstall"), [this] { closeAfter(&AppModel::reinstall); });
     m_showSaves = new BorderedButton(tr("Show saves"), [this] { m_model.showSaves(); });
     m_remove = new DestructiveButton(QString(), [this] { m_model.removeEverything(); });
     auto* const reveal =
@@ -104,6 +100,15 @@ QWidget* SettingsView::displayPickers()
     addRow(*grid, 0, tr("Window"), m_window);
     addRow(*grid, 1, tr("Resolution"), m_resolution);
     return pickers;
+}
+
+void SettingsView::closeAfter(void (AppModel::*action)())
+{
+    // The action asks first, and the sheet may be closed while the question stands.
+    const QPointer<SettingsView> sheet(this);
+    (m_model.*action)();
+    if (sheet)
+        accept();
 }
 
 void SettingsView::refresh()

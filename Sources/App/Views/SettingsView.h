@@ -21,6 +21,7 @@ public:
 
 private:
     [[nodiscard]] QWidget* displayPickers();
+    void closeAfter(void (AppModel::*action)());
     void refresh();
 
     AppModel& m_model;
