@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "Support/BusyPool.h"
 #include "Views/ViewTest.h"
 
 #include "Controls/SegmentedPicker.h"
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QDir>
 #include <QLayout>
 #include <QPointer>
 #include <QTest>
@@ -119,6 +121,26 @@ TEST_F(SettingsViewTest, disablesMaintenanceWhileBusy)
         EXPECT_TRUE(action->isEnabled());
 }
 
+TEST_F(SettingsViewTest, disablesWhatAFlowRefusesAlreadyInItsSilentChecks)
+{
+    installGame();
+    model().refreshState();
+    const auto maintenance = {&control(u"Update the game"), &control(u"Reinstall"), &removal()};
+    {
+        const BusyPool busy;
+        model().play();
+        ASSERT_FALSE(model().phase().isBusy());
+        for (const auto* const action : maintenance)
+            EXPECT_FALSE(action->isEnabled());
+        EXPECT_FALSE(play().isEnabled());
+        model().cancelSetup();
+    }
+    waitForFlow();
+    for (const auto* const action : maintenance)
+        EXPECT_TRUE(action->isEnabled());
+    EXPECT_TRUE(play().isEnabled());
+}
+
 TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
 {
     auto& note = *label(settings(), u"No saves yet (Godot's user folder does not exist).");
@@ -135,6 +157,11 @@ TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
     control(u"Show saves").click();
     EXPECT_EQ(desktop.opened.size(), 1);
     EXPECT_TRUE(settings().isVisible());
+
+    ASSERT_TRUE(QDir(home.path(u"data/godot/app_userdata/Swing"_s)).removeRecursively());
+    control(u"Show saves").click();
+    EXPECT_FALSE(control(u"Show saves").isEnabled());
+    EXPECT_TRUE(note.isVisible());
 }
 
 TEST_F(SettingsViewTest, measuresTheInstallationWhenItOpens)

@@ -104,7 +104,7 @@ void PlayPanel::refreshProgress()
 
 void PlayPanel::refreshButtons()
 {
-    const auto busy = m_model.phase().isBusy();
+    const auto busy = m_model.isBusy();
     const auto stop = m_model.phase() == Phase::Kind::playing;
     const auto cancel = m_model.phase().isSetup();
     // The panel takes the focus from a button that is disabled or hidden. Qt would move it to the

@@ -46,7 +46,10 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     m_update =
         new BorderedButton(tr("Update the game"), [this] { closeAfter(&AppModel::updateGame); });
     m_reinstall = new BorderedButton(tr("Reinstall"), [this] { closeAfter(&AppModel::reinstall); });
-    m_showSaves = new BorderedButton(tr("Show saves"), [this] { m_model.showSaves(); });
+    m_showSaves = new BorderedButton(tr("Show saves"), [this] {
+        m_model.showSaves();
+        refresh(); // The folder may be gone.
+    });
     m_remove = new DestructiveButton(QString(), [this] { m_model.removeEverything(); });
     auto* const reveal =
         new BorderedButton(tr("Reveal in Finder"), [this] { m_model.revealInFinder(); });
@@ -113,7 +116,7 @@ void SettingsView::closeAfter(void (AppModel::*action)())
 
 void SettingsView::refresh()
 {
-    const auto busy = m_model.phase().isBusy();
+    const auto busy = m_model.isBusy();
     const auto hasSaves = m_model.savesFolder().has_value();
     const auto& size = m_model.installedSize();
     const auto choice = std::ranges::find(allResolutionChoices, m_model.resolution());
