@@ -96,6 +96,28 @@ TEST_F(AccessibilityTest, readsAndPressesTheLogDisclosure)
     EXPECT_TRUE(interface.state().checked);
 }
 
+TEST_F(AccessibilityTest, pressesAButtonAtOnceOrNotAtAll)
+{
+    enter(Phase::settingUp());
+    auto presses = 0;
+    QObject::connect(&cancel(), &QAbstractButton::clicked, &cancel(), [&] { ++presses; });
+    auto& actions = *read(cancel()).actionInterface();
+    EXPECT_EQ(actions.actionNames().constFirst(), QAccessibleActionInterface::pressAction());
+
+    actions.doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(presses, 0) << "the caller does not wait for what the press does";
+    settle();
+    EXPECT_EQ(presses, 1);
+
+    actions.doAction(QAccessibleActionInterface::pressAction());
+    AppModelAccess::setPhase(model(), Phase::playing());
+    settle();
+    EXPECT_EQ(presses, 1) << "the button has gone";
+    play().setFocus();
+    EXPECT_FALSE(read(play()).actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::pressAction()));
+}
+
 TEST_F(AccessibilityTest, readsTheLogAndTheReportAsTexts)
 {
     model().log().append(u"one\ntwo"_s);

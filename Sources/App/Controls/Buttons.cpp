@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/Buttons.h"
 
+#include "Controls/AccessibleButton.h"
 #include "Controls/ControlPainter.h"
 #include "Controls/Glyphs.h"
 #include "Controls/Stack.h"
@@ -54,6 +55,7 @@ void forwardReturnKey(QWidget& control)
 BorderedButton::BorderedButton(const QString& title, const std::function<void()>& action)
     : QPushButton(title)
 {
+    installAccessibleButtons();
     if (action)
         connect(this, &QPushButton::clicked, this, action);
     setAutoDefault(false);
