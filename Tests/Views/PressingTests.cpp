@@ -21,16 +21,6 @@ protected:
         QTest::mouseClick(target, Qt::LeftButton);
         settle();
     }
-    /// Installs a game and an engine that runs the script `engine`.
-    void install(const QByteArray& engine)
-    {
-        installGame();
-        installEngine(engine);
-        writeMarker();
-        model().refreshState();
-        settle();
-        ASSERT_EQ(model().phase(), Phase::ready());
-    }
     void playUntilTheEngineRuns()
     {
         press(&play());

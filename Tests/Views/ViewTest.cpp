@@ -40,6 +40,16 @@ void ViewTest::enter(const Phase& phase)
     settle();
 }
 
+void ViewTest::install(const QByteArray& engine)
+{
+    installGame();
+    installEngine(engine);
+    writeMarker();
+    model().refreshState();
+    settle();
+    ASSERT_EQ(model().phase(), Phase::ready());
+}
+
 void ViewTest::showAllBlocks()
 {
     AppModelAccess::fail(model(), u"The disk is full."_s);

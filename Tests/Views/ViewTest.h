@@ -42,6 +42,8 @@ protected:
     ContentView& window() { return *m_window; }
 
     void enter(const Phase& phase);
+    /// Installs a game and an engine that runs the script `engine`.
+    void install(const QByteArray& engine);
     /// Shows everything that the window has: a failure report and the log.
     void showAllBlocks();
     static void enlargeFont();

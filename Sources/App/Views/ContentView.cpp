@@ -4,6 +4,7 @@
 #include "Controls/AccessibleRole.h"
 #include "Controls/Buttons.h"
 #include "Controls/Dimmer.h"
+#include "Controls/RepeatedPressFilter.h"
 #include "Controls/ScreenFit.h"
 #include "Controls/Stack.h"
 #include "Controls/TextLabel.h"
@@ -81,6 +82,7 @@ ContentView::ContentView(AppModel& model)
     setWindowTitle(GameFacts::launcherName.toString());
     new ScreenFit(*this, minSize);
     new Dimmer(*this);
+    new RepeatedPressFilter(*this);
     m_panel->playButton().setFocus();
 
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,

@@ -28,9 +28,10 @@ def run(world):
     press_keys("Escape")
     go_to(world.launcher, "Stop")
     assert launcher.children(), "Escape ended the game."
-    press_keys("space")
+    press_keys("space", "space", "space")
     launcher.wait_for_label("Ready")
     wait_for("The end of the game", lambda: not world.home.processes())
+    expect_focus(world, "Play")
 
     expect_sheet_closes(world, "Escape")
     expect_question_declined(world)

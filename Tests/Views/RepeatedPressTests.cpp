@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// A double click, and a key that is pressed twice or held, press one control.
+
+#include "Views/ViewTest.h"
+
+#include <QKeyEvent>
+#include <QTest>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto quickly = 100;
+constexpr auto slowly = 1000;
+
+class RepeatedPressTest : public ViewTest
+{
+protected:
+    /// Clicks at `position` in the window, `milliseconds` after the click before.
+    void click(QPoint position, int milliseconds)
+    {
+        QTest::lastMouseTimestamp += milliseconds - QTest::mouseDoubleClickInterval;
+        QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, position);
+        settle();
+    }
+    /// Presses a key `milliseconds` after the one before, where the focus is.
+    void key(QWidget& inWindow, Qt::Key key, int milliseconds, bool isAutoRepeat = false)
+    {
+        m_time += static_cast<quint64>(milliseconds);
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, QString(), isAutoRepeat);
+            event.setTimestamp(m_time);
+            QCoreApplication::sendEvent(inWindow.focusWidget(), &event);
+        }
+        settle();
+    }
+    static QPoint rightEnd(const QWidget& button)
+    {
+        const auto rect = rectOf(button);
+        return {rect.right() - 8, rect.center().y()};
+    }
+    void playByModel()
+    {
+        model().play();
+        waitForPhase(Phase::Kind::playing);
+        settle();
+    }
+    /// Has the next press of Play import the assets, with an engine that does not.
+    void requireImport() const
+    {
+        ASSERT_TRUE(QFile::remove(root(u"Game/.setup-v2-3.5.3-stable"_s)));
+        ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
+    }
+    qsizetype starts() { return logged().filter(u"Step 1 of 4"_s).size(); }
+
+private:
+    quint64 m_time = 5000;
+};
+
+TEST_F(RepeatedPressTest, onPlayStartsTheGameAndDoesNotStopIt)
+{
+    install("exec sleep 60");
+    const auto position = rightEnd(play());
+    click(position, slowly);
+    waitForPhase(Phase::Kind::playing);
+    settle();
+    ASSERT_EQ(window().childAt(position), &stop());
+    click(position, quickly);
+    click(position, quickly);
+    QTest::qWait(100);
+    EXPECT_EQ(model().phase(), Phase::playing());
+    click(position, slowly);
+    waitForFlow();
+    EXPECT_EQ(logged().last(), u"Game stopped by you."_s) << "later it is a press of Stop";
+}
+
+TEST_F(RepeatedPressTest, onStopDoesNotStartTheGameAgain)
+{
+    install("exec sleep 60");
+    playByModel();
+    const auto position = rightEnd(stop());
+    click(position, slowly);
+    waitForFlow();
+    settle();
+    ASSERT_EQ(window().childAt(position), &play());
+    click(position, quickly);
+    EXPECT_EQ(starts(), 1);
+    EXPECT_FALSE(model().isBusy());
+}
+
+TEST_F(RepeatedPressTest, onCancelDoesNotBeginAnew)
+{
+    install("exec sleep 60");
+    requireImport();
+    model().play();
+    waitForPhase(Phase::Kind::settingUp);
+    settle();
+    const auto position = rightEnd(cancel());
+    click(position, slowly);
+    waitForFlow();
+    settle();
+    ASSERT_EQ(window().childAt(position), &play());
+    click(position, quickly);
+    EXPECT_EQ(starts(), 1);
+    EXPECT_FALSE(model().isBusy());
+}
+
+TEST_F(RepeatedPressTest, onPlayStartsAGameThatClosesAtOnceOnlyOnce)
+{
+    install("exit 1");
+    const auto position = rectOf(play()).center();
+    click(position, slowly);
+    waitForFlow();
+    settle();
+    ASSERT_TRUE(play().isEnabled());
+    click(position, quickly);
+    EXPECT_EQ(starts(), 1);
+    click(position, slowly);
+    EXPECT_EQ(starts(), 2);
+    waitForFlow();
+}
+
+TEST_F(RepeatedPressTest, ofTheSpaceBarOnStopDoesNotStartTheGameAgain)
+{
+    install("exec sleep 60");
+    playByModel();
+    stop().setFocus();
+    key(window(), Qt::Key_Space, slowly);
+    waitForFlow();
+    settle();
+    ASSERT_TRUE(play().hasFocus());
+    key(window(), Qt::Key_Space, quickly);
+    key(window(), Qt::Key_Space, slowly, true);
+    EXPECT_EQ(starts(), 1);
+    key(window(), Qt::Key_Space, slowly);
+    EXPECT_EQ(starts(), 2) << "later it is a press of Play";
+}
+
+TEST_F(RepeatedPressTest, ofAnotherKeyIsAPressOfItsOwn)
+{
+    disclosure().setFocus();
+    key(window(), Qt::Key_Space, slowly);
+    key(window(), Qt::Key_Tab, quickly);
+    button(u"About")->setFocus();
+    key(window(), Qt::Key_Space, quickly);
+    EXPECT_TRUE(window().findChild<AboutView*>());
+}
+
+TEST_F(RepeatedPressTest, ofReturnThatClosesASheetDoesNotPressPlay)
+{
+    install("exec sleep 60");
+    key(settings(), Qt::Key_Return, slowly);
+    ASSERT_FALSE(window().findChild<SettingsView*>());
+    key(window(), Qt::Key_Return, quickly);
+    EXPECT_EQ(starts(), 0);
+    key(window(), Qt::Key_Return, slowly);
+    EXPECT_EQ(starts(), 1);
+}
+
+TEST_F(RepeatedPressTest, isLeftToAControlThatStays)
+{
+    AppModelAccess::setFailureText(model(), u"What happened"_s);
+    enter(Phase::needs(u"It broke."_s));
+    window().resize(window().width(), window().widget()->height());
+    settle();
+    const auto position = rectOf(*button(u"Copy")).center();
+    click(position, slowly);
+    click(position, quickly);
+    EXPECT_EQ(desktop.copied.size(), 2);
+}
+
+} // namespace
