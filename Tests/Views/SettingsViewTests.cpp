@@ -10,6 +10,7 @@
 #include <QLayout>
 #include <QPointer>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -73,6 +74,21 @@ TEST_F(SettingsViewTest, offersTheResolutionsInOrderAndWritesTheChoiceAtOnce)
     resolution().setFocus();
     QTest::keyClick(&resolution(), Qt::Key_Down);
     EXPECT_EQ(model().resolution(), ResolutionChoice::r720);
+}
+
+TEST_F(SettingsViewTest, leavesTheResolutionAloneWhenTheWheelTurnsOverIt)
+{
+    const auto turn = [this] {
+        const auto position = resolution().rect().center();
+        QWheelEvent event(position, resolution().mapToGlobal(position), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&resolution(), &event);
+    };
+    turn();
+    resolution().setFocus();
+    turn();
+    EXPECT_EQ(model().resolution(), ResolutionChoice::gameDefault);
+    EXPECT_EQ(resolution().focusPolicy(), Qt::StrongFocus) << "nor does the wheel move the focus";
 }
 
 TEST_F(SettingsViewTest, canBeClosedWhileAQuestionStands)

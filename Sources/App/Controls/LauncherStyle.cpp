@@ -208,7 +208,8 @@ int LauncherStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 int LauncherStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* returnData) const
 {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText)
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText ||
+        hint == SH_ComboBox_AllowWheelScrolling)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -88,6 +88,7 @@ QWidget* SettingsView::displayPickers()
 
     m_resolution = new QComboBox;
     m_resolution->setAccessibleName(tr("Resolution"));
+    m_resolution->setFocusPolicy(Qt::StrongFocus); // By default the wheel moves the focus there.
     forwardReturnKey(*m_resolution);
     for (const auto choice : allResolutionChoices)
         m_resolution->addItem(title(choice));
