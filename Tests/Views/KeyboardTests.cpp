@@ -82,6 +82,15 @@ TEST_F(KeyboardTest, goesFromStopToTheLog)
               (QStringList{u"Stop"_s, u"Show log"_s, u"Settings\u2026"_s, u"About"_s}));
 }
 
+TEST_F(KeyboardTest, goesBackToTheDisclosureWhenTheLogCloses)
+{
+    model().setShowLog(true);
+    settle();
+    logBox().edit().setFocus();
+    model().setShowLog(false);
+    EXPECT_TRUE(disclosure().hasFocus());
+}
+
 TEST_F(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
 {
     enter(Phase::ready());

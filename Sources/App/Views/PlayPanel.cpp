@@ -129,6 +129,8 @@ void PlayPanel::refreshLog()
         m_log->followInTabOrder(*m_showLog);
         Q_EMIT disclosed(m_log);
     } else if (!shown && m_log) {
+        if (m_log->isAncestorOf(window()->focusWidget()))
+            m_showLog->setFocus(Qt::OtherFocusReason);
         delete std::exchange(m_log, nullptr);
     }
 }
