@@ -104,6 +104,18 @@ TEST_F(SettingsViewTest, canBeClosedWhileAQuestionStands)
     EXPECT_EQ(desktop.questions.size(), 3);
 }
 
+TEST_F(SettingsViewTest, closesWithTheShortcutThatClosesAWindow)
+{
+    const auto shortcuts = QKeySequence::keyBindings(QKeySequence::Close);
+    ASSERT_FALSE(shortcuts.isEmpty());
+    for (const auto& shortcut : shortcuts) {
+        QTest::keySequence(&settings(), shortcut);
+        settle();
+        EXPECT_FALSE(window().findChild<SettingsView*>()) << qPrintable(shortcut.toString());
+        EXPECT_TRUE(window().isVisible());
+    }
+}
+
 TEST_F(SettingsViewTest, showsTheStoredSettings)
 {
     model().setFullscreen(true);

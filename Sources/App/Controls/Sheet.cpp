@@ -5,8 +5,10 @@
 #include "Controls/Dimmer.h"
 #include "Controls/TypeScale.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLayout>
+#include <QShortcut>
 
 Sheet::Sheet(const QString& title, QWidget* parent)
     : QDialog(parent, Qt::Sheet)
@@ -16,6 +18,9 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     setWindowTitle(title);
     setFixedWidth(440);
     new Dimmer(*this);
+    // The window's own shortcuts do not work while it is blocked.
+    new QShortcut(QKeySequence::Close, this, [this] { reject(); });
+    new QShortcut(QKeySequence::Quit, this, &QCoreApplication::quit);
 }
 
 QSize Sheet::sizeHint() const

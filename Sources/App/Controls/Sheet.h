@@ -6,7 +6,7 @@
 #include <QDialog>
 
 /// A sheet over the main window, exactly 440 wide and as high as its content. Its Done button,
-/// Return from anywhere in it, and Escape close it.
+/// Return from anywhere in it, Escape and the shortcut that closes a window close it.
 class Sheet : public QDialog
 {
     Q_OBJECT

@@ -25,6 +25,7 @@ AppDelegate::AppDelegate(AppModel& model, QWidget& window)
 
     auto* const quit = new QAction(&m_window);
     quit->setShortcuts({QKeySequence::Quit, QKeySequence::Close});
+    quit->setAutoRepeat(false); // A key that is held since it has closed a sheet.
     connect(quit, &QAction::triggered, &m_window, &QWidget::close);
     m_window.addAction(quit);
 }

@@ -36,7 +36,9 @@ def run(world):
     expect_sheet_closes(world, "Escape")
     expect_question_declined(world)
     expect_sheet_closes(world, "Return")
+    expect_sheet_closes(world, "ctrl+w")
     assert launcher.shows("Ready"), launcher.labels()
+    open_settings(world)
     press_keys("ctrl+q")
     expect_quit(world)
 
