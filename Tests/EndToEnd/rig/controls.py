@@ -60,6 +60,12 @@ class Controls:
                           lambda: self.button(name, within))
         button.get_action_iface().do_action(0)
 
+    def right_end(self, name: str) -> tuple[int, int]:
+        """A point of the screen at the right end of the button of that name."""
+        button = wait_for(f"A button \"{name}\" that can be pressed", lambda: self.button(name))
+        place = self._atspi.Component.get_extents(button, self._atspi.CoordType.SCREEN)
+        return place.x + place.width - 8, place.y + place.height // 2
+
     def labels(self, within=None) -> list[str]:
         return [label.get_name() for label in self.showing(role="LABEL", within=within)]
 

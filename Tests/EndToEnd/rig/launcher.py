@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The launcher as a player meets it: its window, through the accessibility bus."""
 
+import subprocess
 from pathlib import Path
 
 from rig import product
@@ -27,6 +28,13 @@ class Launcher(Program):
     def press(self, name: str) -> None:
         """Presses the button of that name, once it is there and enabled."""
         self._controls.press(name)
+
+    def double_click(self, name: str) -> None:
+        """Double-clicks the right end of the button of that name with the mouse, slowly enough for
+        another button to be there by the second click."""
+        x, y = map(str, self._controls.right_end(name))
+        subprocess.run(["xdotool", "mousemove", x, y,
+                        "click", "--repeat", "2", "--delay", "250", "1"], check=True)
 
     def is_enabled(self, name: str) -> bool:
         return bool(self._controls.button(name))
