@@ -79,6 +79,11 @@ bool RepeatedPressFilter::isPropagated(const Press& press) const
 
 bool RepeatedPressFilter::continuesSeries(const Press& press) const
 {
+    // Whoever presses a key in the next window has seen that window.
+    const auto isSameWindow =
+        m_last.receiver && m_last.receiver->window() == press.receiver->window();
+    if (press.key != 0 && !press.isAutoRepeat && !isSameWindow)
+        return false;
     const auto distance = (press.position - m_last.position).manhattanLength();
     const auto interval = static_cast<quint64>(QApplication::doubleClickInterval());
     return press.key == m_last.key && distance < QApplication::startDragDistance() &&
