@@ -216,8 +216,10 @@ TEST_F(ZipRefusalTest, acceptsAFolderNamedAfterItsFiles)
 
 TEST_F(ZipRefusalTest, refusesEncryptedEntries)
 {
-    expectRefusal({.name = "secret", .data = QByteArray(20, 'x'), .flags = 1},
-                  refusal(u"secret"_s, u"is encrypted"_s));
+    constexpr int encryptionHeader = 12;
+    expectRefusal(
+        {.name = "secret", .data = QByteArray(encryptionHeader + 8, 'x'), .flags = 1, .size = 8},
+        refusal(u"secret"_s, u"is encrypted"_s));
 }
 
 TEST_F(ZipRefusalTest, refusesMethodsBesideStoredAndDeflated)
@@ -272,7 +274,7 @@ TEST_F(ZipRefusalTest, refusesWhatDoesNotFitOnTheDisk)
 {
     ZipWriter zip;
     for (int i = 0; i < 30'000; ++i)
-        zip.add({.name = QByteArray::number(i), .size = 0xfffffff0});
+        zip.add({.name = QByteArray::number(i), .method = 8, .size = 0xfffffff0});
 
     EXPECT_EQ(extract(zip), 1);
 
