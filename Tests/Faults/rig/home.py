@@ -54,4 +54,5 @@ HOMES = {
 
 def environment(home: Path) -> dict[str, str]:
     return {"HOME": f"{home}", "XDG_DATA_HOME": f"{home}/data", "XDG_CONFIG_HOME": f"{home}/config",
+            "XDG_CACHE_HOME": f"{home}.cache",  # For the libraries; the launcher has none.
             "TMPDIR": f"{home}/tmp", "PATH": "/usr/local/bin:/usr/bin:/bin", "LANG": "C.UTF-8"}
