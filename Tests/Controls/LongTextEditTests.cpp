@@ -82,7 +82,7 @@ TEST_F(LongTextEditTest, cutsAVeryLongLineBetweenWords)
     append({longLine(10'000)});
     ASSERT_GT(edit.blockCount(), 2);
     for (auto block = edit.document()->firstBlock(); block.isValid(); block = block.next())
-        EXPECT_TRUE(block.text().endsWith(u' ')) << block.text().right(20).toStdString();
+        EXPECT_TRUE(block.text().endsWith(u' ')) << block.text().right(20);
 }
 
 TEST_F(LongTextEditTest, cutsAVeryLongWordBetweenLetters)
@@ -156,7 +156,7 @@ TEST_F(LongTextEditTest, keepsTheReadersPlaceWhenAVeryLongLineGoes)
     auto& bar = *edit.verticalScrollBar();
     bar.setValue(bar.maximum() - 100);
     const auto read = top();
-    ASSERT_TRUE(read.startsWith(u"line"_s)) << read.toStdString();
+    ASSERT_TRUE(read.startsWith(u"line"_s)) << read;
     removeFirst(10);
     EXPECT_EQ(top(), read);
     append({longLine(20'000)});

@@ -195,7 +195,7 @@ TEST_F(FileDownloaderTest, refusesWhatDoesNotFitOnTheDiskAsSoonAsItsLengthIsKnow
         u"The download of “%1” is "_s.arg(server.url(file).toString())));
     EXPECT_TRUE(outcome.sentence.endsWith(
         u" larger than what is free in “%1”. Make room there and try again."_s.arg(folder.path())))
-        << outcome.sentence.toStdString();
+        << outcome.sentence;
     EXPECT_TRUE(folder.names().isEmpty());
 }
 

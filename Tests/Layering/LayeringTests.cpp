@@ -91,7 +91,7 @@ TEST(Layering, letsNoIncludePointUpwards)
 {
     const auto sources = QStringLiteral(SOURCE_FOLDER);
     ASSERT_GT(readIncludes(sources).size(), 50);
-    EXPECT_EQ(faults(sources).join(u'\n').toStdString(), "");
+    EXPECT_EQ(faults(sources), QStringList());
 }
 
 struct Arrow

@@ -45,10 +45,10 @@ protected:
     void write(const char* relative) const { m_folder.write(QString::fromUtf8(relative)); }
 
     /// The found program, as seen from the engine folder; "none" when none was found.
-    [[nodiscard]] std::string found() const
+    [[nodiscard]] QString found() const
     {
         const auto program = MacPlatform().findEngineProgram(m_folder.path());
-        return program ? QDir(m_folder.path()).relativeFilePath(*program).toStdString() : "none";
+        return program ? QDir(m_folder.path()).relativeFilePath(*program) : u"none"_s;
     }
 
     TestFolder m_folder;
@@ -58,36 +58,36 @@ TEST_F(MacEngineProgram, isTheOneNamedAfterTheEngine)
 {
     write("Godot.app/Contents/MacOS/Aaa");
     write("Godot.app/Contents/MacOS/Godot");
-    EXPECT_EQ(found(), "Godot.app/Contents/MacOS/Godot");
+    EXPECT_EQ(found(), u"Godot.app/Contents/MacOS/Godot");
 }
 
 TEST_F(MacEngineProgram, isTheFirstOneWhenNoneIsNamedAfterTheEngine)
 {
     write("Some.app/Contents/MacOS/zzz");
     write("Some.app/Contents/MacOS/aaa");
-    EXPECT_EQ(found(), "Some.app/Contents/MacOS/aaa");
+    EXPECT_EQ(found(), u"Some.app/Contents/MacOS/aaa");
 }
 
 TEST_F(MacEngineProgram, isFoundInABundleBelowAFolder)
 {
     write("some/folder/Godot_mono.app/Contents/MacOS/Godot");
-    EXPECT_EQ(found(), "some/folder/Godot_mono.app/Contents/MacOS/Godot");
+    EXPECT_EQ(found(), u"some/folder/Godot_mono.app/Contents/MacOS/Godot");
 }
 
 TEST_F(MacEngineProgram, isNotSoughtInABundleWithinABundle)
 {
     write("Outer.app/Contents/Helper.app/Contents/MacOS/Godot");
-    EXPECT_EQ(found(), "none");
+    EXPECT_EQ(found(), u"none");
     write("Other.app/Contents/MacOS/Godot");
-    EXPECT_EQ(found(), "Other.app/Contents/MacOS/Godot");
+    EXPECT_EQ(found(), u"Other.app/Contents/MacOS/Godot");
 }
 
 TEST_F(MacEngineProgram, isNotThereWithoutABundle)
 {
-    EXPECT_EQ(found(), "none");
+    EXPECT_EQ(found(), u"none");
     write("Godot");
     write("Godot.APP/Contents/MacOS/Godot");
-    EXPECT_EQ(found(), "none");
+    EXPECT_EQ(found(), u"none");
     EXPECT_EQ(MacPlatform().findEngineProgram(m_folder.path(u"none"_s)), std::nullopt);
 }
 

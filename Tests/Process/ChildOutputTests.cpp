@@ -10,8 +10,6 @@
 #include <csignal>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using OutputOfAChild = ChildTest;

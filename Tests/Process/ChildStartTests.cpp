@@ -15,8 +15,6 @@
 
 #include <fcntl.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using StartOfAChild = ChildTest;
@@ -40,8 +38,8 @@ TEST_F(StartOfAChild, ofAMissingProgramIsReportedInASentence)
         run(u"/nowhere/program"_s);
         FAIL() << "It started.";
     } catch (const PlatformError& error) {
-        EXPECT_EQ(error.message().toStdString(),
-                  "Could not start “/nowhere/program”: No such file or directory.");
+        EXPECT_EQ(error.message(),
+                  u"Could not start “/nowhere/program”: No such file or directory.");
     }
     EXPECT_EQ(lines(), QStringList());
     EXPECT_FALSE(m_process->isRunning());
@@ -89,13 +87,13 @@ TEST_F(StartOfAChild, takesAProgramWhoseNameIsNotAscii)
     EXPECT_EQ(lines(), QStringList{script});
 }
 
-TEST_F(StartOfAChild, givesTheChildTheNullDeviceAsStandardInput)
+TEST_F(StartOfAChild, connectsStandardInputToTheNullDevice)
 {
     runShell("readlink /proc/$$/fd/0");
     EXPECT_EQ(lines(), QStringList{u"/dev/null"_s});
 }
 
-TEST_F(StartOfAChild, givesTheChildItsEnvironmentAndWorkingFolder)
+TEST_F(StartOfAChild, passesOnTheEnvironmentAndWorkingFolder)
 {
     qputenv("CAVERNYX_TEST_VALUE", "inherited");
     runShell("echo $CAVERNYX_TEST_VALUE; pwd");
@@ -103,7 +101,7 @@ TEST_F(StartOfAChild, givesTheChildItsEnvironmentAndWorkingFolder)
     EXPECT_EQ(lines(), (QStringList{u"inherited"_s, QDir::currentPath()}));
 }
 
-TEST_F(StartOfAChild, givesTheChildNoOtherDescriptor)
+TEST_F(StartOfAChild, passesNoOtherDescriptor)
 {
     const FileDescriptor leaking(::open("/dev/null", O_RDONLY)); // NOLINT: must not be marked
     ASSERT_TRUE(leaking.isOpen());

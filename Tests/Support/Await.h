@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Support/QtPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <QFuture>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Support/FailOnWarning.h"
 
+#include "Support/QtPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <QString>
@@ -26,7 +28,7 @@ void fail(QtMsgType type, const QMessageLogContext&, const QString& message)
         std::cerr << message.toStdString() << std::endl;
         std::abort();
     }
-    ADD_FAILURE() << "Qt said: " << message.toStdString();
+    ADD_FAILURE() << "Qt said: " << message;
 }
 
 } // namespace

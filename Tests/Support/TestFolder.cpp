@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "Support/TestFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 TestFolder::TestFolder()
 {
-    EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
+    EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString();
 }
 
 QString TestFolder::path(const QString& relative) const
 {
-    return m_folder.filePath(relative);
+    return QDir(m_folder.path()).filePath(relative);
 }
 
 QString TestFolder::write(const QString& relative, const QByteArray& contents) const
@@ -22,7 +20,7 @@ QString TestFolder::write(const QString& relative, const QByteArray& contents) c
     const auto full = path(relative);
     EXPECT_TRUE(QDir().mkpath(QFileInfo(full).path()));
     QFile file(full);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << full.toStdString();
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << full;
     EXPECT_EQ(file.write(contents), contents.size());
     return full;
 }
@@ -46,7 +44,7 @@ QString TestFolder::makeFolder(const QString& relative) const
 QByteArray TestFolder::read(const QString& relative) const
 {
     QFile file(path(relative));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << relative.toStdString();
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << relative;
     return file.readAll();
 }
 

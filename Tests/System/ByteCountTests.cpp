@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "System/ByteCount.h"
 
-#include <gtest/gtest.h>
+#include "Support/QtPrinters.h"
 
 #include <cstdlib>
 #include <ostream>
@@ -12,7 +12,7 @@ namespace {
 struct Example
 {
     qint64 bytes;
-    const char* text;
+    QStringView text;
 };
 
 void PrintTo(const Example& example, std::ostream* stream)
@@ -32,19 +32,19 @@ class ByteCount : public testing::TestWithParam<Example>
 
 TEST_P(ByteCount, isWrittenInTheStyleOfAFileSize)
 {
-    EXPECT_EQ(formattedByteCount(GetParam().bytes).toStdString(), GetParam().text);
+    EXPECT_EQ(formattedByteCount(GetParam().bytes), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Examples, ByteCount,
-    testing::Values(Example{0, "Zero KB"}, Example{1, "1 byte"}, Example{512, "512 bytes"},
-                    Example{999, "999 bytes"}, Example{1000, "1 KB"}, Example{11'999, "12 KB"},
-                    Example{12'345, "12 KB"}, Example{7'300'000, "7.3 MB"},
-                    Example{70'100'000, "70.1 MB"}, Example{123'456'789, "123.5 MB"},
-                    Example{999'900'000, "999.9 MB"}, Example{1'000'000'000, "1 GB"},
-                    Example{1'500'000'000, "1.5 GB"}, Example{1'234'567'898, "1.23 GB"},
-                    Example{999'999, "1 MB"}, Example{999'999'999, "1 GB"},
-                    Example{-2'000, "-2 KB"}),
+    testing::Values(Example{0, u"Zero KB"}, Example{1, u"1 byte"}, Example{512, u"512 bytes"},
+                    Example{999, u"999 bytes"}, Example{1000, u"1 KB"}, Example{11'999, u"12 KB"},
+                    Example{12'345, u"12 KB"}, Example{7'300'000, u"7.3 MB"},
+                    Example{70'100'000, u"70.1 MB"}, Example{123'456'789, u"123.5 MB"},
+                    Example{999'900'000, u"999.9 MB"}, Example{1'000'000'000, u"1 GB"},
+                    Example{1'500'000'000, u"1.5 GB"}, Example{1'234'567'898, u"1.23 GB"},
+                    Example{999'999, u"1 MB"}, Example{999'999'999, u"1 GB"},
+                    Example{-2'000, u"-2 KB"}),
     nameOf);
 
 } // namespace

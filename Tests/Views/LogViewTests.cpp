@@ -7,8 +7,6 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class LogViewTest : public ViewTest
@@ -152,7 +150,7 @@ TEST_F(LogViewTest, isSetInAFixedWidthCaptionAsTheReportIs)
     showAllBlocks();
     for (auto* const box : {&failure(), &logBox()}) {
         const auto font = box->edit().font();
-        EXPECT_TRUE(QFontInfo(font).fixedPitch()) << qPrintable(font.family());
+        EXPECT_TRUE(QFontInfo(font).fixedPitch()) << font.family();
         EXPECT_NEAR(font.pointSizeF(), QApplication::font().pointSizeF() * 10 / 13, 0.01);
     }
 }

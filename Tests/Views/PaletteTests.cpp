@@ -25,7 +25,7 @@ protected:
     void expectColor(const QWidget& widget, const QPoint& point, const QColor& wanted)
     {
         const auto found = picture.pixelColor(rectOf(widget).topLeft() + point);
-        SCOPED_TRACE(qPrintable(found.name() + u' ' + wanted.name()));
+        SCOPED_TRACE(found.name() + u' ' + wanted.name());
         EXPECT_NEAR(found.red(), wanted.red(), 1);
         EXPECT_NEAR(found.green(), wanted.green(), 1);
         EXPECT_NEAR(found.blue(), wanted.blue(), 1);
