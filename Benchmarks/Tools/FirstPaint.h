@@ -15,7 +15,7 @@ public:
     /// this object.
     explicit FirstPaint(const XConnection& display);
 
-    /// Gives the moment at which the display told of it. Throws std::runtime_error when that takes
+    /// Returns the time at which the display reported it. Throws std::runtime_error when that takes
     /// longer than 20 seconds.
     [[nodiscard]] XConnection::Clock::time_point wait();
 

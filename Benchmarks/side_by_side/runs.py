@@ -39,7 +39,7 @@ def run(command: Sequence[str], **how) -> Run:
 
 
 def as_reported(measured: Run) -> Run:
-    """The figures that one of our measuring programs gives of the work alone, without its start."""
+    """The figures that one of our measuring programs prints for the work alone, without its start."""
     report = measured.report
     return Run(
         report["wall"], report.get("processor", 0.0), int(report.get("peak_kib", 0)), report

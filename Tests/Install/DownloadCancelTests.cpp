@@ -35,7 +35,7 @@ TEST_F(DownloadCancelTest, endsWithCancelledAtOnceWhileTheServerIsSilent)
 
     EXPECT_TRUE(downloadAndCancel(server.url(file)).isCancelled);
 
-    // Long before anybody looks at the time.
+    // Long before the stall timeout.
     EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
 }
 

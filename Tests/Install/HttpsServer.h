@@ -5,8 +5,8 @@
 #include <QSslServer>
 #include <QUrl>
 
-/// An HTTPS server on the loopback interface that gives the same answer to every request, under a
-/// certificate of its own, which nobody trusts. Served by the event loop.
+/// An HTTPS server on the loopback interface that sends the same answer to every request, under a
+/// self-signed certificate. Served by the event loop.
 class HttpsServer final
 {
 public:

@@ -13,7 +13,7 @@ using HttpsTest = FileDownloaderTest;
 
 // That a server which the system trusts is accepted is shown end to end, with the system's own
 // store of certificates.
-TEST_F(HttpsTest, failsOnACertificateThatNobodyVouchesFor)
+TEST_F(HttpsTest, failsOnACertificateThatIsNotTrusted)
 {
     const HttpsServer secure(HttpServer::head(200, "Content-Length: 9\n") + "the bytes");
     const auto url = secure.url(u"/file.zip"_s);

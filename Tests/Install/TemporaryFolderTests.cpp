@@ -25,7 +25,7 @@ namespace {
 class TemporaryFolderTest : public testing::Test
 {
 protected:
-    /// Whether somebody else could clear the folder as one that nobody owns.
+    /// Whether another process could clear the folder as an abandoned one.
     [[nodiscard]] bool isFree() const
     {
         const FileDescriptor folder(

@@ -6,21 +6,19 @@
 #include <csignal>
 #include <memory>
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {
 
 using EndOfAChild = ChildTest;
 
-TEST_F(EndOfAChild, givesAnExitStatusThatIsNotZero)
+TEST_F(EndOfAChild, returnsAnExitStatusThatIsNotZero)
 {
     EXPECT_EQ(runShell("exit 3"), 3);
     EXPECT_EQ(lines(), QStringList());
 }
 
-TEST_F(EndOfAChild, givesTheNumberOfTheSignalThatCausedIt)
+TEST_F(EndOfAChild, returnsTheNumberOfTheSignalThatCausedIt)
 {
     EXPECT_EQ(runShell("kill -USR1 $$"), SIGUSR1);
 }
@@ -105,7 +103,7 @@ TEST_F(EndOfAChild, letsWhatTheGameLeavesBehindGoOn)
     EXPECT_EQ(m_game->run(u"/bin/sh"_s, shell("sleep 600 & echo $!"), m_output.callback()), 0);
     const auto grandchild = lines().value(0).toInt();
     ASSERT_GT(grandchild, 0);
-    EXPECT_TRUE(processRuns(grandchild)); // Nobody asked for its end.
+    EXPECT_TRUE(processRuns(grandchild)); // It was not asked to end.
     ::kill(grandchild, SIGKILL);
 }
 

@@ -66,7 +66,7 @@ TEST(ImportWatcher, endsARunWithNothingMissingForFourSeconds)
     EXPECT_EQ(watch.polls, 4);
 }
 
-TEST(ImportWatcher, beginsAnewWhenSomethingIsMissingAgain)
+TEST(ImportWatcher, beginsAgainWhenSomethingIsMissingAgain)
 {
     const Watch watch({0, 5, 0, 0, 0});
     EXPECT_EQ(watch.log, (QStringList{progress(0), progress(5), progress(0), allImported()}));
@@ -98,7 +98,7 @@ TEST(ImportWatcher, logsTheLastCountBeforeItGivesUp)
     EXPECT_EQ(watcher.next(6, 901s).log, (QStringList{progress(6), tooLong()}));
 }
 
-TEST(ImportWatcher, givesUpThoughNothingIsMissingSinceAMoment)
+TEST(ImportWatcher, givesUpThoughNothingHasBeenMissingForAWhile)
 {
     ImportWatcher watcher(4s, 900s);
     EXPECT_EQ(watcher.next(0, 901s).log, (QStringList{progress(0), tooLong()}));

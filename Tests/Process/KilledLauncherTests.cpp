@@ -17,7 +17,7 @@ namespace {
 class ChildOfAKilledLauncher : public testing::Test
 {
 protected:
-    /// Has a launcher of its own start a child that goes on for long; gives the child's id.
+    /// Has a launcher of its own start a child that goes on for long. Returns the child's id.
     qint64 startChild(const QString& lifetime)
     {
         m_launcher.start(QStringLiteral(CHILD_LAUNCHER),

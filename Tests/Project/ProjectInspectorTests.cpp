@@ -60,7 +60,7 @@ TEST_F(ProjectInspectorTest, readsARealProjectFile)
     EXPECT_FALSE(info->usesCSharp);
 }
 
-TEST_F(ProjectInspectorTest, givesNothingWithoutAUsableVersion)
+TEST_F(ProjectInspectorTest, returnsNothingWithoutAUsableVersion)
 {
     for (const auto* version : {"abc", "", "0", "4x", "x4", "4.0", "+", "-", "--4", "0x4", "4 4",
                                 "99999999999999999999", "\xd9\xa4" /* a digit, but not of ours */})
@@ -149,7 +149,7 @@ TEST_F(ProjectInspectorTest, seesCSharpInASolutionOrProjectFileBesideIt)
     EXPECT_TRUE(inspectWithVersion("").usesCSharp);
 }
 
-TEST_F(ProjectInspectorTest, givesNothingForAFileItCannotUse)
+TEST_F(ProjectInspectorTest, returnsNothingForAFileItCannotUse)
 {
     EXPECT_EQ(ProjectInspector::inspect(m_folder.path()), std::nullopt);
     EXPECT_EQ(inspect("config_version=4\nconfig/name=\"\xff\"\n"), std::nullopt);

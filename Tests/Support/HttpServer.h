@@ -28,7 +28,7 @@ public:
         {
         }
 
-        /// Sends all of `bytes`; gives false once the client has gone.
+        /// Sends all of `bytes`. Returns false once the client has gone.
         bool send(QByteArrayView bytes) const;
         /// Stays silent until the client hangs up.
         void waitForHangUp() const;
@@ -66,7 +66,7 @@ public:
 
     /// The heads of all requests so far.
     [[nodiscard]] QList<QByteArray> requests() const;
-    /// Waits until `count` requests have come; gives false after 20 s.
+    /// Waits until `count` requests have come. Returns false after 20 s.
     [[nodiscard]] bool waitForRequests(int count) const;
 
 private:

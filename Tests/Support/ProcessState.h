@@ -3,5 +3,5 @@
 
 #include <QtGlobal>
 
-/// Whether the process `id` runs: one that has ended and that nobody has collected does not.
+/// Whether the process `id` runs. A zombie does not.
 bool processRuns(qint64 id);

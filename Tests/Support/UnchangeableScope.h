@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// A file or folder that nobody may change or remove, the administrator included, while this lives,
+/// Makes a file or folder immutable, for the administrator too, while this lives,
 /// also when a folder above is moved. Only the administrator can make one, and not on every system.
 class UnchangeableScope final
 {

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Another process, a copy of this one: it does `work`, which gets a descriptor to answer to and
-/// one that ends with this object, and then leaves with the status that `work` gives.
+/// one that ends with this object, and then exits with the status that `work` returns.
 class OtherProcess final
 {
 public:
@@ -63,7 +63,7 @@ public:
     void kill() { ::kill(m_id, SIGKILL); }
     void order() { EXPECT_EQ(::write(m_orders.get(), "\n", 1), 1); }
 
-    /// Lets it go to its end and gives its status, negative when it was killed.
+    /// Waits for its end and returns its status, negative when it was killed.
     int end()
     {
         m_orders.close();
