@@ -24,6 +24,13 @@ protected:
         m_project.write(QString::fromUtf8(relative), contents);
     }
 
+    /// Writes an asset with the record of its import.
+    void writeAsset(const QByteArray& record) const
+    {
+        write("a.png");
+        write("a.png.import", record);
+    }
+
     [[nodiscard]] int missingCount() const { return ImportChecker::missingCount(m_project.path()); }
 
     TestFolder m_project;
@@ -50,8 +57,7 @@ TEST_F(ImportCheckerTest, countsEveryImportableKindInAnyCaseAndNothingElse)
 
 TEST_F(ImportCheckerTest, countsAnAssetUntilItsConvertedFileExists)
 {
-    write("a.png");
-    write("a.png.import", "[remap]\n\npath=\"res://.import/a.png-1234.stex\"\n");
+    writeAsset("[remap]\n\npath=\"res://.import/a.png-1234.stex\"\n");
     EXPECT_EQ(missingCount(), 1);
     write(".import/a.png-1234.stex");
     EXPECT_EQ(missingCount(), 0);
@@ -69,9 +75,8 @@ TEST_F(ImportCheckerTest, resolvesPathsAgainstTheProjectAndNotTheAssetsFolder)
 
 TEST_F(ImportCheckerTest, isSatisfiedByAnyOfSeveralFormats)
 {
-    write("a.png");
-    write("a.png.import",
-          "path.s3tc=\"res://.import/a.s3tc.stex\"\npath.etc2=\"res://.import/a.etc2.stex\"\n");
+    writeAsset(
+        "path.s3tc=\"res://.import/a.s3tc.stex\"\npath.etc2=\"res://.import/a.etc2.stex\"\n");
     EXPECT_EQ(missingCount(), 1);
     write(".import/a.etc2.stex");
     EXPECT_EQ(missingCount(), 0);
@@ -93,8 +98,7 @@ TEST_F(ImportCheckerTest, takesARecordThatNamesNoConvertedFileAsImported)
 
 TEST_F(ImportCheckerTest, trimsBlanksAroundLinesAndQuotesAroundValues)
 {
-    write("a.png");
-    write("a.png.import", "\t path = \" res://x y.stex \" \t\n");
+    writeAsset("\t path = \" res://x y.stex \" \t\n");
     EXPECT_EQ(missingCount(), 1);
     write("x y.stex");
     EXPECT_EQ(missingCount(), 0);
@@ -102,33 +106,29 @@ TEST_F(ImportCheckerTest, trimsBlanksAroundLinesAndQuotesAroundValues)
 
 TEST_F(ImportCheckerTest, keepsACarriageReturnInAPath)
 {
-    write("a.png");
-    write("a.png.import", "path=\"res://a.stex\"\r\n");
+    writeAsset("path=\"res://a.stex\"\r\n");
     write("a.stex");
     EXPECT_EQ(missingCount(), 1);
 }
 
 TEST_F(ImportCheckerTest, readsPastAByteOrderMarkAtTheBeginningOfARecord)
 {
-    write("a.png");
-    write("a.png.import", "\xef\xbb\xbfpath=\"res://a.stex\"\n");
+    writeAsset("\xef\xbb\xbfpath=\"res://a.stex\"\n");
     EXPECT_EQ(missingCount(), 1);
-    write("a.png.import", "\n\xef\xbb\xbfpath=\"res://a.stex\"\n");
+    writeAsset("\n\xef\xbb\xbfpath=\"res://a.stex\"\n");
     EXPECT_EQ(missingCount(), 0);
 }
 
 TEST_F(ImportCheckerTest, looksAtTheFirstEqualsSignOnly)
 {
-    write("a.png");
-    write("a.png.import", "path=\"res://a=b.stex\"\n");
+    writeAsset("path=\"res://a=b.stex\"\n");
     write("a=b.stex");
     EXPECT_EQ(missingCount(), 0);
 }
 
 TEST_F(ImportCheckerTest, neverLeavesTheProjectByAnAbsolutePath)
 {
-    write("a.png");
-    write("a.png.import", "path=\"res:///etc/passwd\"\n");
+    writeAsset("path=\"res:///etc/passwd\"\n");
     EXPECT_EQ(missingCount(), 1);
     write("etc/passwd");
     EXPECT_EQ(missingCount(), 0);
@@ -136,8 +136,7 @@ TEST_F(ImportCheckerTest, neverLeavesTheProjectByAnAbsolutePath)
 
 TEST_F(ImportCheckerTest, countsARecordThatIsNotUtf8)
 {
-    write("a.png");
-    write("a.png.import", "path=\"res://a.stex\"\n\xff\n");
+    writeAsset("path=\"res://a.stex\"\n\xff\n");
     write("a.stex");
     EXPECT_EQ(missingCount(), 1);
 }
@@ -218,18 +217,18 @@ TEST_F(ImportCheckerTest, readsNamesThatAreNotUtf8)
     ASSERT_EQ(::unlink(name.constData()), 0); // QTemporaryDir cannot.
 }
 
-TEST_F(ImportCheckerTest, givesZeroForAFolderThatDoesNotExist)
+TEST_F(ImportCheckerTest, returnsZeroForAFolderThatDoesNotExist)
 {
     EXPECT_EQ(ImportChecker::missingCount(m_project.path(u"none"_s)), 0);
 }
 
-TEST_F(ImportCheckerTest, givesZeroForAFile)
+TEST_F(ImportCheckerTest, returnsZeroForAFile)
 {
     write("a.png");
     EXPECT_EQ(ImportChecker::missingCount(m_project.path(u"a.png"_s)), 0);
 }
 
-TEST_F(ImportCheckerTest, givesZeroWhenItIsToStop)
+TEST_F(ImportCheckerTest, returnsZeroWhenItIsToStop)
 {
     write("a.png");
     std::stop_source stop;

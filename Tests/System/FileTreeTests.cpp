@@ -30,6 +30,19 @@ namespace {
 class FileTreeTest : public testing::Test
 {
 protected:
+    /// An old folder and a new one in its staging place.
+    void writeBoth() const
+    {
+        m_folder.write(u"Game/old"_s);
+        m_folder.write(u"Game.new/new"_s);
+    }
+    void replace() const { FileTree::replace(m_target, m_staging, m_aside); }
+    void expectUntouched() const
+    {
+        EXPECT_EQ(m_folder.names(), (QStringList{u"Game"_s, u"Game.new"_s}));
+        EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"old"_s});
+        EXPECT_EQ(m_folder.names(u"Game.new"_s), QStringList{u"new"_s});
+    }
     void expectReplaced() const
     {
         EXPECT_EQ(m_folder.names(), (QStringList{u"Game"_s, u"Game.new"_s}));
@@ -97,16 +110,15 @@ TEST_F(FileTreeTest, saysInASentenceWhatCannotBeRemoved)
 
 TEST_F(FileTreeTest, replacesAFolderAndLeavesTheOldOneAtTheStagingPlace)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
-    FileTree::replace(m_target, m_staging, m_aside);
+    writeBoth();
+    replace();
     expectReplaced();
 }
 
 TEST_F(FileTreeTest, movesAFolderToWhereNothingIs)
 {
     m_folder.write(u"Game.new/new"_s);
-    FileTree::replace(m_target, m_staging, m_aside);
+    replace();
     EXPECT_EQ(m_folder.names(), QStringList{u"Game"_s});
 }
 
@@ -116,7 +128,7 @@ TEST_F(FileTreeTest, replacesALinkAndNotWhatItPointsTo)
     elsewhere.write(u"kept"_s);
     ASSERT_TRUE(QFile::link(elsewhere.path(), m_target));
     m_folder.write(u"Game.new/new"_s);
-    FileTree::replace(m_target, m_staging, m_aside);
+    replace();
     EXPECT_FALSE(QFileInfo(m_target).isSymLink());
     EXPECT_TRUE(QFileInfo(m_staging).isSymLink());
     EXPECT_TRUE(elsewhere.exists(u"kept"_s));
@@ -124,13 +136,11 @@ TEST_F(FileTreeTest, replacesALinkAndNotWhatItPointsTo)
 
 TEST_F(FileTreeTest, replacesNothingWhenCancelled)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
+    writeBoth();
     std::stop_source stop;
     stop.request_stop();
     EXPECT_THROW(FileTree::replace(m_target, m_staging, m_aside, stop.get_token()), Cancelled);
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"old"_s});
-    EXPECT_EQ(m_folder.names(u"Game.new"_s), QStringList{u"new"_s});
+    expectUntouched();
 }
 
 TEST_F(FileTreeTest, reportsAReplacementThatFailsAndKeepsTheStagingFolder)
@@ -155,56 +165,45 @@ QString sentenceWithoutExchange(const std::function<void()>& action)
 
 TEST_F(FileTreeTest, replacesAFolderWhereTheFileSystemCannotExchange)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
-    EXPECT_EQ(sentenceWithoutExchange([this] { FileTree::replace(m_target, m_staging, m_aside); }),
-              QString());
+    writeBoth();
+    EXPECT_EQ(sentenceWithoutExchange([this] { replace(); }), QString());
     expectReplaced();
 }
 
 TEST_F(FileTreeTest, movesAFolderToWhereNothingIsAlsoWhereTheFileSystemCannotExchange)
 {
     m_folder.write(u"Game.new/new"_s);
-    EXPECT_EQ(sentenceWithoutExchange([this] { FileTree::replace(m_target, m_staging, m_aside); }),
-              QString());
+    EXPECT_EQ(sentenceWithoutExchange([this] { replace(); }), QString());
     EXPECT_EQ(m_folder.names(), QStringList{u"Game"_s});
 }
 
 TEST_F(FileTreeTest, putsTheOldFolderBackWhenTheNewOneCannotBeMoved)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
+    writeBoth();
     // No system moves a folder that is named so.
     const auto immovable = m_staging + u"/."_s;
     const auto sentence =
         sentenceWithoutExchange([&] { FileTree::replace(m_target, immovable, m_aside); });
     EXPECT_TRUE(sentence.startsWith(u"Could not move “%1” to “%2”: "_s.arg(immovable, m_target)))
-        << sentence.toStdString();
-    EXPECT_EQ(m_folder.names(), (QStringList{u"Game"_s, u"Game.new"_s}));
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"old"_s});
+        << sentence;
+    expectUntouched();
 }
 
 TEST_F(FileTreeTest, writesTheNewFolderToTheDiskBeforeItTouchesTheOldOne)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
-    const auto sentence = sentenceWithout(
-        SYS_syncfs, EIO, [this] { FileTree::replace(m_target, m_staging, m_aside); });
+    writeBoth();
+    const auto sentence = sentenceWithout(SYS_syncfs, EIO, [this] { replace(); });
     EXPECT_EQ(sentence, u"Could not write “%1” to the disk: Input/output error."_s.arg(m_staging));
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"old"_s});
-    EXPECT_EQ(m_folder.names(u"Game.new"_s), QStringList{u"new"_s});
+    expectUntouched();
 }
 
 TEST_F(FileTreeTest, touchesNothingWhenTheExchangeIsRefused)
 {
-    m_folder.write(u"Game/old"_s);
-    m_folder.write(u"Game.new/new"_s);
-    const auto sentence = sentenceWithout(
-        SYS_renameat2, EACCES, [this] { FileTree::replace(m_target, m_staging, m_aside); });
+    writeBoth();
+    const auto sentence = sentenceWithout(SYS_renameat2, EACCES, [this] { replace(); });
     EXPECT_EQ(sentence,
               u"Could not exchange “%1” and “%2”: Permission denied."_s.arg(m_staging, m_target));
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"old"_s});
-    EXPECT_EQ(m_folder.names(u"Game.new"_s), QStringList{u"new"_s});
+    expectUntouched();
 }
 #endif
 

@@ -9,8 +9,6 @@
 
 #include <sys/mount.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 bool mountOver(const QString& place, const QString& what)
@@ -20,7 +18,7 @@ bool mountOver(const QString& place, const QString& what)
 }
 
 /// Mounts over `place` with `mount`, tries the removal of `target`, and once more when nothing is
-/// mounted any more. Gives 0 when the first attempt named the place and the second succeeded.
+/// mounted any more. Returns 0 when the first attempt named the place and the second succeeded.
 template<typename Mount, typename Check>
 int removeAroundMount(const QString& target, const QString& place, Mount mount, Check isUntouched)
 {

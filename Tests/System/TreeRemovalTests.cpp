@@ -10,23 +10,46 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <functional>
 #include <thread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr auto skipped = 77;
-
-/// The administrator may remove everything, so an ordinary user tries.
-bool becomeOrdinaryUser()
+/// The administrator may remove everything, so an ordinary user does `work` in a copy of the test.
+void asOrdinaryUser(const std::function<bool()>& work)
 {
-    return ::getuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0);
+    EXPECT_EQ(inAnotherProcess([&work] {
+                  if (::getuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0))
+                      return 2;
+                  return work() ? 0 : 1;
+              }),
+              0);
 }
+
+class LockedFolderTest : public TreeRemovalTest
+{
+protected:
+    void SetUp() override
+    {
+        if (::getuid() != 0)
+            GTEST_SKIP() << "Only the administrator can make files of another user.";
+        m_folder.write(u"Game/locked/file"_s);
+    }
+    /// An ordinary user can remove all but the folder "locked", which is not his.
+    void expectOnlyLockedIsLeft() const
+    {
+        asOrdinaryUser([this] {
+            const auto failure = TreeRemoval::remove(m_target);
+            return failure && failure->path == m_folder.path(u"Game/locked"_s) &&
+                   failure->reason == u"Permission denied"_s;
+        });
+        EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"locked"_s});
+    }
+};
 
 TEST_F(TreeRemovalTest, removesAFolderWithEverythingInIt)
 {
@@ -81,67 +104,45 @@ TEST_F(TreeRemovalTest, removesATreeDeeperThanAnyPathMayBeLong)
 TEST_F(TreeRemovalTest, unlocksTheUsersOwnFolders)
 {
     setMode({}, 0777);
-    EXPECT_EQ(inAnotherProcess([this] {
-                  if (!becomeOrdinaryUser())
-                      return skipped;
-                  m_folder.write(u"Game/unreadable/file"_s);
-                  m_folder.write(u"Game/unwritable/deeper/file"_s);
-                  setMode(u"Game/unreadable"_s, 0);
-                  setMode(u"Game/unwritable/deeper"_s, 0555);
-                  setMode(u"Game/unwritable"_s, 0555);
-                  return TreeRemoval::remove(m_target) ? 1 : 0;
-              }),
-              0);
+    asOrdinaryUser([this] {
+        m_folder.write(u"Game/unreadable/file"_s);
+        m_folder.write(u"Game/unwritable/deeper/file"_s);
+        setMode(u"Game/unreadable"_s, 0);
+        setMode(u"Game/unwritable/deeper"_s, 0555);
+        setMode(u"Game/unwritable"_s, 0555);
+        return !TreeRemoval::remove(m_target);
+    });
     EXPECT_TRUE(m_folder.names().isEmpty());
 }
 
 TEST_F(TreeRemovalTest, needsNotReadTheFolderThatHoldsWhatIsRemoved)
 {
     setMode({}, 0777);
-    EXPECT_EQ(inAnotherProcess([this] {
-                  if (!becomeOrdinaryUser())
-                      return skipped;
-                  m_folder.write(u"unreadable/Game/file"_s);
-                  setMode(u"unreadable"_s, 0300);
-                  const auto failure = TreeRemoval::remove(m_folder.path(u"unreadable/Game"_s));
-                  setMode(u"unreadable"_s, 0700);
-                  return failure ? 1 : 0;
-              }),
-              0);
+    asOrdinaryUser([this] {
+        m_folder.write(u"unreadable/Game/file"_s);
+        setMode(u"unreadable"_s, 0300);
+        const auto failure = TreeRemoval::remove(m_folder.path(u"unreadable/Game"_s));
+        setMode(u"unreadable"_s, 0700);
+        return !failure;
+    });
     EXPECT_TRUE(m_folder.names(u"unreadable"_s).isEmpty());
 }
 
-TEST_F(TreeRemovalTest, namesTheFirstThingInItsWayAndRemovesTheRest)
+TEST_F(LockedFolderTest, isNamedAndTheRestRemoved)
 {
-    if (::getuid() != 0)
-        GTEST_SKIP() << "Only the administrator can make files that are somebody else's.";
     setMode({}, 0777);
-    m_folder.write(u"Game/locked/file"_s);
     m_folder.write(u"Game/b/file"_s);
     m_folder.write(u"Game/file"_s);
     setMode(u"Game"_s, 0777);
     setMode(u"Game/b"_s, 0777);
-    EXPECT_EQ(inAnotherProcess([this] {
-                  if (!becomeOrdinaryUser())
-                      return skipped;
-                  const auto failure = TreeRemoval::remove(m_target);
-                  return failure && failure->path == m_folder.path(u"Game/locked"_s) &&
-                                 failure->reason == u"Permission denied"_s
-                             ? 0
-                             : 1;
-              }),
-              0);
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"locked"_s});
+    expectOnlyLockedIsLeft();
 
     EXPECT_FALSE(TreeRemoval::remove(m_target)) << "It can be tried again.";
     EXPECT_TRUE(m_folder.names().isEmpty());
 }
 
-TEST_F(TreeRemovalTest, passesOverAFolderThatOnlySomebodyElseMayEnter)
+TEST_F(LockedFolderTest, isPassedOverWhenOnlyAnotherUserMayEnter)
 {
-    if (::getuid() != 0)
-        GTEST_SKIP() << "Only the administrator can make folders that are somebody else's.";
-    m_folder.write(u"Game/locked/file"_s);
     m_folder.write(u"Game/a"_s);
     m_folder.write(u"Game/z/file"_s);
     m_folder.makeFolder(u"Game/empty"_s);
@@ -150,18 +151,7 @@ TEST_F(TreeRemovalTest, passesOverAFolderThatOnlySomebodyElseMayEnter)
     // Listed, but not entered; and not even listed.
     setMode(u"Game/locked"_s, 0744);
     setMode(u"Game/empty"_s, 0700);
-    EXPECT_EQ(inAnotherProcess([this] {
-                  if (!becomeOrdinaryUser())
-                      return skipped;
-                  const auto failure = TreeRemoval::remove(m_target);
-                  const auto locked = m_folder.path(u"Game/locked"_s);
-                  return failure && failure->path == locked &&
-                                 failure->reason == u"Permission denied"_s
-                             ? 0
-                             : 1;
-              }),
-              0);
-    EXPECT_EQ(m_folder.names(u"Game"_s), QStringList{u"locked"_s});
+    expectOnlyLockedIsLeft();
 }
 
 #if defined(Q_OS_LINUX)

@@ -6,8 +6,6 @@
 
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class ZipCancelTest : public ZipExtractorTest

@@ -7,8 +7,6 @@
 
 #include <sys/resource.h>
 
-using namespace Qt::StringLiterals;
-
 using ZipDamageTest = ZipExtractorTest;
 
 TEST_F(ZipDamageTest, refusesWhatIsNoArchive)
@@ -58,9 +56,7 @@ TEST_F(ZipDamageTest, failsOnABadChecksumOfALink)
     ZipWriter zip;
     zip.addFile("a").add({.name = "l", .data = "a", .mode = S_IFLNK | 0777, .checksum = 1234});
 
-    EXPECT_EQ(extract(zip), 1);
-    EXPECT_EQ(log, QStringList{u"The archive entry “l” is damaged."_s});
-    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+    expectRefusal(zip, u"The archive entry “l” is damaged."_s);
 }
 
 TEST_F(ZipDamageTest, failsWhenTheAnnouncedSizeIsNotTheTrueOne)

@@ -13,8 +13,6 @@
 
 #include <locale.h>
 
-using namespace Qt::StringLiterals;
-
 TEST_F(ZipExtractorTest, unpacksFilesAndFolders)
 {
     const QByteArray large(3'000'000, 'x');
@@ -46,10 +44,10 @@ TEST_F(ZipExtractorTest, unpacksFilesWhereverTheInputBufferEnds)
         contents.insert(QString::number(i), data);
     }
 
-    EXPECT_EQ(extract(zip), 0) << log.join(u'\n').toStdString();
+    EXPECT_EQ(extract(zip), 0) << log.join(u'\n');
 
     for (const auto& [name, data] : contents.asKeyValueRange())
-        EXPECT_EQ(folder.read(unpacked(name)), data) << name.toStdString();
+        EXPECT_EQ(folder.read(unpacked(name)), data) << name;
 }
 
 TEST_F(ZipExtractorTest, keepsTheExecuteBitAndNoOtherMode)
@@ -124,10 +122,9 @@ TEST_F(ZipExtractorTest, unpacksWhatTheUsualToolsMake)
         process.setWorkingDirectory(folder.path(u"tree"_s));
         process.start(tool.first(), tool.sliced(1));
         ASSERT_TRUE(process.waitForFinished() && process.exitCode() == 0)
-            << tool.first().toStdString() << process.readAllStandardError().toStdString();
+            << tool.first() << process.readAllStandardError().constData();
 
-        EXPECT_EQ(extract(folder.read(u"made.zip"_s)), 0)
-            << tool.first().toStdString() << ": " << log.join(u' ').toStdString();
+        EXPECT_EQ(extract(folder.read(u"made.zip"_s)), 0) << tool.first() << ": " << log.join(u' ');
 
         EXPECT_EQ(folder.read(unpacked(u"l"_s)), QByteArray(5'000, 'x'));
         EXPECT_EQ(folder.read(unpacked(u"Schön 日本.png"_s)), "an image");

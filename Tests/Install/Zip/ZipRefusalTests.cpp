@@ -3,8 +3,6 @@
 
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using ZipRefusalTest = ZipExtractorTest;
@@ -36,8 +34,7 @@ const auto belowFile = u"would lie below a file or a link"_s;
 
 TEST_F(ZipRefusalTest, refusesAnArchiveWithoutEntries)
 {
-    EXPECT_EQ(extract(ZipWriter()), 1);
-    EXPECT_EQ(log, QStringList{u"The archive is empty."_s});
+    expectRefusal(ZipWriter(), u"The archive is empty."_s);
 }
 
 TEST_F(ZipRefusalTest, refusesNamesThatLeaveTheFolder)
@@ -93,10 +90,7 @@ TEST_F(ZipRefusalTest, refusesALinkThatPointsOutThroughAnotherOne)
     ZipWriter zip;
     zip.addLink("a/b/c", "../..").addLink("d", "a/b/c/..");
 
-    EXPECT_EQ(extract(zip), 1);
-
-    EXPECT_EQ(log, QStringList{refusal(u"d"_s, leadsOutside)});
-    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+    expectRefusal(zip, refusal(u"d"_s, leadsOutside));
 }
 
 TEST_F(ZipRefusalTest, refusesLinksThatGoRoundInCircles)
@@ -120,8 +114,7 @@ TEST_F(ZipRefusalTest, refusesLinksThatLeadAlongTooLongAPath)
     zip.addLink(target + "again", target).addLink("l", target + "again/" + half);
     EXPECT_EQ(extract(zip), 1);
     ASSERT_EQ(log.size(), 1);
-    EXPECT_TRUE(log.first().endsWith(u"leads along too long a path."_s))
-        << log.first().toStdString();
+    EXPECT_TRUE(log.first().endsWith(u"leads along too long a path."_s)) << log.first();
     EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
 }
 
@@ -135,9 +128,7 @@ TEST_F(ZipRefusalTest, refusesLinksThatWouldTakeHoursToFollow)
     for (int i = 0; i < 1'000; ++i)
         zip.addLink(QByteArray::number(i), "chain0");
 
-    EXPECT_EQ(extract(zip), 1);
-
-    EXPECT_EQ(log, QStringList{u"The archive's links are too many to follow."_s});
+    expectRefusal(zip, u"The archive's links are too many to follow."_s);
 }
 
 TEST_F(ZipRefusalTest, keepsNoMemoryOfARefusedArchive)
@@ -160,10 +151,7 @@ TEST_F(ZipRefusalTest, refusesNamesThatImplyTooManyFolders)
     for (int i = 0; i < 4'000; ++i)
         zip.addFile(QByteArray::number(i) + QByteArray("/d").repeated(126) + "/f");
 
-    EXPECT_EQ(extract(zip), 1);
-
-    EXPECT_EQ(log, QStringList{u"The archive has too many files and folders."_s});
-    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+    expectRefusal(zip, u"The archive has too many files and folders."_s);
 }
 
 TEST_F(ZipRefusalTest, refusesNamesThatImplyFoldersWithTooLongNames)
@@ -174,23 +162,18 @@ TEST_F(ZipRefusalTest, refusesNamesThatImplyFoldersWithTooLongNames)
         zip.addFile(QByteArray::number(10'000 + i) + "/a-folder-of-16/" +
                     QByteArray("a-folder-of-16b/").repeated(125) + "f");
 
-    EXPECT_EQ(extract(zip), 1);
-
-    EXPECT_EQ(log, QStringList{u"The archive has too many files and folders."_s});
-    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+    expectRefusal(zip, u"The archive has too many files and folders."_s);
 }
 
 TEST_F(ZipRefusalTest, refusesEntriesBelowALinkOrAFile)
 {
     ZipWriter throughLink;
     throughLink.addLink("l", "a").addFile("l/x");
-    EXPECT_EQ(extract(throughLink), 1);
-    EXPECT_EQ(log, QStringList{refusal(u"l/x"_s, belowFile)});
+    expectRefusal(throughLink, refusal(u"l/x"_s, belowFile));
 
     ZipWriter linkLast;
     linkLast.addFile("l/x").addLink("l", "a");
-    EXPECT_EQ(extract(linkLast), 1);
-    EXPECT_EQ(log, QStringList{refusal(u"l"_s, twice)});
+    expectRefusal(linkLast, refusal(u"l"_s, twice));
 
     expectRefusal({.name = "honest/x"}, refusal(u"honest/x"_s, belowFile));
     EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
@@ -248,10 +231,7 @@ TEST_F(ZipRefusalTest, refusesEntriesThatShareTheirContent)
     second.offset = zip.localPart().size() - quoted.localPart().size();
     zip.add(second);
 
-    EXPECT_EQ(extract(zip), 1);
-
-    EXPECT_EQ(log, QStringList{u"The archive's entries overlap."_s});
-    EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
+    expectRefusal(zip, u"The archive's entries overlap."_s);
 }
 
 TEST_F(ZipRefusalTest, refusesDevicesPipesAndSockets)
@@ -280,7 +260,7 @@ TEST_F(ZipRefusalTest, refusesWhatDoesNotFitOnTheDisk)
 
     ASSERT_EQ(log.size(), 1);
     EXPECT_TRUE(log.first().startsWith(u"The archive unpacks to 128.85 TB, which "_s))
-        << log.first().toStdString();
+        << log.first();
     EXPECT_TRUE(folder.names(u"un packed"_s).isEmpty());
 }
 
