@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: MIT
-"""What the contenders work on, made anew for each run."""
+"""What the contenders work on, made again for each run."""
 
 import os
 import random
 import shutil
 import subprocess
 
-ENGINE_PROGRAM = "Godot_v3.5.3-stable_x11.64"
-MARKER = ".setup-v2-3.5.3-stable"
+VERSION = "3.5.3-stable"
+ENGINE_PROGRAM = f"Godot_v{VERSION}_x11.64"
+MARKER = f".setup-v2-{VERSION}"
 
 PROJECT = """config_version=4
 
@@ -75,8 +76,8 @@ def installed_game(data_home: str, engine: str) -> None:
     root = f"{data_home}/Cavernyx Platformer"
     project(f"{root}/Game/tetherwalk-master", assets=60, others=40)
     write(f"{root}/Game/{MARKER}", "")
-    os.makedirs(f"{root}/Engine/3.5.3-stable")
-    shutil.copy(engine, f"{root}/Engine/3.5.3-stable/{ENGINE_PROGRAM}")
+    os.makedirs(f"{root}/Engine/{VERSION}")
+    shutil.copy(engine, f"{root}/Engine/{VERSION}/{ENGINE_PROGRAM}")
 
 
 def engine_archive(folder: str) -> str:

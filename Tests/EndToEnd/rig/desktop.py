@@ -122,7 +122,7 @@ class Desktop:
         return subprocess.run(["xdotool", *question], capture_output=True, text=True).stdout
 
     def _start_display(self) -> None:
-        # A display that starts anew when its last client leaves turns away who comes just then.
+        # A server that resets when its last client leaves refuses clients during the reset.
         # It makes no socket file, which would lie in the machine's own temporary folder.
         self._display, number = self._start_telling(
             ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN,

@@ -70,8 +70,8 @@ def damage(archive: Path) -> None:
 
 
 def script(path: Path, imports: str = IMPORTS, plays: str = STAYS) -> Path:
-    """Makes an engine of the two given behaviours. What follows them is never read; it gives the
-    archive a size worth downloading."""
+    """Makes an engine of the two given behaviours. What follows them is never read; with it the
+    archive has a size worth downloading."""
     path.write_text(
         f'#!/bin/sh\ncd "$2" || exit 9\ncase " $* " in\n*" --editor "*)\n{imports};;\n'
         f'*)\n{plays};;\nesac\nexit\n')

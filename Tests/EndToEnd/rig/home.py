@@ -24,7 +24,7 @@ class Home:
         self._settings = folder / ".config" / product.NAME / f"{product.NAME}.conf"
 
     def environment(self) -> dict[str, str]:
-        """An environment of a session, with nothing in it of whoever runs the tests."""
+        """An environment of a session, with nothing of the real user in it."""
         return {
             "HOME": str(self._folder),
             "TMPDIR": str(self.temporary),
@@ -73,8 +73,8 @@ class Home:
         return self.engine_folder() / Path(engine.archive_name()).stem
 
     def processes(self) -> list[int]:
-        """Whoever works with what is installed: runs from there, stands there or was given it.
-        Finds also what the launcher has left behind when it ended."""
+        """The processes that run from the installation, have their working folder there, or were
+        given its path; also those that the launcher has left behind."""
         return [int(process.name) for process in Path("/proc").glob("[0-9]*")
                 if str(self.root) in _engagement(process)]
 
@@ -96,7 +96,7 @@ def _engagement(process: Path) -> str:
         return "\n".join([os.readlink(process / "exe"), os.readlink(process / "cwd"),
                           (process / "cmdline").read_bytes().decode(errors="replace")])
     except OSError:
-        return ""  # It has ended meanwhile, or is somebody else's.
+        return ""  # It has ended meanwhile, or is another user's.
 
 
 def _expect_only(folder: Path, allowed: set[str]) -> None:

@@ -6,13 +6,13 @@ from rig import engine
 from rig.waiting import wait_for
 
 GAME = "Step 1 of 4 · Downloading the game"
-ENGINE = "Step 2 of 4 · Downloading the Godot engine (3.5.3-stable)"
+ENGINE = f"Step 2 of 4 · Downloading the Godot engine ({engine.VERSION})"
 IMPORT = "Step 3 of 4 · First-time setup, this can take a minute or more"
 
 RATES = {GAME: {"branch_rate": "4k"}, ENGINE: {"release_rate": "8k"}, IMPORT: {}}
 LOG_LINES = {
     GAME: "Downloading the game source from GitHub (branch master)…",
-    ENGINE: "Downloading Godot_v3.5.3-stable_x11.64.zip from godotengine/godot releases…",
+    ENGINE: f"Downloading {engine.archive_name()} from godotengine/godot releases…",
     IMPORT: "Working on it.",
 }
 

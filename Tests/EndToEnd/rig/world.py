@@ -49,9 +49,11 @@ class World:
         program = engine.script(self._scratch / "engine", **behaviour)
         return engine.make_release(self.web.releases, program, mono)
 
-    def install(self) -> None:
-        """Puts the game and the scripted engine that are offered in place, imported and marked as
-        the launcher leaves them."""
+    def install(self, more: dict[str, bytes] | None = None, **behaviour: str) -> None:
+        """Offers a game and a scripted engine, and puts both in place, imported and marked as the
+        launcher leaves them."""
+        self.offer_game(more=more)
+        self.offer_scripted_engine(**behaviour)
         with zipfile.ZipFile(self.web.branch_archive) as archive:
             archive.extractall(self.home.game)
         with zipfile.ZipFile(self.web.releases / engine.archive_name()) as archive:

@@ -7,9 +7,7 @@ from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine(plays=engine.ENDS)
-    world.install()
+    world.install(plays=engine.ENDS)
 
     launcher = world.open_launcher()
     launcher.press("Play")

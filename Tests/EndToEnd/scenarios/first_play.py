@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """From nothing to the running game on real parts, and a second Play without the network."""
 
-from rig import sample_game
+from rig import engine, sample_game, setup
 from rig.expect import count_imported, expect_in_order
 from rig.private_world import network_activity
 from rig.waiting import wait_for
@@ -24,10 +24,10 @@ def run(world):
     launcher.press("Play")
     launcher.wait_for_label("Downloading")
     assert not launcher.is_enabled("Play")
-    launcher.wait_for_label("Step 2 of 4 · Downloading the Godot engine (3.5.3-stable)")
+    launcher.wait_for_label(setup.ENGINE)
     world.picture("downloading")
     launcher.wait_for_label("Setting up")
-    launcher.wait_for_label("Step 3 of 4 · First-time setup, this can take a minute or more")
+    launcher.wait_for_label(setup.IMPORT)
     world.picture("setting-up")
     expect_game_opens(world, "starting")
     expect_first_log(world)
@@ -52,7 +52,7 @@ def expect_game_opens(world, picture):
     world.picture(picture)
     assert not launcher.is_enabled("Play")
     assert launcher.children() == [[
-        str(world.home.engine_folder() / "Godot_v3.5.3-stable_x11.64"),
+        str(world.home.engine_program()),
         "--path", str(world.home.project), "--windowed", "--resolution", "1280x720",
     ]], launcher.children()
 
@@ -69,7 +69,7 @@ def expect_first_log(world):
         f"Game ready at {world.home.project}",
         PROJECT_LINE,
         "Reading the official checksum list (SHA512-SUMS.txt)…",
-        "Downloading Godot_v3.5.3-stable_x11.64.zip from godotengine/godot releases…",
+        setup.LOG_LINES[setup.ENGINE],
         "Checking the download against the official SHA-512 checksum…",
         "Checksum OK.",
         "Importing the game's assets (Godot 3 has no --headless flag; using --editor --no-window "
@@ -89,15 +89,15 @@ def expect_installed(world):
 
 
 def expect_real_requests(world):
-    release = "github.com /godotengine/godot/releases/download/3.5.3-stable/"
+    release = f"github.com /godotengine/godot/releases/download/{engine.VERSION}/"
     asset = "objects.githubusercontent.com /release-asset/"
     expected = [
         "github.com /brindlework-demos/tetherwalk/archive/refs/heads/master.zip 302",
         "codeload.github.com /brindlework-demos/tetherwalk/zip/refs/heads/master 200",
         f"{release}SHA512-SUMS.txt 302",
         f"{asset}SHA512-SUMS.txt?signature=1 200",
-        f"{release}Godot_v3.5.3-stable_x11.64.zip 302",
-        f"{asset}Godot_v3.5.3-stable_x11.64.zip?signature=1 200",
+        f"{release}{engine.archive_name()} 302",
+        f"{asset}{engine.archive_name()}?signature=1 200",
     ]
     assert world.web.requests() == expected, world.web.requests()
 

@@ -7,8 +7,6 @@ from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
     launcher = world.launcher = world.start_launcher()
     launcher.wait_for_window()

@@ -7,8 +7,6 @@ from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
     saved = world.home.save_a_game()
     size = allocated(world.home.root)

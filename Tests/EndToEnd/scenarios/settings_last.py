@@ -7,8 +7,6 @@ from rig.launcher import TITLE
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
 
     launcher = world.open_launcher()

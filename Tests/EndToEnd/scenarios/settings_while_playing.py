@@ -6,8 +6,6 @@ from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
     world.home.save_a_game()
     manager = world.start_file_manager()

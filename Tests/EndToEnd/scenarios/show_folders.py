@@ -7,8 +7,6 @@ NO_SAVES = "No saves yet (Godot's user folder does not exist)."
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
 
     launcher = world.open_launcher()

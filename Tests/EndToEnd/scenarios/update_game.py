@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Updating downloads and imports the game again, and keeps the engine and the saves."""
 
-from rig.expect import expect_game_starts, expect_in_order, expect_question, expect_stop
+from rig.expect import expect_game_starts, expect_in_order, expect_stop
+from rig.maintenance import UPDATE, accept_after_declining
 
 GAME_REQUESTS = [
     "github.com /brindlework-demos/tetherwalk/archive/refs/heads/master.zip 302",
@@ -10,25 +11,15 @@ GAME_REQUESTS = [
 
 
 def run(world):
-    world.offer_game(more={"news.txt": b"The second chapter.\n"})
-    world.offer_scripted_engine()
-    world.install()
+    world.install(more={"news.txt": b"The second chapter.\n"})
     news = world.home.project / "news.txt"
     news.write_text("The first chapter.\n")
     gone = world.home.project / "removed-since.txt"
     gone.touch()
     saved = world.home.save_a_game()
-    world.web.start()
 
-    launcher = world.open_launcher()
-    launcher.wait_for_label("Ready")
-    before = world.home.snapshot()
-    ask(launcher, "Cancel")
-    assert launcher.shows("Ready")
-    assert world.home.snapshot() == before
-    assert world.web.requests() == []
-
-    ask(launcher, "Update")
+    before = accept_after_declining(world, UPDATE)
+    launcher = world.launcher
     launcher.wait_for_label("Setting up")
     assert not world.home.marker().exists()
     world.picture("setting-up")
@@ -48,13 +39,3 @@ def run(world):
         "All assets imported, closing the setup run.",
     ])
     expect_stop(world)
-
-
-def ask(launcher, answer):
-    settings = launcher.open_settings()
-    settings.press("Update the game")
-    expect_question(
-        launcher, "Update the game?",
-        "The game is downloaded again from GitHub. Your save files are kept.", "Update",
-    ).answer(answer)
-    settings.wait_until_closed()
