@@ -4,8 +4,6 @@
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A system whose tool for clearing the mark is a program of the test's.
@@ -36,7 +34,7 @@ protected:
     }
     Outcome<QString> installWithTool(const QString& tool)
     {
-        serve(engineArchive());
+        serveEngine(engineArchive());
         const PlatformWithQuarantine platform(tool);
         return eventually(engine.install(downloader, log(), stop.get_token(), platform));
     }
@@ -53,13 +51,13 @@ TEST_F(ClearQuarantineTest, happensAfterTheUnpackingAndBeforeTheSwap)
 {
     installOldEngine();
 
-    const auto outcome = installWith("echo \"$1\"; cd \"$2\"; ls; ls ../3.5.3-stable");
+    const auto outcome =
+        installWith("echo \"$1\"; cd \"$2\"; ls; ls ../" + EngineManager::version().toUtf8());
 
     EXPECT_TRUE(outcome.value);
     const QStringList all = lines();
     EXPECT_EQ(all.sliced(all.indexOf(removing)),
-              (QStringList{removing, u"-dr"_s, u"Godot_v3.5.3-stable_x11.64"_s, u"sub"_s,
-                           u"old godot"_s}));
+              (QStringList{removing, u"-dr"_s, programName(), u"sub"_s, u"old godot"_s}));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
@@ -86,7 +84,7 @@ TEST_F(ClearQuarantineTest, keepsTheOldEngineWhenItsToolCannotBeStarted)
     expectOldEngine();
 }
 
-TEST_F(ClearQuarantineTest, isTheLastMomentToCancelBeforeTheSwap)
+TEST_F(ClearQuarantineTest, canBeCancelledBeforeTheSwap)
 {
     installOldEngine();
     stopAtLine(harmless);
@@ -105,7 +103,6 @@ TEST_F(ClearQuarantineTest, isFollowedByASwapThatKeepsTheOldEngineWhenItFails)
     const auto outcome = installWith("mv \"$2\" \"$2.taken\" && rm -r \"$2.taken\"");
 
     EXPECT_TRUE(outcome.isPlatformError);
-    EXPECT_TRUE(outcome.sentence.startsWith(u"Could not write “"_s))
-        << outcome.sentence.toStdString();
+    EXPECT_TRUE(outcome.sentence.startsWith(u"Could not write “"_s)) << outcome.sentence;
     expectOldEngine();
 }

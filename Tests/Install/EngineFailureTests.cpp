@@ -2,19 +2,7 @@
 #include "EngineManagerTest.h"
 #include "Support/UnchangeableScope.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
 using EngineFailureTest = EngineManagerTest;
-
-const auto readingList = u"Reading the official checksum list (SHA512-SUMS.txt)…"_s;
-const auto checking = u"Checking the download against the official SHA-512 checksum…"_s;
-const auto checksumOk = u"Checksum OK."_s;
-const auto mismatch =
-    u"The engine download did not match its official checksum, so it was discarded."_s;
-
-} // namespace
 
 TEST_F(EngineFailureTest, refusesAHostThatMakesNoUrl)
 {
@@ -62,7 +50,7 @@ TEST_F(EngineFailureTest, failsWhenTheListHasCarriageReturns)
 
 TEST_F(EngineFailureTest, saysThatTheListStalled)
 {
-    server.on(releasePath(u"SHA512-SUMS.txt"_s), HttpServer::silence());
+    server.on(listPath(), HttpServer::silence());
 
     downloader = std::make_shared<const FileDownloader>([](const DownloadProgress&) {},
                                                         std::chrono::milliseconds(400));
@@ -86,8 +74,8 @@ TEST_F(EngineFailureTest, failsWhenTheArchiveIsNotThere)
 TEST_F(EngineFailureTest, discardsADownloadWithAnotherChecksum)
 {
     installOldEngine();
-    serve(engineArchive());
-    server.on(releasePath(engine.archiveName()), HttpServer::reply(200, engineArchive("another")));
+    serveEngine(engineArchive());
+    server.on(enginePath(engine), HttpServer::reply(200, engineArchive("another")));
 
     const auto outcome = install();
 
@@ -100,7 +88,7 @@ TEST_F(EngineFailureTest, discardsADownloadWithAnotherChecksum)
 TEST_F(EngineFailureTest, keepsTheOldEngineWhenTheArchiveIsDamaged)
 {
     installOldEngine();
-    serve("no archive");
+    serveEngine("no archive");
 
     EXPECT_EQ(install().sentence, u"Unzipping failed (ditto exit code 1)."_s);
 
@@ -111,20 +99,20 @@ TEST_F(EngineFailureTest, keepsTheOldEngineWhenTheArchiveIsDamaged)
 TEST_F(EngineFailureTest, leavesTheNewFolderWhenItHasNoProgram)
 {
     installOldEngine();
-    serve(ZipWriter().addFile("readme").archive());
+    serveEngine(ZipWriter().addFile("readme").archive());
 
     const auto outcome = install();
 
     EXPECT_TRUE(outcome.isAppError);
     EXPECT_EQ(outcome.sentence, u"The engine was unpacked but its program was not found."_s);
-    EXPECT_EQ(home.names(installed()), QStringList{u"readme"_s});
+    EXPECT_EQ(home.names(engine.folder()), QStringList{u"readme"_s});
     EXPECT_EQ(leftovers(), QStringList());
 }
 
 TEST_F(EngineFailureTest, reportsAnEngineFolderThatCannotBeMade)
 {
     home.write(root(u"Engine"_s), "a file");
-    serve(engineArchive());
+    serveEngine(engineArchive());
 
     EXPECT_TRUE(install().isPlatformError);
     EXPECT_EQ(home.names(u"temporary"_s), QStringList());
@@ -133,7 +121,7 @@ TEST_F(EngineFailureTest, reportsAnEngineFolderThatCannotBeMade)
 TEST_F(EngineFailureTest, reportsATemporaryFolderThatCannotBeMade)
 {
     installOldEngine();
-    serve(engineArchive());
+    serveEngine(engineArchive());
     const EnvironmentScope temporary("TMPDIR", home.write(u"a file"_s).toUtf8());
 
     EXPECT_TRUE(install().isPlatformError);
@@ -144,7 +132,7 @@ TEST_F(EngineFailureTest, reportsATemporaryFolderThatCannotBeMade)
 
 TEST_F(EngineFailureTest, unpacksWhatItVerifiedThoughAnImpostorTakesItsPlace)
 {
-    serve(engineArchive());
+    serveEngine(engineArchive());
     atLine(checksumOk, [this] {
         for (const auto& folder : home.names(u"temporary"_s)) {
             const auto name = u"temporary/%1/%2"_s.arg(folder, engine.archiveName());
@@ -156,13 +144,13 @@ TEST_F(EngineFailureTest, unpacksWhatItVerifiedThoughAnImpostorTakesItsPlace)
     const auto outcome = install();
 
     ASSERT_TRUE(outcome.value);
-    EXPECT_EQ(home.read(installed(u"Godot_v3.5.3-stable_x11.64"_s)), "an engine");
+    EXPECT_EQ(installedProgram(), "an engine");
 }
 
 TEST_F(EngineFailureTest, keepsAnOldEngineThatCannotBeReplaced)
 {
     installOldEngine();
-    serve(engineArchive());
+    serveEngine(engineArchive());
     const UnchangeableScope unchangeable(engine.folder());
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no folder unchangeable.";
@@ -172,6 +160,6 @@ TEST_F(EngineFailureTest, keepsAnOldEngineThatCannotBeReplaced)
     EXPECT_TRUE(outcome.isPlatformError);
     EXPECT_TRUE(
         outcome.sentence.endsWith(u" and “%1”: Operation not permitted."_s.arg(engine.folder())))
-        << outcome.sentence.toStdString();
+        << outcome.sentence;
     expectOldEngine();
 }

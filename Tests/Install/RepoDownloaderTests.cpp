@@ -6,11 +6,8 @@
 #include "Support/UnchangeableScope.h"
 #include "Support/ZipWriter.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-const auto archivePath = u"/brindlework-demos/tetherwalk/archive/refs/heads/master.zip"_s;
 const auto downloading = u"Downloading the game source from GitHub (branch master)…"_s;
 const auto unpacking = u"Unpacking the game with ditto…"_s;
 
@@ -27,7 +24,7 @@ class RepoDownloaderTest : public InstallTest
 protected:
     void serve(const QByteArray& archive)
     {
-        server.on(archivePath, HttpServer::replyWithoutLength(archive));
+        server.on(gamePath(), HttpServer::replyWithoutLength(archive));
     }
     Outcome<QString> fetch()
     {
@@ -45,7 +42,8 @@ protected:
 
 TEST_F(RepoDownloaderTest, namesTheBranchArchive)
 {
-    EXPECT_EQ(RepoDownloader::zipURL(), server.url(archivePath));
+    EXPECT_EQ(RepoDownloader::zipURL(),
+              server.url(u"/brindlework-demos/tetherwalk/archive/refs/heads/master.zip"_s));
 }
 
 TEST_F(RepoDownloaderTest, refusesAHostThatMakesNoUrl)
@@ -66,7 +64,7 @@ TEST_F(RepoDownloaderTest, installsTheGameAndReturnsItsProject)
 
     const auto outcome = fetch();
 
-    const auto project = home.path(root(u"Game/tetherwalk-master/project"_s));
+    const auto project = root(u"Game/tetherwalk-master/project"_s);
     EXPECT_EQ(outcome.value, project);
     EXPECT_EQ(lines(), (QStringList{downloading, unpacking, u"Game ready at %1"_s.arg(project)}));
     EXPECT_EQ(home.read(root(u"Game/tetherwalk-master/README.org"_s)), "readme");
@@ -76,7 +74,7 @@ TEST_F(RepoDownloaderTest, installsTheGameAndReturnsItsProject)
 TEST_F(RepoDownloaderTest, replacesTheOldGameWithEverythingInIt)
 {
     installOldGame();
-    home.write(root(u"Game/.setup-v2-3.5.3-stable"_s));
+    writeMarker();
     serve(gameArchive());
 
     EXPECT_TRUE(fetch().value);
@@ -93,7 +91,7 @@ TEST_F(RepoDownloaderTest, keepsTheOldGameWhenTheServerHasNone)
 
     EXPECT_TRUE(outcome.isAppError);
     EXPECT_EQ(outcome.sentence, u"The server answered with HTTP 404 for %1."_s.arg(
-                                    server.url(archivePath).toString()));
+                                    RepoDownloader::zipURL().toString()));
     expectOldGame();
 }
 
@@ -140,7 +138,7 @@ TEST_F(RepoDownloaderTest, keepsAnOldGameThatCannotBeReplaced)
 {
     installOldGame();
     serve(gameArchive());
-    const auto game = home.path(root(u"Game"_s));
+    const auto game = root(u"Game"_s);
     const UnchangeableScope unchangeable(game);
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no folder unchangeable.";
@@ -149,7 +147,7 @@ TEST_F(RepoDownloaderTest, keepsAnOldGameThatCannotBeReplaced)
 
     EXPECT_TRUE(outcome.isPlatformError);
     EXPECT_TRUE(outcome.sentence.endsWith(u" and “%1”: Operation not permitted."_s.arg(game)))
-        << outcome.sentence.toStdString();
+        << outcome.sentence;
     expectOldGame();
 }
 
@@ -163,7 +161,7 @@ TEST_F(RepoDownloaderTest, reportsATemporaryFolderThatCannotBeMade)
 
 TEST_F(RepoDownloaderTest, reportsARootThatCannotBeMade)
 {
-    home.write(u"data/Cavernyx Platformer"_s, "a file");
+    home.write(root(), "a file");
     serve(gameArchive());
 
     EXPECT_TRUE(fetch().isPlatformError);
@@ -172,14 +170,14 @@ TEST_F(RepoDownloaderTest, reportsARootThatCannotBeMade)
 
 TEST_F(RepoDownloaderTest, touchesNothingWhenCancelledDuringTheDownload)
 {
-    server.on(archivePath, HttpServer::silence());
+    server.on(gamePath(), HttpServer::silence());
     const auto fetching = RepoDownloader::fetch(downloader, log(), stop.get_token());
     ASSERT_TRUE(server.waitForRequests(1));
 
     stop.request_stop();
 
     EXPECT_TRUE(eventually(fetching).isCancelled);
-    EXPECT_FALSE(home.exists(root({})));
+    EXPECT_FALSE(exists({}));
     EXPECT_EQ(home.names(u"temporary"_s), QStringList());
 }
 

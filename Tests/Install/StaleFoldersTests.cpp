@@ -4,83 +4,61 @@
 #include "Install/Paths.h"
 #include "Install/TemporaryFolder.h"
 #include "Support/Await.h"
-#include "Support/EnvironmentScope.h"
 #include "Support/ForkedProcess.h"
-#include "Support/TestFolder.h"
-#include "System/InstallationLock.h"
-
-#include <gtest/gtest.h>
+#include "Support/InstallTest.h"
 
 #include <QFile>
-
-#include <stop_token>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 const auto uuid = u"01234567-89AB-CDEF-0123-456789ABCDEF"_s;
 
-class StaleFoldersTest : public testing::Test
-{
-protected:
-    StaleFoldersTest() { lock.tryAcquire(); }
-
-    void clear() const { StaleFolders::remove(StaleFolders::putBackAndList(lock)); }
-
-    /// The path of something in the storage root, relative to the home.
-    static QString inRoot(const QString& name) { return u"data/Cavernyx Platformer/"_s + name; }
-
-    const TestFolder home;
-    const EnvironmentScope data{"XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8()};
-    const EnvironmentScope temporary{"TMPDIR", home.makeFolder(u"tmp"_s).toUtf8()};
-    InstallationLock lock{Paths::lockFile()};
-};
+using StaleFoldersTest = InstallTest;
 
 TEST_F(StaleFoldersTest, areClearedWhereTheirOwnerIsGone)
 {
-    home.write(inRoot(u"Game.new-"_s + uuid + u"/half/file"_s));
-    home.write(inRoot(u"Engine.new-"_s + uuid + u"/old"_s));
-    home.write(inRoot(u"Engine/3.5.3-stable.new-"_s + uuid + u"/half"_s));
-    home.write(u"tmp/CavernyxPlatformer-"_s + uuid + u"/half.zip"_s);
-    home.write(inRoot(u"Game/project.godot"_s));
-    home.write(inRoot(u"Engine/3.5.3-stable/godot"_s));
-    clear();
+    home.write(root(u"Game.new-"_s + uuid + u"/half/file"_s));
+    home.write(root(u"Engine.new-"_s + uuid + u"/old"_s));
+    home.write(EngineManager().folder() + u".new-"_s + uuid + u"/half"_s);
+    home.write(u"temporary/CavernyxPlatformer-"_s + uuid + u"/half.zip"_s);
+    home.write(root(u"Game/project.godot"_s));
+    home.write(EngineManager().folder() + u"/godot"_s);
+    clearLeftovers();
     EXPECT_EQ(StaleFolders::putBackAndList(lock), QStringList());
-    EXPECT_EQ(home.names(inRoot({})), (QStringList{u"Engine"_s, u"Game"_s}));
-    EXPECT_EQ(home.names(inRoot(u"Engine"_s)), QStringList{u"3.5.3-stable"_s});
-    EXPECT_TRUE(home.exists(inRoot(u"Game/project.godot"_s)));
-    EXPECT_TRUE(home.exists(inRoot(u"Engine/3.5.3-stable/godot"_s)));
-    EXPECT_TRUE(home.names(u"tmp"_s).isEmpty());
+    EXPECT_EQ(home.names(root()), (QStringList{u"Engine"_s, u"Game"_s}));
+    EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList{EngineManager::version()});
+    EXPECT_TRUE(exists(u"Game/project.godot"_s));
+    EXPECT_TRUE(home.exists(EngineManager().folder() + u"/godot"_s));
+    EXPECT_TRUE(home.names(u"temporary"_s).isEmpty());
 }
 
 TEST_F(StaleFoldersTest, areNothingThatIsOnlyNamedAlike)
 {
-    const QStringList kept{inRoot(u"Game.new-of mine/file"_s),
-                           inRoot(u".new-"_s + uuid + u"/file"_s),
-                           inRoot(u"Game.new-"_s + uuid + u".bak/file"_s),
-                           inRoot(u"Game.new-"_s + uuid.toLower() + u"/f"_s),
-                           inRoot(u"Other/Game.new-"_s + uuid + u"/file"_s),
-                           u"tmp/CavernyxPlatformer-mine/file"_s,
-                           u"tmp/Game.new-"_s + uuid + u"/file"_s,
-                           u"tmp/My CavernyxPlatformer-"_s + uuid + u"/f"_s};
+    const QStringList kept{root(u"Game.new-of mine/file"_s),
+                           root(u".new-"_s + uuid + u"/file"_s),
+                           root(u"Game.new-"_s + uuid + u".bak/file"_s),
+                           root(u"Game.new-"_s + uuid.toLower() + u"/f"_s),
+                           root(u"Other/Game.new-"_s + uuid + u"/file"_s),
+                           u"temporary/CavernyxPlatformer-mine/file"_s,
+                           u"temporary/Game.new-"_s + uuid + u"/file"_s,
+                           u"temporary/My CavernyxPlatformer-"_s + uuid + u"/f"_s};
     for (const auto& file : kept)
         home.write(file);
-    clear();
+    clearLeftovers();
     for (const auto& file : kept)
-        EXPECT_TRUE(home.exists(file)) << file.toStdString();
+        EXPECT_TRUE(home.exists(file)) << file;
 }
 
 TEST_F(StaleFoldersTest, loseTheirLinksAndNotWhatTheseLeadTo)
 {
     home.write(u"elsewhere/kept"_s);
-    home.makeFolder(inRoot({}));
+    home.makeFolder(root());
     const auto target = home.path(u"elsewhere"_s);
-    const auto staging = home.path(inRoot(u"Game.new-"_s + uuid));
-    const auto temporaryLink = home.path(u"tmp/CavernyxPlatformer-"_s + uuid);
+    const auto staging = root(u"Game.new-"_s + uuid);
+    const auto temporaryLink = home.path(u"temporary/CavernyxPlatformer-"_s + uuid);
     ASSERT_TRUE(QFile::link(target, staging));
     ASSERT_TRUE(QFile::link(target, temporaryLink));
-    clear();
+    clearLeftovers();
     EXPECT_TRUE(home.exists(u"elsewhere/kept"_s));
     EXPECT_FALSE(QFile::exists(staging));
     EXPECT_TRUE(QFile::exists(temporaryLink)) << "the launcher makes no such link";
@@ -89,13 +67,13 @@ TEST_F(StaleFoldersTest, loseTheirLinksAndNotWhatTheseLeadTo)
 TEST_F(StaleFoldersTest, areNotTheFoldersInUse)
 {
     const auto folder = Paths::newTempDir();
-    clear();
+    clearLeftovers();
     EXPECT_TRUE(QFile::exists(folder.path()));
 }
 
 TEST_F(StaleFoldersTest, stayWithoutTheClaimOrWhileAGameRuns)
 {
-    const auto staging = inRoot(u"Game.new-"_s + uuid + u"/file"_s);
+    const auto staging = root(u"Game.new-"_s + uuid + u"/file"_s);
     home.write(staging);
     const InstallationLock unclaimed(home.path(u"another lock"_s));
     EXPECT_EQ(StaleFolders::putBackAndList(unclaimed), QStringList());
@@ -103,20 +81,19 @@ TEST_F(StaleFoldersTest, stayWithoutTheClaimOrWhileAGameRuns)
 
     ForkedProcess game([this] { InstallationLock::holdAsGame(lock.descriptor()); });
     ASSERT_TRUE(waitUntil([this] { return lock.isGameRunning(); }));
-    clear();
+    clearLeftovers();
     EXPECT_TRUE(home.exists(staging));
     game.kill();
-    clear();
+    clearLeftovers();
     EXPECT_FALSE(home.exists(staging));
 }
 
 TEST_F(StaleFoldersTest, stayForTheNextStartOnceItIsToStop)
 {
-    const auto staging = inRoot(u"Game.new-"_s + uuid + u"/file"_s);
-    const auto temporaryFile = u"tmp/CavernyxPlatformer-%1/file"_s.arg(uuid);
+    const auto staging = root(u"Game.new-"_s + uuid + u"/file"_s);
+    const auto temporaryFile = u"temporary/CavernyxPlatformer-%1/file"_s.arg(uuid);
     home.write(staging);
     home.write(temporaryFile);
-    std::stop_source stop;
     stop.request_stop();
     StaleFolders::remove(StaleFolders::putBackAndList(lock), stop.get_token());
     EXPECT_TRUE(home.exists(staging));
@@ -125,18 +102,18 @@ TEST_F(StaleFoldersTest, stayForTheNextStartOnceItIsToStop)
 
 TEST_F(StaleFoldersTest, arePutBackWhereTheyWereMovedAsideAndNothingCameInstead)
 {
-    const auto aside = inRoot(u"Game.old-"_s + uuid);
+    const auto aside = root(u"Game.old-"_s + uuid);
     home.write(aside + u"/project.godot"_s);
-    home.write(inRoot(u"Game.new-"_s + uuid + u"/half"_s));
-    clear();
-    EXPECT_TRUE(home.exists(inRoot(u"Game/project.godot"_s)));
-    EXPECT_EQ(home.names(inRoot({})), QStringList{u"Game"_s});
+    home.write(root(u"Game.new-"_s + uuid + u"/half"_s));
+    clearLeftovers();
+    EXPECT_TRUE(exists(u"Game/project.godot"_s));
+    EXPECT_EQ(home.names(root()), QStringList{u"Game"_s});
 
     home.write(aside + u"/project.godot"_s);
-    home.write(inRoot(u"Game/newer"_s));
-    clear();
-    EXPECT_TRUE(home.exists(inRoot(u"Game/newer"_s)));
-    EXPECT_EQ(home.names(inRoot({})), QStringList{u"Game"_s});
+    home.write(root(u"Game/newer"_s));
+    clearLeftovers();
+    EXPECT_TRUE(exists(u"Game/newer"_s));
+    EXPECT_EQ(home.names(root()), QStringList{u"Game"_s});
 }
 
 TEST_F(StaleFoldersTest, areNotTheFoldersThatAreJustBeingMade)

@@ -35,10 +35,8 @@ TEST_F(TranslatedTexts, areFailuresOfTheSystem)
         FileTree::replace(path + u"/Game"_s, home.makeFolder(u"new"_s), path + u"/old"_s);
         FAIL() << "It succeeded.";
     } catch (const PlatformError& error) {
-        EXPECT_TRUE(error.message().startsWith(u"<Could not <exchange “"_s))
-            << error.message().toStdString();
-        EXPECT_TRUE(error.message().contains(u"a %1 file/Game”>: "_s))
-            << error.message().toStdString();
+        EXPECT_TRUE(error.message().startsWith(u"<Could not <exchange “"_s)) << error.message();
+        EXPECT_TRUE(error.message().contains(u"a %1 file/Game”>: "_s)) << error.message();
     }
 }
 
@@ -46,7 +44,7 @@ TEST_F(TranslatedTexts, areFailuresOfAnInstallationButNotItsLog)
 {
     const auto outcome = eventually(RepoDownloader::fetch(downloader, log(), stop.get_token()));
     EXPECT_TRUE(outcome.sentence.startsWith(u"<The server answered with HTTP 404"_s))
-        << outcome.sentence.toStdString();
+        << outcome.sentence;
     EXPECT_TRUE(outcome.sentence.endsWith(u".>"_s));
     EXPECT_EQ(lines(), QStringList{u"Downloading the game source from GitHub (branch master)…"_s});
 }

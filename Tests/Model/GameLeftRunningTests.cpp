@@ -3,8 +3,6 @@
 #include "Support/ForkedProcess.h"
 #include "Support/ModelTest.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using GameOfThisLauncher = ModelTest;
@@ -16,10 +14,7 @@ protected:
     GameLeftRunning()
     {
         EXPECT_TRUE(waitUntil([this] { return lock.isGameRunning(); }));
-        installGame();
-        installEngine("exit 0");
-        writeMarker();
-        startModel();
+        startReady();
     }
     void expectRefusal(void (AppModel::*action)())
     {
@@ -43,20 +38,17 @@ TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)
     expectRefusal(&AppModel::reinstall);
     expectRefusal(&AppModel::removeEverything);
     EXPECT_TRUE(desktop.questions.isEmpty());
-    EXPECT_TRUE(home.exists(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_TRUE(hasMarker());
 
     game.kill();
     model().removeEverything();
     waitForDeletion();
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
 }
 
 TEST_F(GameOfThisLauncher, isKnownWhileItRunsAndNotAfterwards)
 {
-    installGame();
-    installEngine("sleep 60");
-    writeMarker();
-    startModel().play();
+    startReady("sleep 60").play();
     waitForPhase(Phase::Kind::playing);
     EXPECT_TRUE(waitUntil([this] { return lock.isGameRunning(); }))
         << "for another launcher to see, should this one be killed";

@@ -6,13 +6,11 @@
 
 #include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using GameUpdateTest = SetupTest;
 
-TEST_F(GameUpdateTest, downloadsAnewAfterAnUpdateWasCancelledInItsSilentChecks)
+TEST_F(GameUpdateTest, downloadsAgainAfterAnUpdateWasCancelledInItsSilentChecks)
 {
     playToTheEnd();
     {
@@ -26,7 +24,7 @@ TEST_F(GameUpdateTest, downloadsAnewAfterAnUpdateWasCancelledInItsSilentChecks)
     EXPECT_EQ(model().info()->name, u"Newer");
 }
 
-TEST_F(GameUpdateTest, updatesTheGameAndImportsItAnew)
+TEST_F(GameUpdateTest, updatesTheGameAndImportsItAgain)
 {
     playToTheEnd();
     serveGame("config_version=4\nconfig/name=\"Newer\"\n");
@@ -50,7 +48,7 @@ TEST_F(GameUpdateTest, downloadsTheGameOnceForEachUpdate)
     model().updateGame();
     waitForFlow();
     playToTheEnd();
-    EXPECT_EQ(requestsOf(gamePath), 2);
+    EXPECT_EQ(requestsOf(gamePath()), 2);
 }
 
 TEST_F(GameUpdateTest, completesASwapThatIsUnderWayWhenItIsCancelled)
@@ -58,7 +56,7 @@ TEST_F(GameUpdateTest, completesASwapThatIsUnderWayWhenItIsCancelled)
     playToTheEnd();
     // The deletion of the former game is the last part of the swap, and the only long one. It may
     // still be over before it is seen.
-    const auto former = u"data/Cavernyx Platformer/Game/former/"_s;
+    const auto former = root(u"Game/former"_s) + u'/';
     auto isUnderWay = false;
     for (int attempt = 0; attempt < 10 && !isUnderWay; ++attempt) {
         for (int file = 0; file < 10'000; ++file)
@@ -81,12 +79,12 @@ TEST_F(GameUpdateTest, completesASwapThatIsUnderWayWhenItIsCancelled)
 TEST_F(GameUpdateTest, keepsTheInstalledGameWhenItsUpdateFails)
 {
     playToTheEnd();
-    server.on(gamePath, HttpServer::reply(200, "no archive"));
+    server.on(gamePath(), HttpServer::reply(200, "no archive"));
     model().updateGame();
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::needs(u"Unzipping failed (ditto exit code 1)."_s));
     EXPECT_TRUE(exists(u"Game/tetherwalk-master/project.godot"_s));
-    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_FALSE(hasMarker());
     EXPECT_EQ(leftovers(), QStringList());
 }
 
@@ -142,25 +140,23 @@ TEST_F(GameUpdateTest, replacesAGameThatCannotBePlayedByAnotherOne)
 TEST_F(GameUpdateTest, downloadsAfterADeletionThatIsUnderWay)
 {
     playToTheEnd();
-    for (int file = 0; file < 20'000; ++file)
-        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    installManyFiles();
     model().removeEverything();
     waitForFlow();
-    ASSERT_FALSE(stagingFolders().isEmpty()) << "It was deleted before anybody could press Play.";
-    server.on(gamePath, [this](const HttpServer::Connection&) {
+    ASSERT_FALSE(stagingFolders().isEmpty()) << "The deletion was too fast for a press of Play.";
+    server.on(gamePath(), [this](const HttpServer::Connection&) {
         EXPECT_EQ(stagingFolders().filter(u".new-"_s), QStringList());
     });
     model().play();
     waitForPhase(Phase::Kind::downloading);
     waitForFlow();
-    EXPECT_GE(requestsOf(gamePath), 2);
+    EXPECT_GE(requestsOf(gamePath()), 2);
 }
 
 TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
 {
     playToTheEnd();
-    for (int file = 0; file < 20'000; ++file)
-        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    installManyFiles();
     model().removeEverything();
     waitForFlow();
     model().play();
@@ -173,18 +169,17 @@ TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
 TEST_F(GameUpdateTest, endsInTheSentenceOfADeletionThatFailed)
 {
     playToTheEnd();
-    const auto stuck = home.write(u"data/Cavernyx Platformer/Game/many/stuck"_s);
+    const auto stuck = home.write(root(u"Game/many/stuck"_s));
     const UnchangeableScope unchangeable(stuck);
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no file unchangeable.";
-    for (int file = 0; file < 20'000; ++file)
-        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    installManyFiles();
     model().removeEverything();
     waitForFlow();
     model().play();
     waitForFlow();
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "));
-    EXPECT_EQ(requestsOf(gamePath), 1);
+    EXPECT_EQ(requestsOf(gamePath()), 1);
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
 }
@@ -192,7 +187,7 @@ TEST_F(GameUpdateTest, endsInTheSentenceOfADeletionThatFailed)
 TEST_F(GameUpdateTest, reinstallsGameAndEngine)
 {
     playToTheEnd();
-    home.write(u"data/Cavernyx Platformer/Game/stray"_s);
+    home.write(root(u"Game/stray"_s));
     model().reinstall();
     ASSERT_EQ(desktop.questions.size(), 1);
     EXPECT_EQ(desktop.questions[0].title, u"Reinstall everything?");
@@ -204,8 +199,8 @@ TEST_F(GameUpdateTest, reinstallsGameAndEngine)
     EXPECT_EQ(model().phase(), Phase::ready());
     EXPECT_FALSE(exists(u"Game/stray"_s));
     // The network library repeats a request when the connection closes at the wrong moment.
-    EXPECT_GE(requestsOf(gamePath), 2);
-    EXPECT_GE(requestsOf(releasePath + engineName), 2);
+    EXPECT_GE(requestsOf(gamePath()), 2);
+    EXPECT_GE(requestsOf(enginePath()), 2);
 }
 
 } // namespace

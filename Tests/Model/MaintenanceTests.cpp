@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
 #include "Support/ModelTest.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -12,7 +9,7 @@ TEST_F(Maintenance, copiesTheFailureReportWhenThereIsOne)
 {
     startModel().copyFailure();
     EXPECT_TRUE(desktop.copied.isEmpty());
-    AppModelAccess::fail(model(), u"No."_s);
+    enter(Phase::Kind::needs);
     model().copyFailure();
     EXPECT_EQ(desktop.copied, QStringList{*model().failureText()});
 }
@@ -38,15 +35,15 @@ TEST_F(Maintenance, copiesAnEmptyLogAsEmptyText)
 TEST_F(Maintenance, refusesEveryDestructiveActionWhileBusy)
 {
     startModel();
-    for (const auto& phase : {Phase::downloading(), Phase::settingUp(), Phase::playing()}) {
-        AppModelAccess::setPhase(model(), phase);
+    for (const auto phase :
+         {Phase::Kind::downloading, Phase::Kind::settingUp, Phase::Kind::playing}) {
+        enter(phase);
         model().updateGame();
         model().reinstall();
         model().removeEverything();
         EXPECT_TRUE(desktop.questions.isEmpty());
         EXPECT_EQ(model().phase(), phase);
     }
-    AppModelAccess::setPhase(model(), Phase::notDownloaded());
 }
 
 TEST_F(Maintenance, doesNothingWhenDeclined)
@@ -59,7 +56,7 @@ TEST_F(Maintenance, doesNothingWhenDeclined)
     model().removeEverything();
     EXPECT_EQ(desktop.questions.size(), 3);
     EXPECT_FALSE(model().isBusy());
-    EXPECT_TRUE(home.exists(u"data/Cavernyx Platformer/Game"_s));
+    EXPECT_TRUE(exists(u"Game"_s));
 }
 
 TEST_F(Maintenance, showsTheSavesOnlyOnceThereAreSome)

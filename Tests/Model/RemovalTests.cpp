@@ -18,8 +18,6 @@
 #include <sys/mount.h>
 #endif
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using RemovalTest = ModelTest;
@@ -84,7 +82,7 @@ TEST_F(RemovalTest, removesEverythingAndEmptiesTheLog)
               u"This deletes the downloaded game and engine and frees %1. Your save files "
               "in Godot's folder are not touched."_s.arg(size));
     waitForDeletion();
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_TRUE(logged().isEmpty());
     EXPECT_TRUE(waitUntil([this] { return model().installedSize().isEmpty(); }));
@@ -105,15 +103,15 @@ TEST_F(RemovalTest, saysWhatCouldNotBeRemovedAndKeepsTheLog)
     }
 
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
-        << model().statusDetail().toStdString();
+        << model().statusDetail();
     EXPECT_TRUE(model().failureText());
     EXPECT_EQ(logged(), QStringList{u"a line"_s});
-    for (const auto& name : {u"Game"_s, home.names(u"data/Cavernyx Platformer"_s).value(0)})
+    for (const auto& name : {u"Game"_s, home.names(root()).value(0)})
         ::chmod((root(name) + u"/tetherwalk-master"_s).toUtf8().constData(), 0755);
     model().removeEverything();
     waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
 }
 
 TEST_F(RemovalTest, removesOnlyTheLinkOfARootThatIsALink)
@@ -122,19 +120,19 @@ TEST_F(RemovalTest, removesOnlyTheLinkOfARootThatIsALink)
     ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), root()));
     startModel().removeEverything();
     waitForDeletion();
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
     EXPECT_TRUE(QFile::exists(elsewhere));
 }
 
 TEST_F(RemovalTest, removesOnlyTheLinkOfAGameThatIsALink)
 {
     const auto elsewhere = home.write(u"elsewhere/project.godot"_s, "x");
-    home.makeFolder(u"data/Cavernyx Platformer"_s);
+    home.makeFolder(root());
     ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), root(u"Game"_s)));
     startModel().removeEverything();
     waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
     EXPECT_TRUE(QFile::exists(elsewhere));
 }
 
@@ -145,32 +143,31 @@ TEST_F(RemovalTest, leavesAFolderThatIsMountedIntoTheGameAloneAndSaysSo)
     if (!qEnvironmentVariableIsSet(ownMounts)) {
         const auto status = runAgainWithOwnMounts();
         if (status == noOwnMounts)
-            GTEST_SKIP() << "This system lets nobody here mount anything.";
+            GTEST_SKIP() << "Mount namespaces are not permitted here.";
         EXPECT_EQ(status, 0);
         return;
     }
     installGame();
     const auto kept = home.write(u"elsewhere/kept"_s);
-    const auto place =
-        home.makeFolder(u"data/Cavernyx Platformer/Game/tetherwalk-master/mounted"_s);
+    const auto place = home.makeFolder(root(u"Game/tetherwalk-master/mounted"_s));
     ASSERT_EQ(::mount(QFile::encodeName(home.path(u"elsewhere"_s)).constData(),
                       QFile::encodeName(place).constData(), nullptr, MS_BIND, nullptr),
               0);
     startModel().removeEverything();
     waitForDeletion();
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
-        << model().statusDetail().toStdString();
+        << model().statusDetail();
     EXPECT_TRUE(model().phase().message().contains(u"another file system is mounted there"));
     EXPECT_TRUE(QFile::exists(kept));
 
-    const auto left = home.names(u"data/Cavernyx Platformer"_s);
+    const auto left = home.names(root());
     ASSERT_EQ(left.size(), 1);
     const auto placeNow = root(left.constFirst() + u"/tetherwalk-master/mounted"_s);
     ASSERT_EQ(::umount(QFile::encodeName(placeNow).constData()), 0);
     model().removeEverything();
     waitForDeletion();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
     EXPECT_TRUE(QFile::exists(kept));
 }
 
@@ -190,34 +187,32 @@ TEST_F(RemovalTest, refusesEverythingUntilTheFoldersAreMovedAside)
         EXPECT_EQ(desktop.questions.size(), 1);
     }
     waitForDeletion();
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
 }
 
 TEST_F(RemovalTest, saysThatNothingIsDownloadedWhileItStillDeletes)
 {
     installGame();
-    for (int file = 0; file < 20'000; ++file)
-        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    installManyFiles();
     startModel();
     model().removeEverything();
     waitForFlow();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_FALSE(model().isBusy());
-    EXPECT_FALSE(stagingFolders().isEmpty()) << "It was deleted before anybody could look.";
+    EXPECT_FALSE(stagingFolders().isEmpty()) << "The deletion was too fast to be seen.";
     waitForDeletion();
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
 }
 
 TEST_F(RemovalTest, leavesToTheNextStartWhatItHasNotDeletedWhenThePlayerQuits)
 {
     installGame();
-    for (int file = 0; file < 20'000; ++file)
-        home.write(u"data/Cavernyx Platformer/Game/many/%1"_s.arg(file));
+    installManyFiles();
     startModel();
     model().removeEverything();
     waitForFlow();
     EXPECT_TRUE(model().confirmQuit());
-    EXPECT_FALSE(leftovers().isEmpty()) << "It was deleted before anybody could quit.";
+    EXPECT_FALSE(leftovers().isEmpty()) << "The deletion was too fast to be interrupted.";
     EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
     EXPECT_EQ(leftovers(), QStringList());
 }

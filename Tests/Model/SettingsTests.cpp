@@ -6,8 +6,6 @@
 
 #include <sys/stat.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class Settings : public ModelTest

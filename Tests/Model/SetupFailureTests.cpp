@@ -4,8 +4,6 @@
 #include <QDir>
 #include <chrono>
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {
@@ -28,7 +26,7 @@ TEST_F(SetupFailureTest, refusesAGameForGodot4BeforeAnyEngineDownload)
         EXPECT_EQ(model().facts().summary, u"A tiny game.");
         ASSERT_TRUE(QDir(root(u"Game"_s)).removeRecursively());
     }
-    EXPECT_EQ(requestsOf(releasePath), 0);
+    EXPECT_EQ(requestsOf(releasePath({})), 0);
 }
 
 TEST_F(SetupFailureTest, refusesAGameWithoutAReadableProject)
@@ -41,7 +39,7 @@ TEST_F(SetupFailureTest, refusesAGameWithoutAReadableProject)
 
 TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
 {
-    serveList(QByteArray(128, 'a') + "  Godot_v3.5.3-stable_x11.64.zip\n");
+    serveList(QByteArray(128, 'a') + "  " + EngineManager().archiveName().toUtf8() + '\n');
     playToTheEnd();
     EXPECT_EQ(
         model().phase(),
@@ -56,10 +54,9 @@ TEST_F(SetupFailureTest, goesOnWhereAFailedRunStopped)
 {
     serveList({});
     playToTheEnd();
-    ASSERT_EQ(
-        model().phase(),
-        Phase::needs(u"The checksum list has no entry for Godot_v3.5.3-stable_x11.64.zip."_s));
-    serveEngine(goodEngine);
+    ASSERT_EQ(model().phase(), Phase::needs(u"The checksum list has no entry for %1."_s.arg(
+                                   EngineManager().archiveName())));
+    serveScript(goodEngine);
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
     EXPECT_FALSE(model().failureText());
@@ -69,28 +66,28 @@ TEST_F(SetupFailureTest, goesOnWhereAFailedRunStopped)
 
 TEST_F(SetupFailureTest, reportsAnAnswerThatIsNoSuccess)
 {
-    server.on(gamePath, HttpServer::reply(404, "not here"));
+    server.on(gamePath(), HttpServer::reply(404, "not here"));
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::needs(u"The server answered with HTTP 404 for %1."_s.arg(
-                                   server.url(gamePath).toString())));
+                                   server.url(gamePath()).toString())));
     EXPECT_EQ(leftovers(), QStringList());
 }
 
 TEST_F(SetupFailureTest, reportsAssetsThatTheEngineDidNotImport)
 {
-    serveEngine("exit 3");
+    serveScript("exit 3");
     playToTheEnd();
     EXPECT_EQ(model().phase(),
               Phase::needs(u"The first-time setup did not finish: 1 game assets were not "
                            "imported (engine exit code 3)."_s));
-    EXPECT_FALSE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_FALSE(hasMarker());
 }
 
 TEST_F(SetupFailureTest, stopsAnImportThatTakesTooLong)
 {
     durations.importTimeout = 50ms;
     startModel();
-    serveEngine("exec sleep 60");
+    serveScript("exec sleep 60");
     playToTheEnd();
     EXPECT_TRUE(logged().contains(u"Setup took too long, stopping it."_s));
     EXPECT_EQ(model().phase(),

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
 #include "Support/Await.h"
 #include "Support/ModelTest.h"
 
+#include <QDir>
 #include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,15 +30,15 @@ TEST_F(State, isNotDownloadedWithNothingOnDisk)
     EXPECT_FALSE(model().showLog());
     EXPECT_FALSE(model().stillStarting());
     EXPECT_FALSE(model().progress());
-    AppModelAccess::finishMeasuring();
+    waitForDeletion();
     EXPECT_TRUE(model().installedSize().isEmpty());
-    EXPECT_FALSE(home.exists(u"data/Cavernyx Platformer"_s));
+    EXPECT_FALSE(exists({}));
 }
 
 TEST_F(State, describesAGameWhoseEngineIsMissing)
 {
     installGame();
-    home.write(u"data/Cavernyx Platformer/Game/README.org"_s, "#+DESCRIPTION: A tiny game.\n");
+    home.write(root(u"Game/README.org"_s), "#+DESCRIPTION: A tiny game.\n");
     startModel();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     ASSERT_TRUE(model().info());
@@ -70,12 +68,13 @@ TEST_F(State, isReadyWithGameEngineAndMarker)
 
 TEST_F(State, wantsTheOtherEngineAndMarkerForACSharpGame)
 {
+    const EngineManager mono{.mono = true};
     installGame("config/features=PoolStringArray(\"C#\")\n");
     installEngine("exit 0");
     writeMarker();
     EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
-    installEngine("exit 0", u"3.5.3-stable-mono"_s);
-    home.write(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable-mono"_s);
+    installEngine("exit 0", mono);
+    writeMarker(mono);
     EXPECT_EQ(startModel().phase(), Phase::ready());
 }
 
@@ -84,7 +83,7 @@ TEST_F(State, forgetsAGameThatIsNotReadableAnyMore)
     installGame();
     startModel();
     ASSERT_TRUE(model().info());
-    home.write(u"data/Cavernyx Platformer/Game/tetherwalk-master/project.godot"_s, "nothing");
+    home.write(root(u"Game/tetherwalk-master/project.godot"_s), "nothing");
     model().refreshState();
     EXPECT_FALSE(model().info());
     EXPECT_EQ(model().facts(), RepoFacts());
@@ -93,10 +92,10 @@ TEST_F(State, forgetsAGameThatIsNotReadableAnyMore)
 
 TEST_F(State, measuresWhatIsInstalledAndIsEmptyAgainWhenNothingIs)
 {
-    home.write(u"data/Cavernyx Platformer/Game/big"_s, QByteArray(300'000, 'x'));
+    home.write(root(u"Game/big"_s), QByteArray(300'000, 'x'));
     startModel();
     waitForSize(false);
-    EXPECT_TRUE(model().installedSize().endsWith(u"KB")) << model().installedSize().toStdString();
+    EXPECT_TRUE(model().installedSize().endsWith(u"KB")) << model().installedSize();
     ASSERT_TRUE(QFile::remove(root(u"Game/big"_s)));
     model().updateSize();
     waitForSize(true);
@@ -104,79 +103,84 @@ TEST_F(State, measuresWhatIsInstalledAndIsEmptyAgainWhenNothingIs)
 
 TEST_F(State, neverLetsAnOlderMeasurementOverwriteANewerOne)
 {
+    installManyFiles();
+    startModel(); // The measurement of many files begins, and is overtaken by one of a single file.
+    ASSERT_TRUE(QDir().rename(root(), home.path(u"elsewhere"_s)));
+    home.write(root(u"Game/big"_s), QByteArray(3'000'000, 'x'));
+    model().updateSize();
+    waitForDeletion();
+    EXPECT_EQ(model().installedSize(), u"3 MB");
+}
+
+TEST_F(State, showsHowMuchOfADownloadHasCome)
+{
     startModel();
-    AppModelAccess::applySize(model(), 1002, 2'000'000);
-    AppModelAccess::applySize(model(), 1001, 9'000'000);
-    EXPECT_EQ(model().installedSize(), u"2 MB");
+    enterDownload(50, 200);
+    EXPECT_EQ(model().progress(), 0.25);
+    EXPECT_TRUE(model().progressText().startsWith(u"50 bytes of 200 bytes · "));
 }
 
 TEST_F(State, showsADownloadOfUnknownSizeAsIndeterminateButWithItsAmount)
 {
-    startModel();
-    for (const qint64 total : {0, -1}) {
-        AppModelAccess::applyProgress(
-            model(), {.received = 7'300'000, .total = total, .bytesPerSecond = 2'400'000});
-        EXPECT_FALSE(model().progress());
-        EXPECT_EQ(model().progressText(), u"7.3 MB · 2.4 MB/s");
-    }
+    server.on(gamePath(), [](const HttpServer::Connection& connection) {
+        connection.send(HttpServer::head(200, {}) + "some");
+        connection.waitForHangUp();
+    });
+    startModel().play();
+    ASSERT_TRUE(waitUntil([this] { return !model().progressText().isEmpty(); }));
+    EXPECT_FALSE(model().progress());
+    EXPECT_TRUE(model().progressText().startsWith(u"4 bytes · "));
 }
 
-TEST_F(State, showsAtMostAWholeDownload)
+TEST_F(State, keepsAFailureUntilTheNextPlay)
 {
     startModel();
-    AppModelAccess::applyProgress(model(), {.received = 50, .total = 200, .bytesPerSecond = 1});
-    EXPECT_EQ(model().progress(), 0.25);
-    AppModelAccess::applyProgress(model(), {.received = 300, .total = 200, .bytesPerSecond = 1});
-    EXPECT_EQ(model().progress(), 1.0);
-}
-
-TEST_F(State, keepsAFailureUntilTheNextRefresh)
-{
-    startModel();
-    model().log().append(u"a line"_s);
-    AppModelAccess::fail(model(), u"Something is wrong."_s);
-    EXPECT_EQ(model().phase(), Phase::needs(u"Something is wrong."_s));
+    enter(Phase::Kind::needs);
     EXPECT_EQ(model().statusTitle(), u"Needs something");
-    EXPECT_EQ(model().statusDetail(), u"Something is wrong.");
-    EXPECT_EQ(model().failureText(),
-              u"What happened: Something is wrong.\n\nLast log lines:\na line");
+    EXPECT_EQ(model().statusDetail(), model().phase().message());
+    EXPECT_EQ(*model().failureText(), u"What happened: %1\n\nLast log lines:\n%2"_s.arg(
+                                          model().phase().message(), logged().join(u'\n')));
     model().refreshState();
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_TRUE(model().failureText());
+    enter(Phase::Kind::playing);
+    EXPECT_FALSE(model().failureText());
 }
 
 TEST_F(State, quotesAtMostThirtyLogLinesInAFailureReport)
 {
     startModel();
-    AppModelAccess::fail(model(), u"No."_s);
-    EXPECT_EQ(model().failureText(), u"What happened: No.\n\nLast log lines:\n");
-    for (int line = 1; line <= 31; ++line)
+    for (int line = 1; line <= 40; ++line)
         model().log().append(QString::number(line));
-    AppModelAccess::fail(model(), u"No."_s);
-    EXPECT_TRUE(model().failureText()->contains(u"Last log lines:\n2\n3\n"));
-    EXPECT_TRUE(model().failureText()->endsWith(u"\n30\n31"));
+    enter(Phase::Kind::needs);
+    const auto all = logged();
+    EXPECT_TRUE(model().failureText()->endsWith(u"\n\nLast log lines:\n"_s +
+                                                all.sliced(all.size() - 30).join(u'\n')));
 }
 
 TEST_F(State, namesEachPhaseInItsOwnWords)
 {
-    durations = {};
     startModel();
-    AppModelAccess::setStep(model(), u"the step"_s);
-    AppModelAccess::setPhase(model(), Phase::downloading());
+    enter(Phase::Kind::downloading);
     EXPECT_EQ(model().statusTitle(), u"Downloading");
-    EXPECT_EQ(model().statusDetail(), u"the step");
-    AppModelAccess::setPhase(model(), Phase::settingUp());
+    EXPECT_EQ(model().statusDetail(), model().stepText());
+    enter(Phase::Kind::settingUp);
     EXPECT_EQ(model().statusTitle(), u"Setting up");
-    EXPECT_EQ(model().statusDetail(), u"the step");
-    AppModelAccess::setPhase(model(), Phase::playing());
-    AppModelAccess::setStillStarting(model(), true);
+    EXPECT_EQ(model().statusDetail(), model().stepText());
+    enter(Phase::Kind::playing);
+    ASSERT_TRUE(waitUntil([this] { return !model().stillStarting(); }));
+    EXPECT_EQ(model().statusTitle(), u"Playing");
+    EXPECT_EQ(model().statusDetail(), u"The game is running in its own window.");
+}
+
+TEST_F(State, saysThatAGameIsStillStarting)
+{
+    durations.startupThreshold = std::chrono::seconds{10};
+    startModel();
+    enter(Phase::Kind::playing);
     EXPECT_EQ(model().statusTitle(), u"Starting…");
     EXPECT_EQ(model().statusDetail(),
               u"The game was launched. Waiting 10 seconds to make sure it stays open.");
-    AppModelAccess::setStillStarting(model(), false);
-    EXPECT_EQ(model().statusTitle(), u"Playing");
-    EXPECT_EQ(model().statusDetail(), u"The game is running in its own window.");
-    AppModelAccess::setPhase(model(), Phase::notDownloaded());
 }
 
 TEST_F(State, ignoresARelativeDataFolder)
@@ -193,12 +197,13 @@ TEST_F(State, announcesEachChangeOfAPropertyAfterIt)
     QStringList titles;
     const auto connection = QObject::connect(&model(), &AppModel::changed, &model(),
                                              [&] { titles.append(model().statusTitle()); });
-    AppModelAccess::fail(model(), u"No."_s);
+    enter(Phase::Kind::needs);
     EXPECT_EQ(titles.last(), u"Needs something");
+    const auto count = titles.size();
     model().setShowLog(true);
-    EXPECT_EQ(titles.size(), 2);
+    EXPECT_EQ(titles.size(), count + 1);
     model().setShowLog(true);
-    EXPECT_EQ(titles.size(), 2);
+    EXPECT_EQ(titles.size(), count + 1);
     QObject::disconnect(connection);
 }
 

@@ -1,34 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include "Support/AppModelAccess.h"
 #include "Support/MarkedLanguage.h"
 #include "Support/ModelTest.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 class ModelTranslation : public ModelTest
 {
 protected:
-    AppModel& startReady(const QByteArray& engine)
-    {
-        installGame();
-        installEngine(engine);
-        writeMarker();
-        return startModel();
-    }
-
-private:
     const MarkedLanguage m_language;
 };
 
 TEST_F(ModelTranslation, reachesTheFailureAndTheStepAndLeavesTheLogAsItIs)
 {
+    durations.startupThreshold = std::chrono::hours{1};
     startReady("exit 7").play();
     waitForFlow();
-    const auto sentence =
-        u"<The game closed after 0 seconds (exit code 7), so it did not start properly.>"_s;
-    EXPECT_EQ(model().phase(), Phase::needs(sentence));
+    const auto sentence = model().phase().message();
+    EXPECT_TRUE(sentence.startsWith(u"<The game closed after "));
+    EXPECT_TRUE(sentence.endsWith(u"(exit code 7), so it did not start properly.>"));
     EXPECT_EQ(model().stepText(), u"<Step 4 of 4 · Play>");
     EXPECT_EQ(logged().first(), u"Step 1 of 4 · Game already downloaded, skipping.");
     EXPECT_EQ(logged().last(), u"Error: "_s + sentence);
@@ -60,19 +49,18 @@ TEST_F(ModelTranslation, reachesTheStepsOfTheDownloads)
     installGame();
     model().play();
     waitForFlow();
-    EXPECT_EQ(model().stepText(), u"<Step 2 of 4 · Downloading the Godot engine (3.5.3-stable)>");
+    EXPECT_EQ(model().stepText(),
+              u"<Step 2 of 4 · Downloading the Godot engine (%1)>"_s.arg(EngineManager::version()));
 }
 
 TEST_F(ModelTranslation, reachesTheRefusalOfAGameThatCannotBePlayed)
 {
-    installGame();
-    const auto project = u"data/Cavernyx Platformer/Game/tetherwalk-master/project.godot"_s;
-    home.write(project, "config_version=5\n");
+    installGame("config_version=5\n");
     startModel().play();
     waitForFlow();
     EXPECT_EQ(model().phase().message(),
               u"<This game is made for Godot 4, but this app only knows how to install Godot 3.>");
-    home.write(project, "config_version=abc\n");
+    installGame("config_version=abc\n");
     model().play();
     waitForFlow();
     EXPECT_EQ(model().phase().message(), u"<The downloaded folder has no readable project.godot.>");

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/AppDelegate.h"
-#include "Support/AppModelAccess.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/ModelTest.h"
 
@@ -14,8 +13,6 @@
 #include <gmock/gmock.h>
 
 #include <functional>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,7 +53,7 @@ class AppDelegateWhilePlaying : public AppDelegateTest
 protected:
     AppDelegateWhilePlaying()
     {
-        AppModelAccess::setPhase(model(), Phase::playing());
+        enter(Phase::Kind::playing);
         desktop.answer = false;
     }
 };
@@ -168,22 +165,11 @@ TEST_F(AppDelegateTest, staysHiddenWhenItIsStartedAgainWhileItQuits)
 
 TEST_F(AppDelegateTest, waitsHiddenUntilTheGameHasEnded)
 {
-    durations.startupThreshold = std::chrono::milliseconds{20};
-    startModel();
-    installGame();
-    installEngine("sleep 60");
-    writeMarker();
-    model().refreshState();
-    QWidget front;
-    AppDelegate own(model(), front);
-    own.applicationDidFinishLaunching();
-    model().play();
-    waitForPhase(Phase::Kind::playing);
-
+    enter(Phase::Kind::playing);
     const QSignalSpy ended(&model(), &AppModel::flowEnded);
-    EXPECT_TRUE(ends([this, &front] {
-        front.close();
-        EXPECT_FALSE(front.isVisible());
+    EXPECT_TRUE(ends([this] {
+        window.close();
+        EXPECT_FALSE(window.isVisible());
         EXPECT_TRUE(model().isFlowRunning()) << "the game is told to end, and has not yet";
     }));
     EXPECT_EQ(ended.count(), 1);

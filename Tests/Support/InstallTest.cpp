@@ -1,28 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "Support/InstallTest.h"
 
+#include "Install/RepoDownloader.h"
 #include "Install/StaleFolders.h"
+#include "System/OffThread.h"
 
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
 #include <QRegularExpression>
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 InstallTest::InstallTest()
-    : m_data("XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8())
-    , m_temporary("TMPDIR", home.makeFolder(u"temporary"_s).toUtf8())
-    , m_host(server.host())
-    , m_lock(home.path(u"lock.lock"_s))
 {
-    m_lock.tryAcquire();
+    lock.tryAcquire();
 }
 
 LogCallback InstallTest::log()
 {
     return [this](const QString& line) {
         {
-            const std::lock_guard lock(m_mutex);
+            const std::lock_guard guard(m_mutex);
             m_lines += line.split(u'\n');
         }
         if (m_atLine && line.contains(m_lineText))
@@ -32,7 +31,7 @@ LogCallback InstallTest::log()
 
 QStringList InstallTest::lines()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard guard(m_mutex);
     return m_lines;
 }
 
@@ -47,19 +46,90 @@ void InstallTest::stopAtLine(const QString& text)
     atLine(text, [this] { stop.request_stop(); });
 }
 
-QString InstallTest::root(const QString& relative)
+QString InstallTest::root(const QString& relative) const
 {
-    return u"data/Cavernyx Platformer/"_s + relative;
+    return QDir::cleanPath(home.path(u"data/Cavernyx Platformer/"_s) + relative);
+}
+
+QStringList InstallTest::stagingFolders() const
+{
+    const QRegularExpression staging(u"\\.(new|old)-"_s);
+    return home.names(u"temporary"_s) + home.names(root()).filter(staging) +
+           home.names(root(u"Engine"_s)).filter(staging);
 }
 
 QStringList InstallTest::leftovers() const
 {
-    return home.names(u"temporary"_s) +
-           home.names(root({})).filter(QRegularExpression(u"\\.(new|old)-"_s)) +
-           home.names(root(u"Engine"_s)).filter(QRegularExpression(u"\\.(new|old)-"_s));
+    workerPool().waitForDone();
+    return stagingFolders();
 }
 
 void InstallTest::clearLeftovers()
 {
-    StaleFolders::remove(StaleFolders::putBackAndList(m_lock));
+    StaleFolders::remove(StaleFolders::putBackAndList(lock));
+}
+
+void InstallTest::installGame(const QByteArray& settings) const
+{
+    const auto folder = root(u"Game/tetherwalk-master"_s) + u'/';
+    home.write(folder + u"project.godot"_s,
+               "config_version=4\n[application]\nconfig/name=\"Tether\"\n"
+               "run/main_scene=\"res://main.tscn\"\n" +
+                   settings);
+    home.write(folder + u"a.png"_s);
+    home.write(folder + u"a.png.import"_s, "[remap]\npath=\"res://.import/a.stex\"\n");
+    home.write(folder + u".import/a.stex"_s);
+}
+
+void InstallTest::installManyFiles() const
+{
+    for (int file = 0; file < 20'000; ++file)
+        home.write(root(u"Game/many/%1"_s.arg(file)));
+}
+
+void InstallTest::installEngine(const QByteArray& body, const EngineManager& engine) const
+{
+    home.writeScript(engine.folder() + u'/' + programName(engine), body);
+}
+
+void InstallTest::writeMarker(const EngineManager& engine) const
+{
+    home.write(engine.markerFile());
+}
+
+bool InstallTest::hasMarker(const EngineManager& engine)
+{
+    return QFile::exists(engine.markerFile());
+}
+
+QString InstallTest::gamePath()
+{
+    return RepoDownloader::zipURL().path();
+}
+
+QString InstallTest::releasePath(const QString& name)
+{
+    return EngineManager::releaseURL(name).path();
+}
+
+QString InstallTest::enginePath(const EngineManager& engine)
+{
+    return releasePath(engine.archiveName());
+}
+
+QString InstallTest::programName(const EngineManager& engine)
+{
+    return engine.archiveName().chopped(4);
+}
+
+void InstallTest::serveEngine(const QByteArray& archive, const EngineManager& engine)
+{
+    const auto digest = QCryptographicHash::hash(archive, QCryptographicHash::Sha512).toHex();
+    serveList("aa  other.zip\n" + digest.toUpper() + " *" + engine.archiveName().toUtf8() + '\n');
+    server.on(enginePath(engine), HttpServer::reply(200, archive));
+}
+
+void InstallTest::serveList(const QByteArray& list)
+{
+    server.on(listPath(), HttpServer::reply(200, list));
 }

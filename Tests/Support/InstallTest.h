@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Install/EngineManager.h"
 #include "Install/FileDownloader.h"
-#include "Process/LogStore.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/HttpServer.h"
 #include "Support/TestFolder.h"
@@ -16,7 +16,9 @@
 #include <mutex>
 #include <stop_token>
 
-/// An installation with a home, a web host and a log of its own.
+using namespace Qt::StringLiterals;
+
+/// A home, a web host and a log of its own: what is installed there, and what the host serves.
 class InstallTest : public testing::Test
 {
 protected:
@@ -30,24 +32,48 @@ protected:
     /// Requests the stop when a line that contains `text` is logged.
     void stopAtLine(const QString& text);
 
-    /// A path below the storage root, relative to `home`.
-    static QString root(const QString& relative);
-    /// What is left in the temporary folder and the staging places.
+    /// The path of `relative` below the storage root.
+    [[nodiscard]] QString root(const QString& relative = {}) const;
+    [[nodiscard]] bool exists(const QString& relative) const { return home.exists(root(relative)); }
+    /// The names in the temporary folder, and of the staging folders.
+    [[nodiscard]] QStringList stagingFolders() const;
+    /// The same once all work in the background has ended.
     [[nodiscard]] QStringList leftovers() const;
-    /// Has what a cancelled installation has left cleared away.
+    /// Clears away what a cancelled installation has left.
     void clearLeftovers();
+
+    /// Writes a game of the standard edition with one asset, which is imported. `settings` are
+    /// further lines of its project file.
+    void installGame(const QByteArray& settings = {}) const;
+    /// Adds so many files to the game that deleting it takes a while.
+    void installManyFiles() const;
+    /// Writes an engine that is the shell script `body`; "$@" are its arguments.
+    void installEngine(const QByteArray& body, const EngineManager& engine = {}) const;
+    void writeMarker(const EngineManager& engine = {}) const;
+    [[nodiscard]] static bool hasMarker(const EngineManager& engine = {});
+
+    static QString gamePath();
+    /// The path of a file of the engine's release.
+    static QString releasePath(const QString& name);
+    static QString listPath() { return releasePath(u"SHA512-SUMS.txt"_s); }
+    static QString enginePath(const EngineManager& engine = {});
+    /// The name of the engine's program in its archive.
+    static QString programName(const EngineManager& engine = {});
+    /// Serves the archive, and a checksum list with its digest.
+    void serveEngine(const QByteArray& archive, const EngineManager& engine = {});
+    void serveList(const QByteArray& list);
 
     TestFolder home;
     HttpServer server;
+    InstallationLock lock{home.path(u"lock.lock"_s)};
     std::stop_source stop;
     std::shared_ptr<const FileDownloader> downloader =
         std::make_shared<const FileDownloader>([](const DownloadProgress&) {});
 
 private:
-    EnvironmentScope m_data;
-    EnvironmentScope m_temporary;
-    WebHostScope m_host;
-    InstallationLock m_lock;
+    EnvironmentScope m_data{"XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8()};
+    EnvironmentScope m_temporary{"TMPDIR", home.makeFolder(u"temporary"_s).toUtf8()};
+    WebHostScope m_host{server.host()};
     std::mutex m_mutex;
     QStringList m_lines;
     QString m_lineText;

@@ -1,27 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "Support/ModelTest.h"
 
+#include "Support/Await.h"
 #include "System/OffThread.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QTest>
+#include <QFile>
 #include <QThreadPool>
 
 #include <limits>
 
-using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 ModelTest::ModelTest()
-    : m_data("XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8())
-    , m_configuration("XDG_CONFIG_HOME", home.path(u"config"_s).toUtf8())
-    , m_temporary("TMPDIR", home.makeFolder(u"temporary"_s).toUtf8())
 {
-    lock.tryAcquire();
     QCoreApplication::setApplicationName(u"Cavernyx Platformer"_s);
-    durations.startupThreshold = 300ms;
+    durations.startupThreshold = 20ms;
     durations.importPollInterval = 20ms;
     durations.importSettleTime = 40ms;
     durations.logFlushInterval = 10ms;
@@ -31,10 +26,7 @@ ModelTest::ModelTest()
 
 ModelTest::~ModelTest()
 {
-    if (m_model && m_model->isFlowRunning()) {
-        m_model->cancelSetup();
-        waitForFlow();
-    }
+    endFlow();
     endModel();
 }
 
@@ -45,36 +37,68 @@ AppModel& ModelTest::startModel()
     return *m_model;
 }
 
-QString ModelTest::root(const QString& relative) const
+AppModel& ModelTest::startReady(const QByteArray& engine)
 {
-    return QDir::cleanPath(home.path(u"data/Cavernyx Platformer/"_s) + relative);
+    installGame();
+    installEngine(engine);
+    writeMarker();
+    return startModel();
 }
 
-void ModelTest::installGame(const QByteArray& projectExtra) const
+void ModelTest::enter(Phase::Kind kind)
 {
-    const auto folder = u"data/Cavernyx Platformer/Game/tetherwalk-master/"_s;
-    home.write(folder + u"project.godot"_s,
-               "config_version=4\n[application]\nconfig/name=\"Tether\"\n"
-               "run/main_scene=\"res://main.tscn\"\n" +
-                   projectExtra);
-    home.write(folder + u"a.png"_s);
-    home.write(folder + u"a.png.import"_s, "[remap]\npath=\"res://.import/a.stex\"\n");
-    home.write(folder + u".import/a.stex"_s);
+    using enum Phase::Kind;
+    if (kind == downloading) {
+        enterDownload(0, 0);
+        return;
+    }
+    endFlow();
+    const EngineManager engine;
+    QFile::remove(engine.markerFile());
+    if (kind == notDownloaded)
+        QDir(root()).removeRecursively();
+    else if (kind == needs)
+        installGame("config_version=5\n");
+    else
+        installGame();
+    if (kind != notDownloaded)
+        installEngine("echo up; exec sleep 60");
+    if (kind == ready || kind == playing)
+        writeMarker();
+    model().refreshState();
+    if (kind != notDownloaded && kind != ready)
+        model().play();
+    waitForPhase(kind);
+    if (kind == needs)
+        waitForFlow();
 }
 
-void ModelTest::installEngine(const QByteArray& body, const QString& build) const
+void ModelTest::enterDownload(qint64 received, qint64 total)
 {
-    home.writeScript(u"data/Cavernyx Platformer/Engine/%1/Godot_v3.5.3"_s.arg(build), body);
-}
-
-void ModelTest::writeMarker() const
-{
-    home.write(u"data/Cavernyx Platformer/Game/.setup-v2-3.5.3-stable"_s);
+    endFlow();
+    installGame();
+    QDir(root(u"Engine"_s)).removeRecursively();
+    serveEngine({});
+    server.on(enginePath(), [=](const HttpServer::Connection& connection) {
+        if (received > 0) {
+            connection.send(
+                HttpServer::head(200, "Content-Length: " + QByteArray::number(total) + '\n'));
+            connection.send(QByteArray(received, 'x'));
+        }
+        connection.waitForHangUp();
+    });
+    model().refreshState();
+    model().play();
+    waitForPhase(Phase::Kind::downloading);
+    if (received > 0) {
+        const auto fraction = static_cast<double>(received) / static_cast<double>(total);
+        waitUntil([&] { return model().progress() == fraction; });
+    }
 }
 
 void ModelTest::waitForFlow()
 {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_model->isFlowRunning(); }, 20'000));
+    waitUntil([this] { return !m_model->isFlowRunning(); });
 }
 
 void ModelTest::waitForDeletion()
@@ -86,8 +110,8 @@ void ModelTest::waitForDeletion()
 
 void ModelTest::waitForPhase(Phase::Kind kind)
 {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m_model->phase() == kind; }, 20'000))
-        << m_model->statusTitle().toStdString() << ": " << m_model->statusDetail().toStdString();
+    EXPECT_TRUE(waitUntil([&] { return m_model->phase() == kind; }))
+        << m_model->statusTitle() << ": " << m_model->statusDetail();
 }
 
 QStringList ModelTest::logged()
@@ -95,20 +119,12 @@ QStringList ModelTest::logged()
     return m_model->log().newest(std::numeric_limits<int>::max());
 }
 
-QStringList ModelTest::leftovers() const
+void ModelTest::endFlow()
 {
-    workerPool().waitForDone();
-    return stagingFolders();
-}
-
-QStringList ModelTest::stagingFolders() const
-{
-    auto left = home.names(u"temporary"_s);
-    for (const auto& place :
-         {u"data/Cavernyx Platformer"_s, u"data/Cavernyx Platformer/Engine"_s}) {
-        left += home.names(place).filter(u".new-"_s);
+    if (m_model && m_model->isFlowRunning()) {
+        m_model->cancelSetup();
+        waitForFlow();
     }
-    return left;
 }
 
 void ModelTest::endModel()

@@ -2,37 +2,31 @@
 #pragma once
 
 #include "Model/AppModel.h"
-#include "Support/EnvironmentScope.h"
 #include "Support/FakeDesktop.h"
-#include "Support/TestFolder.h"
-#include "System/InstallationLock.h"
-
-#include <gtest/gtest.h>
+#include "Support/InstallTest.h"
 
 #include <memory>
 
-using namespace Qt::StringLiterals;
-
-/// A model with a home of its own: data, settings and temporary files lie in a fresh folder, and
-/// the spans of time that decide something are short.
-class ModelTest : public testing::Test
+/// A model with an installation and settings of its own. The spans of time that decide something
+/// are short.
+class ModelTest : public InstallTest
 {
 protected:
     ModelTest();
     ~ModelTest() override;
 
-    /// Creates the model anew, as a start of the program does.
+    /// Creates a new model, as a start of the program does.
     AppModel& startModel();
+    /// The same with everything installed. `engine` is the engine's script.
+    AppModel& startReady(const QByteArray& engine = "exit 0");
     AppModel& model() { return *m_model; }
 
-    /// The storage root in the test's home.
-    [[nodiscard]] QString root(const QString& relative = {}) const;
-
-    /// Writes a game of the standard edition with one importable asset that is imported.
-    void installGame(const QByteArray& projectExtra = {}) const;
-    /// Writes an engine that is the shell script `body`; "$@" are its arguments.
-    void installEngine(const QByteArray& body, const QString& build = u"3.5.3-stable"_s) const;
-    void writeMarker() const;
+    /// Brings the model into a phase as a player would. What runs before is ended. In
+    /// `downloading` it waits for the engine's server, in `settingUp` and `playing` for the engine,
+    /// and `needs` is a refused game.
+    void enter(Phase::Kind kind);
+    /// Enters `downloading` and waits until so much of the engine's archive has come.
+    void enterDownload(qint64 received, qint64 total);
 
     /// Waits until the flow has ended; a test failure when it does not.
     void waitForFlow();
@@ -43,21 +37,14 @@ protected:
     /// Everything logged so far.
     [[nodiscard]] QStringList logged();
 
-    /// The names in the temporary folder and the staging places.
-    [[nodiscard]] QStringList stagingFolders() const;
-    /// The same once all work in the background has ended.
-    [[nodiscard]] QStringList leftovers() const;
-
-    TestFolder home;
     FakeDesktop desktop;
+    /// For the next model.
     Durations durations;
-    InstallationLock lock{home.path(u"lock.lock"_s)};
 
 private:
+    void endFlow();
     void endModel();
 
-    EnvironmentScope m_data;
-    EnvironmentScope m_configuration;
-    EnvironmentScope m_temporary;
+    EnvironmentScope m_configuration{"XDG_CONFIG_HOME", home.path(u"config"_s).toUtf8()};
     std::unique_ptr<AppModel> m_model;
 };

@@ -8,11 +8,20 @@
 #include <QTest>
 #include <QWindow>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-using ContentViewTest = ViewTest;
+class ContentViewTest : public ViewTest
+{
+protected:
+    void showGameWith(const QByteArray& readme, const QByteArray& license)
+    {
+        installGame();
+        home.write(root(u"Game/README.org"_s), readme);
+        home.write(root(u"Game/LICENSE"_s), license);
+        model().refreshState();
+        settle();
+    }
+};
 
 TEST_F(ContentViewTest, isNoSmallerThan620By760ButMayGrow)
 {
@@ -60,7 +69,6 @@ TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindowAndNoFurther)
 {
     auto& bar = *window().verticalScrollBar();
     showAllBlocks();
-    enter(Phase::needs(u"It broke. "_s.repeated(20)));
     ASSERT_GT(window().widget()->height(), window().viewport()->height());
     EXPECT_TRUE(bar.isVisible());
     bar.setValue(bar.maximum());
@@ -72,8 +80,7 @@ TEST_F(ContentViewTest, scrollsWhatIsTallerThanTheWindowAndNoFurther)
 
 TEST_F(ContentViewTest, scrollsToTheLogWhenThatIsDisclosedBelow)
 {
-    AppModelAccess::fail(model(), u"It broke."_s);
-    settle();
+    enter(Phase::Kind::needs);
     const auto& bar = *window().verticalScrollBar();
     ASSERT_EQ(bar.value(), 0);
     disclosure().click();
@@ -121,35 +128,19 @@ TEST_F(ContentViewTest, showsTheFactsWithLicenceAndAuthor)
                             13},
                            {u"MIT License \u00b7 Quennet (Brindlework)", 10, QFont::Normal, true}});
 
-    AppModelAccess::setFacts(model(), {u"<b>S</b>"_s, u"L"_s, u"A"_s});
-    settle();
+    showGameWith("#+DESCRIPTION: <b>S</b>\n", "L\nCopyright A\n");
     auto* const summary = label(u"<b>S</b>");
     ASSERT_TRUE(summary);
     EXPECT_EQ(summary->textFormat(), Qt::PlainText) << "what a repository says is no markup";
-    auto* const credits = label(u"L \u00b7 A");
+    auto* const credits = label(u"L \u00b7 Copyright A");
     ASSERT_TRUE(credits);
     EXPECT_EQ(gapBelow(*summary, *credits), 6);
 }
 
 TEST_F(ContentViewTest, shortensAFactThatIsFarTooLong)
 {
-    const QString endless(4'000'000, u'x');
-    AppModelAccess::setFacts(model(), {endless, u"L"_s, u"A"_s});
-    settle();
-    EXPECT_TRUE(label(QString(endless.left(2000) + u'\u2026')));
-}
-
-TEST_F(ContentViewTest, showsALoneDotForEmptyFacts)
-{
-    auto* const summary = label(model().facts().summary);
-    AppModelAccess::setFacts(model(), {QString(), QString(), QString()});
-    settle();
-    EXPECT_EQ(summary->text(), QString());
-    EXPECT_TRUE(summary->isVisible());
-    EXPECT_GE(summary->height(), summary->fontMetrics().height()) << "an empty line";
-    auto* const credits = label(u" \u00b7 ");
-    ASSERT_TRUE(credits);
-    EXPECT_EQ(gapBelow(*summary, *credits), 6);
+    showGameWith("#+DESCRIPTION: " + QByteArray(4'000'000, 'x'), {});
+    EXPECT_TRUE(label(QString(2000, u'x') + u'\u2026'));
 }
 
 TEST_F(ContentViewTest, listsTheFiveControlsInOrder)
@@ -192,7 +183,7 @@ TEST_F(ContentViewTest, opensOneSheetAtATimeAndClosesItWithEscape)
 
 TEST_F(ContentViewTest, ignoresEscape)
 {
-    enter(Phase::playing());
+    enter(Phase::Kind::playing);
     QTest::keyClick(&window(), Qt::Key_Escape);
     EXPECT_TRUE(window().isVisible());
     EXPECT_TRUE(model().phase() == Phase::Kind::playing);

@@ -13,8 +13,6 @@
 #include <QTest>
 #include <QTimer>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class ControlGallery : public Picture, public testing::WithParamInterface<Theme>
@@ -112,7 +110,7 @@ TEST_P(ControlGallery, showsTheMenuOfTheLog)
 TEST_P(ControlGallery, asksOverTheSheet)
 {
     QApplication::setWindowIcon(QIcon(QStringLiteral(ICON_FILE)));
-    AppModelAccess::setPhase(model(), Phase::ready());
+    enter(Phase::Kind::ready);
     showAll();
     settings();
     QTimer::singleShot(0, &window(), [this] {
@@ -138,18 +136,20 @@ TEST_P(ControlGallery, scrollsOnASmallScreen)
 
 TEST_P(ControlGallery, takesLongTexts)
 {
-    AppModelAccess::setFacts(
-        model(), {.summary = u"A platform game in which a small explorer swings through caves "
-                             u"on a grappling hook. It shows how such a game is built: its "
-                             u"scenes, its camera, its physics and its sounds, each with a "
-                             u"chapter of its own in the manual that comes with it."_s,
-                  .license = u"Creative Commons Attribution-ShareAlike 4.0 International"_s,
-                  .author = u"The Brindlework Demonstration Projects and their contributors"_s});
-    AppModelAccess::fail(model(),
-                         u"The file \u201c/home/player/.local/share/cavernyx/"
-                         u"a-folder-with-a-name-that-is-longer-than-the-window-is-wide/"
-                         u"and-another-one-inside-of-it\u201d could not be written: No space "
-                         u"left on device."_s);
+    installGame();
+    home.write(root(u"Game/README.org"_s),
+               "#+DESCRIPTION: A platform game in which a small explorer swings through caves on a "
+               "grappling hook. It shows how such a game is built: its scenes, its camera, its "
+               "physics and its sounds, each with a chapter of its own in the manual that comes "
+               "with it.\n");
+    home.write(root(u"Game/LICENSE"_s),
+               "Creative Commons Attribution-ShareAlike 4.0 International\n"
+               "Copyright The Brindlework Demonstration Projects and their contributors\n");
+    const WebHostScope host(u"http://127.0.0.1:1/a-folder-with-a-name-that-is-longer-than-the-"
+                            "window-is-wide/and-another-one-inside-of-it"_s);
+    model().play();
+    waitForPhase(Phase::Kind::needs);
+    waitForFlow();
     showAll();
     save(window(), "long-texts");
 }
@@ -157,10 +157,7 @@ TEST_P(ControlGallery, takesLongTexts)
 TEST_P(ControlGallery, takesALargerFont)
 {
     enlargeFont();
-    AppModelAccess::setPhase(model(), Phase::downloading());
-    AppModelAccess::setStep(model(),
-                            u"Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"_s);
-    AppModelAccess::applyProgress(model(), {7'300'000, 70'100'000, 2'400'000});
+    showDownload();
     showAll();
     save(window(), "larger-font");
     save(settings(), "larger-font-settings");

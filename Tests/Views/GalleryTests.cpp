@@ -3,89 +3,70 @@
 
 #include "Views/Picture.h"
 
-#include <ostream>
+#include <string>
 #include <tuple>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
-struct State
-{
-    std::string name;
-    void (*enter)(AppModel& model);
+const std::string states[]{
+    "not-downloaded",  "downloading-unknown",
+    "downloading",     "setting-up",
+    "ready",           "starting",
+    "playing",         "failed",
+    "failed-with-log", "empty-log",
 };
 
-void PrintTo(const State& state, std::ostream* stream)
-{
-    *stream << state.name;
-}
-
-void downloading(AppModel& model)
-{
-    AppModelAccess::setPhase(model, Phase::downloading());
-    AppModelAccess::setStep(model,
-                            u"Step 2 of 4 \u00b7 Downloading the Godot engine (3.5.3-stable)"_s);
-}
-
-void failing(AppModel& model)
-{
-    for (auto i = 0; i < 30; ++i)
-        model.log().append(u"Downloading the checksum list, attempt %1"_s.arg(i));
-    AppModelAccess::fail(model, u"The engine's archive is damaged: its SHA-512 checksum is not the "
-                                u"one that the engine's makers published. Nothing was "
-                                u"installed."_s);
-}
-
-const State states[]{
-    {"not-downloaded", [](AppModel&) {}},
-    {"downloading-unknown", downloading},
-    {"downloading",
-     [](AppModel& model) {
-         downloading(model);
-         AppModelAccess::applyProgress(model, {7'300'000, 70'100'000, 2'400'000});
-     }},
-    {"setting-up",
-     [](AppModel& model) {
-         AppModelAccess::setPhase(model, Phase::settingUp());
-         AppModelAccess::setStep(
-             model, u"Step 3 of 4 \u00b7 First-time setup, this can take a minute or more"_s);
-     }},
-    {"ready", [](AppModel& model) { AppModelAccess::setPhase(model, Phase::ready()); }},
-    {"starting",
-     [](AppModel& model) {
-         AppModelAccess::setStillStarting(model, true);
-         AppModelAccess::setPhase(model, Phase::playing());
-     }},
-    {"playing", [](AppModel& model) { AppModelAccess::setPhase(model, Phase::playing()); }},
-    {"failed", failing},
-    {"failed-with-log",
-     [](AppModel& model) {
-         failing(model);
-         model.setShowLog(true);
-     }},
-    {"empty-log", [](AppModel& model) { model.setShowLog(true); }},
-};
-
-class Gallery : public Picture, public testing::WithParamInterface<std::tuple<Theme, State>>
+class Gallery : public Picture, public testing::WithParamInterface<std::tuple<Theme, std::string>>
 {
 protected:
     Gallery()
-        : Picture(std::get<Theme>(GetParam()))
-        , state(std::get<State>(GetParam()))
+        : Picture(std::get<Theme>(GetParam()), std::get<std::string>(GetParam()) == "starting"
+                                                   ? std::chrono::seconds{10}
+                                                   : std::chrono::seconds{0})
     {
     }
 
-    const State state;
+    /// What a download that is not the published one leads to.
+    void fail()
+    {
+        for (auto i = 0; i < 30; ++i)
+            model().log().append(u"Downloading the checksum list, attempt %1"_s.arg(i));
+        installGame();
+        serveEngine("the published one");
+        server.on(enginePath(), HttpServer::reply(200, "another"));
+        model().play();
+        waitForPhase(Phase::Kind::needs);
+        waitForFlow();
+    }
+
+    void enterState()
+    {
+        using enum Phase::Kind;
+        if (state == "downloading-unknown")
+            enter(downloading);
+        else if (state == "downloading")
+            showDownload();
+        else if (state == "setting-up")
+            enter(settingUp);
+        else if (state == "ready" || state == "installed")
+            enter(ready);
+        else if (state == "starting" || state == "playing" || state == "busy")
+            enter(playing);
+        else if (state.starts_with("failed"))
+            fail();
+        model().setShowLog(state.ends_with("log"));
+    }
+
+    const std::string state = std::get<std::string>(GetParam());
 };
 
 TEST_P(Gallery, showsTheState)
 {
-    state.enter(model());
+    enterState();
     auto& log = model().log();
     ASSERT_TRUE(waitUntil([&] { return log.lines() == log.newest(2000); }));
     showAll();
-    save(window(), state.name);
+    save(window(), state);
 }
 
 INSTANTIATE_TEST_SUITE_P(States, Gallery,
@@ -97,35 +78,21 @@ using SheetGallery = Gallery;
 TEST_P(SheetGallery, showsTheSheets)
 {
     home.makeFolder(u"data/godot/app_userdata/Tether"_s);
+    enterState();
+    if (state != "not-downloaded")
+        home.write(root(u"more"_s), QByteArray(3'000'000, 'x'));
     settings();
-    // The sheet has started to measure an empty folder.
-    AppModelAccess::finishMeasuring();
-    state.enter(model());
-    save(settings(), "settings-" + state.name);
+    ASSERT_TRUE(waitUntil([this] {
+        return model().installedSize() == (state == "not-downloaded" ? QString() : u"3 MB"_s);
+    }));
+    save(settings(), "settings-" + state);
     settings().reject();
     settle();
     save(about(), "about");
 }
 
-const State sheetStates[]{
-    states[0],
-    {"installed",
-     [](AppModel& model) {
-         AppModelAccess::setInstalledSize(model, u"312.4 MB"_s);
-         ProjectInfo info;
-         info.name = u"Tether"_s;
-         AppModelAccess::setInfo(model, info);
-         AppModelAccess::setPhase(model, Phase::ready());
-     }},
-    {"busy",
-     [](AppModel& model) {
-         AppModelAccess::setInstalledSize(model, u"312.4 MB"_s);
-         AppModelAccess::setPhase(model, Phase::playing());
-     }},
-};
-
 INSTANTIATE_TEST_SUITE_P(Sheets, SheetGallery,
                          testing::Combine(testing::Values(Theme::light, Theme::dark),
-                                          testing::ValuesIn(sheetStates)));
+                                          testing::Values("not-downloaded", "installed", "busy")));
 
 } // namespace

@@ -6,8 +6,6 @@
 #include <QAccessible>
 #include <QTest>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class KeyboardTest : public ViewTest
@@ -76,7 +74,7 @@ TEST_F(KeyboardTest, keepsTheOrderWhenTheLogIsOpenedBeforeAFailure)
 
 TEST_F(KeyboardTest, goesFromStopToTheLog)
 {
-    enter(Phase::playing());
+    enter(Phase::Kind::playing);
     stop().setFocus();
     EXPECT_EQ(stopNames(window()),
               (QStringList{u"Stop"_s, u"Show log"_s, u"Settings\u2026"_s, u"About"_s}));
@@ -93,11 +91,12 @@ TEST_F(KeyboardTest, goesBackToTheDisclosureWhenTheLogCloses)
 
 TEST_F(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
 {
-    enter(Phase::ready());
+    enter(Phase::Kind::ready);
     // The name of the resolutions is the choice.
     EXPECT_EQ(stopNames(settings()),
               (QStringList{u"Done"_s, u"Windowed"_s, u"Game default"_s, u"Update the game"_s,
-                           u"Reinstall"_s, u"Reveal in Finder"_s, u"Remove everything"_s}));
+                           u"Reinstall"_s, u"Reveal in Finder"_s,
+                           only<DestructiveButton>(settings()).text()}));
 }
 
 TEST_F(KeyboardTest, stopsOnceAtTheLink)

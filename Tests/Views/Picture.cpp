@@ -4,11 +4,10 @@
 #include <QDir>
 #include <QPainter>
 #include <QSet>
+#include <QVariantAnimation>
 
 #include <algorithm>
 #include <ostream>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,14 +28,26 @@ void PrintTo(Theme theme, std::ostream* stream)
     *stream << (theme == Theme::dark ? "dark" : "light");
 }
 
-Picture::Picture(Theme theme)
-    : m_theme(theme)
+Picture::Picture(Theme theme, std::chrono::milliseconds startupThreshold)
+    : ViewTest(startupThreshold)
+    , m_theme(theme)
 {
     QApplication::setPalette(theme == Theme::dark ? Palettes::dark() : Palettes::light());
 }
 
+void Picture::showDownload()
+{
+    enterDownload(7'300'000, 70'100'000);
+    settle();
+    label(model().progressText())->setText(u"7.3 MB of 70.1 MB \u00b7 2.4 MB/s"_s);
+}
+
 void Picture::showAll()
 {
+    // The picture does not depend on how far the travelling piece of the progress bar has come.
+    auto& travel = *progress().findChild<QVariantAnimation*>();
+    travel.stop();
+    travel.setCurrentTime(0);
     // At a large scale the screen counts as small, and limits the minimum size.
     window().setMinimumSize(ContentView::minSize);
     settle();

@@ -17,7 +17,12 @@ void PrintTo(Theme theme, std::ostream* stream);
 class Picture : public ViewTest
 {
 protected:
-    explicit Picture(Theme theme);
+    explicit Picture(Theme theme,
+                     std::chrono::milliseconds startupThreshold = std::chrono::milliseconds{20});
+
+    /// Enters `downloading` with a part of the engine's archive. The rate in the picture is always
+    /// the same.
+    void showDownload();
 
     /// Makes the window as high as its content.
     void showAll();

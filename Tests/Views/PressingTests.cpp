@@ -8,8 +8,6 @@
 #include <QPointer>
 #include <QTest>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class PressingTest : public ViewTest
@@ -42,7 +40,7 @@ TEST_F(PressingTest, playsAndStops)
 TEST_F(PressingTest, cancelsTheSetup)
 {
     install("echo up; exec sleep 60");
-    ASSERT_TRUE(QFile::remove(root(u"Game/.setup-v2-3.5.3-stable"_s)));
+    ASSERT_TRUE(QFile::remove(EngineManager().markerFile()));
     ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
     playUntilTheEngineRuns();
     press(&cancel());
@@ -53,16 +51,14 @@ TEST_F(PressingTest, cancelsTheSetup)
 
 TEST_F(PressingTest, copiesTheReportAndTheLog)
 {
-    AppModelAccess::setFailureText(model(), u"What happened"_s);
-    model().log().append(u"a line"_s);
-    enter(Phase::needs(u"It broke."_s));
+    enter(Phase::Kind::needs);
     press(&disclosure());
     ASSERT_TRUE(model().showLog());
     window().resize(window().width(), window().widget()->height());
     settle();
     press(button(u"Copy"));
     press(button(u"Copy log"));
-    EXPECT_EQ(desktop.copied, (QStringList{u"What happened"_s, u"a line"_s}));
+    EXPECT_EQ(desktop.copied, (QStringList{*model().failureText(), logged().join(u'\n')}));
 }
 
 TEST_F(PressingTest, opensTheSheetsAndClosesThemWithDone)
@@ -88,8 +84,8 @@ TEST_F(PressingTest, asksBeforeItUpdatesReinstallsOrRemoves)
         EXPECT_EQ(desktop.questions.constLast().title, question);
         EXPECT_FALSE(window().findChild<SettingsView*>()) << "the sheet closes";
     }
-    EXPECT_TRUE(QFile::exists(root(u"Game/tetherwalk-master/project.godot"_s)));
-    EXPECT_TRUE(QFile::exists(root(u"Engine/3.5.3-stable"_s)));
+    EXPECT_TRUE(exists(u"Game/tetherwalk-master/project.godot"_s));
+    EXPECT_TRUE(EngineManager().executable());
 }
 
 TEST_F(PressingTest, removesEverythingAndLeavesTheSheetOpen)

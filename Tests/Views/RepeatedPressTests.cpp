@@ -159,8 +159,7 @@ TEST_F(RepeatedPressTest, ofAKeyInTheNextWindowIsAPressOfItsOwn)
 
 TEST_F(RepeatedPressTest, isLeftToAControlThatStays)
 {
-    AppModelAccess::setFailureText(model(), u"What happened"_s);
-    enter(Phase::needs(u"It broke."_s));
+    enter(Phase::Kind::needs);
     window().resize(window().width(), window().widget()->height());
     settle();
     const auto position = rectOf(*button(u"Copy")).center();

@@ -12,8 +12,6 @@
 #include <QTest>
 #include <QWheelEvent>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class SettingsViewTest : public ViewTest
@@ -136,7 +134,8 @@ TEST_F(SettingsViewTest, doesNotStoreWhatItOnlyShows)
 TEST_F(SettingsViewTest, disablesMaintenanceWhileBusy)
 {
     const auto maintenance = {&control(u"Update the game"), &control(u"Reinstall"), &removal()};
-    for (const auto& phase : {Phase::downloading(), Phase::settingUp(), Phase::playing()}) {
+    for (const auto phase :
+         {Phase::Kind::downloading, Phase::Kind::settingUp, Phase::Kind::playing}) {
         enter(phase);
         for (const auto* const action : maintenance)
             EXPECT_FALSE(action->isEnabled());
@@ -144,7 +143,7 @@ TEST_F(SettingsViewTest, disablesMaintenanceWhileBusy)
             EXPECT_TRUE(control(title).isEnabled());
         EXPECT_TRUE(resolution().isEnabled());
     }
-    enter(Phase::ready());
+    enter(Phase::Kind::ready);
     for (const auto* const action : maintenance)
         EXPECT_TRUE(action->isEnabled());
 }
@@ -172,14 +171,12 @@ TEST_F(SettingsViewTest, disablesWhatAFlowRefusesAlreadyInItsSilentChecks)
 TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
 {
     auto& note = *label(settings(), u"No saves yet (Godot's user folder does not exist).");
-    ProjectInfo info;
-    info.name = u"Swing"_s;
-    AppModelAccess::setInfo(model(), info);
+    enter(Phase::Kind::ready);
     EXPECT_FALSE(control(u"Show saves").isEnabled());
     EXPECT_TRUE(note.isVisible());
 
-    home.makeFolder(u"data/godot/app_userdata/Swing"_s);
-    AppModelAccess::setInfo(model(), info);
+    home.makeFolder(u"data/godot/app_userdata/Tether"_s);
+    model().refreshState();
     EXPECT_TRUE(control(u"Show saves").isEnabled());
     EXPECT_FALSE(note.isVisible());
     control(u"Show saves").click();
@@ -192,14 +189,17 @@ TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
     EXPECT_TRUE(note.isVisible());
 }
 
-TEST_F(SettingsViewTest, measuresTheInstallationWhenItOpens)
+TEST_F(SettingsViewTest, saysWhatRemovingFreesAsItIsMeasuredWhenItOpens)
 {
-    home.write(u"data/Cavernyx Platformer/more"_s, QByteArray(3'000'000, 'x'));
+    EXPECT_EQ(removal().text(), u"Remove everything"_s);
+    settings().reject();
+    settle();
+    home.write(root(u"more"_s), QByteArray(3'000'000, 'x'));
     ASSERT_EQ(model().installedSize(), QString());
     settings();
     EXPECT_TRUE(waitUntil([this] {
         return removal().text() == u"Remove everything (frees 3 MB)"_s;
-    })) << qPrintable(removal().text());
+    })) << removal().text();
 }
 
 TEST_F(SettingsViewTest, keepsItsControlsInLineWhenTheFontGrows)
@@ -224,19 +224,11 @@ TEST_F(SettingsViewTest, dividesTheSettingsFromTheMaintenance)
     EXPECT_EQ(divider.size(), QSize(400, 1));
 }
 
-TEST_F(SettingsViewTest, saysWhatRemovingFrees)
-{
-    AppModelAccess::setInstalledSize(model(), {});
-    EXPECT_EQ(removal().text(), u"Remove everything"_s);
-    AppModelAccess::setInstalledSize(model(), u"312.4 MB"_s);
-    EXPECT_EQ(removal().text(), u"Remove everything (frees 312.4 MB)"_s);
-}
-
 TEST_F(SettingsViewTest, closesWithReturnFromAnywhereInIt)
 {
     for (const auto* const title :
          {u"Windowed", u"Game default", u"Reinstall", u"Reveal in Finder", u"Done"}) {
-        SCOPED_TRACE(qPrintable(QString::fromUtf16(title)));
+        SCOPED_TRACE(QString::fromUtf16(title));
         const QPointer<SettingsView> open(&settings());
         auto* const focused = button(*open, title);
         auto& target = focused ? static_cast<QWidget&>(*focused) : resolution();

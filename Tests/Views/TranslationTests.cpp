@@ -7,8 +7,6 @@
 
 #include <QComboBox>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A base class, so that the language is there before the window.
@@ -20,13 +18,12 @@ struct InMarkedLanguage
 class TranslationTest : private InMarkedLanguage, public ViewTest
 {
 protected:
-    /// Gives the model a fact, a log line and a report of its own, which nothing translates.
-    void fill()
+    /// The game's own facts, which nothing translates.
+    QStringList facts()
     {
-        AppModelAccess::setFacts(model(), {u"summary"_s, u"MIT"_s, u"author"_s});
-        model().log().append(u"a line of the log"_s);
-        model().setShowLog(true);
-        AppModelAccess::setFailureText(model(), u"What happened"_s);
+        const auto& facts = model().facts();
+        return {GameFacts::launcherName.toString(), facts.summary,
+                facts.license + u" \u00b7 "_s + facts.author};
     }
 
     /// Opens a sheet by the translated title of its button.
@@ -46,7 +43,7 @@ protected:
             if (text.isEmpty() || untranslated.contains(text))
                 return;
             ++count;
-            EXPECT_TRUE(text.contains(u'<') && text.contains(u'>')) << qPrintable(text);
+            EXPECT_TRUE(text.contains(u'<') && text.contains(u'>')) << text;
         };
         EXPECT_FALSE(parent.windowTitle().isEmpty());
         expect(parent.windowTitle());
@@ -67,23 +64,21 @@ protected:
 
 TEST_F(TranslationTest, reachesEveryTextOfTheWindowInEveryPhase)
 {
-    fill();
-    for (const auto& phase : {Phase::notDownloaded(), Phase::downloading(), Phase::settingUp(),
-                              Phase::ready(), Phase::playing(), Phase::needs(u"It broke."_s)}) {
+    using enum Phase::Kind;
+    model().setShowLog(true);
+    for (const auto phase : {notDownloaded, downloading, settingUp, ready, playing, needs}) {
         enter(phase);
-        expectTranslated(window(), {GameFacts::launcherName.toString(), u"summary"_s,
-                                    u"MIT \u00b7 author"_s, u"It broke."_s});
+        expectTranslated(window(), facts());
     }
 }
 
 TEST_F(TranslationTest, leavesTheFactsTheLogAndTheReportAsTheyAre)
 {
-    fill();
-    enter(Phase::needs(u"It broke."_s));
-    for (const auto* const text : {u"summary", u"MIT \u00b7 author", u"It broke."})
-        EXPECT_TRUE(label(text));
-    EXPECT_EQ(failure().edit().text(), u"What happened"_s);
-    EXPECT_TRUE(waitUntil([this] { return logBox().edit().text() == u"a line of the log"_s; }));
+    showAllBlocks();
+    for (const auto& text : facts() + QStringList{model().phase().message()})
+        EXPECT_TRUE(label(text)) << text;
+    EXPECT_EQ(failure().edit().text(), *model().failureText());
+    EXPECT_TRUE(waitUntil([this] { return logBox().edit().text() == logged().join(u'\n'); }));
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
@@ -92,8 +87,10 @@ TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
     expectTranslated(sheet, {});
     EXPECT_EQ(only<QComboBox>(sheet).itemText(0), u"<Game default>"_s);
     EXPECT_EQ(only<QComboBox>(sheet).itemText(1), u"1280 \u00d7 720"_s);
-    AppModelAccess::setInstalledSize(model(), u"312.4 MB"_s);
-    EXPECT_TRUE(button(sheet, u"<Remove everything (frees 312.4 MB)>"));
+    home.write(root(u"more"_s), QByteArray(3'000'000, 'x'));
+    model().updateSize();
+    EXPECT_TRUE(
+        waitUntil([&] { return button(sheet, u"<Remove everything (frees <3 MB>)>") != nullptr; }));
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheAboutSheet)

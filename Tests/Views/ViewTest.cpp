@@ -3,8 +3,6 @@
 
 #include <QTest>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 template<typename Widget>
@@ -20,8 +18,8 @@ Widget* withText(const QWidget& parent, QStringView text)
 
 } // namespace
 
-ViewTest::ViewTest()
-    : m_window(std::make_unique<ContentView>(startModel()))
+ViewTest::ViewTest(std::chrono::milliseconds startupThreshold)
+    : m_window(std::make_unique<ContentView>(startModelWith(startupThreshold)))
 {
     m_window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
@@ -34,27 +32,30 @@ ViewTest::~ViewTest()
     QApplication::setPalette(Palettes::light());
 }
 
-void ViewTest::enter(const Phase& phase)
+AppModel& ViewTest::startModelWith(std::chrono::milliseconds startupThreshold)
 {
-    AppModelAccess::setPhase(model(), phase);
+    durations.startupThreshold = startupThreshold;
+    return startModel();
+}
+
+void ViewTest::enter(Phase::Kind kind)
+{
+    ModelTest::enter(kind);
+    if (durations.startupThreshold < std::chrono::seconds{1})
+        waitUntil([this] { return !model().stillStarting(); });
     settle();
 }
 
 void ViewTest::install(const QByteArray& engine)
 {
-    installGame();
+    enter(Phase::Kind::ready);
     installEngine(engine);
-    writeMarker();
-    model().refreshState();
-    settle();
-    ASSERT_EQ(model().phase(), Phase::ready());
 }
 
 void ViewTest::showAllBlocks()
 {
-    AppModelAccess::fail(model(), u"The disk is full."_s);
     model().setShowLog(true);
-    settle();
+    enter(Phase::Kind::needs);
 }
 
 void ViewTest::enlargeFont()
@@ -103,7 +104,7 @@ void ViewTest::expectTexts(const QWidget& parent, std::initializer_list<Expected
 {
     auto bottom = 0;
     for (const auto& expected : texts) {
-        SCOPED_TRACE(qPrintable(expected.text.toString()));
+        SCOPED_TRACE(expected.text.toString());
         const auto* const found = label(parent, expected.text);
         ASSERT_TRUE(found && found->isVisible());
         EXPECT_NEAR(found->font().pointSizeF(),

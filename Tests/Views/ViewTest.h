@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Support/AppModelAccess.h"
 #include "Support/Await.h"
 #include "Support/ModelTest.h"
 
@@ -20,6 +19,7 @@
 #include <QApplication>
 #include <QLabel>
 
+#include <chrono>
 #include <initializer_list>
 #include <memory>
 
@@ -36,12 +36,13 @@ struct ExpectedText
 class ViewTest : public ModelTest
 {
 protected:
-    ViewTest();
+    explicit ViewTest(std::chrono::milliseconds startupThreshold = std::chrono::milliseconds{20});
     ~ViewTest() override;
 
     ContentView& window() { return *m_window; }
 
-    void enter(const Phase& phase);
+    /// Brings the model into a phase, and waits until the window shows it.
+    void enter(Phase::Kind kind);
     /// Installs a game and an engine that runs the script `engine`.
     void install(const QByteArray& engine);
     /// Shows everything that the window has: a failure report and the log.
@@ -96,6 +97,8 @@ protected:
     static void expectTexts(const QWidget& parent, std::initializer_list<ExpectedText> texts);
 
 private:
+    AppModel& startModelWith(std::chrono::milliseconds startupThreshold);
+
     template<typename Sheet>
     Sheet& sheet(QStringView title)
     {

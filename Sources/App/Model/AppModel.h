@@ -132,8 +132,6 @@ Q_SIGNALS:
     void flowEnded();
 
 private:
-    friend class AppModelAccess; // the tests' way to put the model into a state
-
     // State.
     Phase phaseOnDisk();
     void store(const QString& key, const QString& value);
