@@ -4,10 +4,12 @@ do, branch archives redirect to a host that sends them without a length, and rel
 that sends them with it."""
 
 import itertools
+import re
 import signal
 import subprocess
 from pathlib import Path
 
+from rig import engine
 from rig.authority import Authority
 from rig.waiting import wait_for
 
@@ -39,7 +41,7 @@ http {{
         server_name github.com;
         rewrite ^/brindlework-demos/tetherwalk/archive/refs/heads/(.*)\\.zip$
             https://codeload.github.com/brindlework-demos/tetherwalk/zip/refs/heads/$1 redirect;
-        rewrite ^/godotengine/godot/releases/download/3\\.5\\.3-stable/(.*)$
+        rewrite ^/godotengine/godot/releases/download/{version}/(.*)$
             https://objects.githubusercontent.com/release-asset/$1?signature=1 redirect;
         location / {{ return 404; }}
     }}
@@ -92,7 +94,7 @@ class WebHost:
         configuration.write_text(CONFIGURATION.format(
             folder=self._folder, certificate=self._authority.host_certificate,
             key=self._authority.host_key, branch_rate=limit(branch_rate),
-            release_rate=limit(release_rate)))
+            release_rate=limit(release_rate), version=re.escape(engine.VERSION)))
         log = self._folder / "error.log"
         self._server = subprocess.Popen(
             ["/usr/sbin/nginx", "-e", str(log), "-c", str(configuration), "-p", str(self._folder)])
