@@ -73,11 +73,13 @@ TEST(Paths, giveTwoDifferentTemporaryFoldersThatExist)
 
 TEST(Paths, useTheSystemsTemporaryFolderWhereTheNamedOneIsOfNoUse)
 {
-    for (const auto* named : {"/no/such/folder", "relative", ":/", "/", "/.", ""}) {
-        const EnvironmentScope temporary("TMPDIR", named);
-        EXPECT_EQ(QFileInfo(Paths::newTempDir().path()).path(), u"/tmp") << named;
-    }
     const TestFolder folder;
+    for (const auto& named :
+         {folder.path(u"missing"_s).toUtf8(), "relative"_ba, ":/"_ba, "/"_ba, "/."_ba, ""_ba}) {
+        const EnvironmentScope temporary("TMPDIR", named);
+        EXPECT_EQ(QFileInfo(Paths::newTempDir().path()).path(), u"/tmp")
+            << QString::fromUtf8(named);
+    }
     const EnvironmentScope temporary("TMPDIR", folder.path().toUtf8() + '/');
     EXPECT_EQ(QFileInfo(Paths::newTempDir().path()).path(), folder.path());
 }

@@ -22,11 +22,8 @@ protected:
     }
     void install(const QByteArray& engine)
     {
-        installGame();
+        enter(Phase::Kind::ready);
         installEngine(engine);
-        writeMarker();
-        model().refreshState();
-        EXPECT_EQ(model().phase(), Phase::ready());
     }
     void expectRefusal(void (AppModel::*action)())
     {
@@ -74,7 +71,7 @@ TEST_F(WithoutTheLock, nothingIsInstalledUntilItIsBack)
 {
     loseLock();
     expectRefusal(&AppModel::play);
-    EXPECT_EQ(requestsOf(gamePath), 0);
+    EXPECT_EQ(requestsOf(gamePath()), 0);
     EXPECT_EQ(home.names(u"data"_s), QStringList());
 
     ASSERT_TRUE(QDir().rmdir(lockFile));
@@ -94,7 +91,7 @@ TEST_F(WithoutTheLock, neitherTheEngineNorTheAssetsAreInstalled)
     writeMarker();
     ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/a.png.import"_s)));
     expectRefusal(&AppModel::play);
-    EXPECT_TRUE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_TRUE(QFile::exists(EngineManager().markerFile()));
 }
 
 TEST_F(WithoutTheLock, nothingIsRemovedOrReplaced)
@@ -136,7 +133,7 @@ TEST_F(WithoutTheLock, aGameThatClosesAtOnceKeepsItsMarker)
     loseLock();
     playToTheEnd();
     EXPECT_TRUE(model().phase().message().startsWith(u"The game closed after "));
-    EXPECT_TRUE(exists(u"Game/.setup-v2-3.5.3-stable"_s));
+    EXPECT_TRUE(QFile::exists(EngineManager().markerFile()));
 }
 
 TEST_F(WithoutTheLock, aGameIsKnownByTheFileThatIsThereWhenItStarts)
@@ -161,7 +158,7 @@ TEST_F(OnAnotherDisk, nothingIsInstalledBelowItsMountPointUntilThePlayerTriesOnc
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::needs(sentence));
     EXPECT_EQ(home.names(u"mounted"_s), QStringList());
-    EXPECT_EQ(requestsOf(gamePath), 1);
+    EXPECT_EQ(requestsOf(gamePath()), 1);
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
     EXPECT_EQ(home.names(u"mounted/Cavernyx Platformer"_s), (QStringList{u"Engine"_s, u"Game"_s}));
@@ -186,7 +183,7 @@ TEST_F(SetupTest, installsAnewWhatWasMerelyDeleted)
     ASSERT_TRUE(QDir(root()).removeRecursively());
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
-    EXPECT_EQ(requestsOf(gamePath), 2);
+    EXPECT_EQ(requestsOf(gamePath()), 2);
 }
 
 } // namespace

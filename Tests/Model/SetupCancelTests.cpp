@@ -85,7 +85,7 @@ TEST_F(SetupCancelTest, cancelsDuringTheImportAndEndsTheEngine)
 
 TEST_F(SetupCancelTest, startsNoEngineWhenCancelledWhileTheImportIsAnnounced)
 {
-    serveEngine("echo up; exec sleep 60");
+    serveScript("echo up; exec sleep 60");
     QObject::connect(&model(), &AppModel::changed, &model(), [this] {
         if (model().phase() == Phase::Kind::settingUp)
             model().cancelSetup();

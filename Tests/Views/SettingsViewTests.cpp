@@ -183,7 +183,7 @@ TEST_F(SettingsViewTest, offersTheSavesOnceThereAreAny)
     EXPECT_EQ(desktop.opened.size(), 1);
     EXPECT_TRUE(settings().isVisible());
 
-    ASSERT_TRUE(QDir(home.path(u"data/godot/app_userdata/Swing"_s)).removeRecursively());
+    ASSERT_TRUE(QDir(home.path(u"data/godot/app_userdata/Tether"_s)).removeRecursively());
     control(u"Show saves").click();
     EXPECT_FALSE(control(u"Show saves").isEnabled());
     EXPECT_TRUE(note.isVisible());
