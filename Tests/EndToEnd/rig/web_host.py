@@ -17,6 +17,9 @@ ENTRY = "github.com"
 BRANCHES = "codeload.github.com"
 RELEASES = "objects.githubusercontent.com"
 NAMES = [ENTRY, BRANCHES, RELEASES]
+# Leads to the same server, whose certificate does not name it.
+UNCERTIFIED = "release-assets.githubusercontent.com"
+BRANCH_FOLDER = "https://codeload.github.com/brindlework-demos/tetherwalk/zip/refs/heads/"
 
 CONFIGURATION = """
 daemon off;
@@ -40,7 +43,7 @@ http {{
         listen 127.0.0.1:443 ssl http2;
         server_name github.com;
         rewrite ^/brindlework-demos/tetherwalk/archive/refs/heads/(.*)\\.zip$
-            https://codeload.github.com/brindlework-demos/tetherwalk/zip/refs/heads/$1 redirect;
+            {branch_target} redirect;
         rewrite ^/godotengine/godot/releases/download/{version}/(.*)$
             https://objects.githubusercontent.com/release-asset/$1?signature=1 redirect;
         location / {{ return 404; }}
@@ -48,6 +51,7 @@ http {{
     server {{
         listen 127.0.0.1:443 ssl http2;
         server_name codeload.github.com;
+        location = /closed {{ return 444; }}
         location /brindlework-demos/tetherwalk/zip/refs/heads/ {{
             alias {folder}/branches/;
             default_type application/zip;
@@ -84,9 +88,10 @@ class WebHost:
         self.releases.mkdir()
         self.branch_archive = folder / "branches" / "master"
 
-    def start(self, branch_rate: str = "", release_rate: str = "") -> None:
+    def start(self, branch_rate: str = "", release_rate: str = "",
+              branch_target: str = BRANCH_FOLDER + "$1") -> None:
         """The rates limit the two archives' bytes per second, as in "10k"; the list comes at once.
-        """
+        The game's address redirects to `branch_target`."""
         def limit(rate: str) -> str:
             return f"limit_rate {rate};" if rate else ""
 
@@ -94,7 +99,8 @@ class WebHost:
         configuration.write_text(CONFIGURATION.format(
             folder=self._folder, certificate=self._authority.host_certificate,
             key=self._authority.host_key, branch_rate=limit(branch_rate),
-            release_rate=limit(release_rate), version=re.escape(engine.VERSION)))
+            release_rate=limit(release_rate), branch_target=branch_target,
+            version=re.escape(engine.VERSION)))
         log = self._folder / "error.log"
         self._server = subprocess.Popen(
             ["/usr/sbin/nginx", "-e", str(log), "-c", str(configuration), "-p", str(self._folder)])

@@ -24,7 +24,8 @@ class World:
         self._scratch = scratch
         self.home = Home(scratch / "home")
         authority = Authority(scratch / "authority", web_host.NAMES)
-        private_world.redirect_hosts(scratch, authority.certificate, web_host.NAMES)
+        private_world.redirect_hosts(
+            scratch, authority.certificate, [*web_host.NAMES, web_host.UNCERTIFIED])
         private_world.hide_displays(scratch)
         self.web = WebHost(scratch / "web", authority)
         self.opener = Opener(self.home.programs)

@@ -16,6 +16,8 @@ QString certificateReason(const FailedRequest& request)
         return PlatformError::tr("The certificate of “%1” has expired. Check the date and time of "
                                  "this computer.")
             .arg(request.host);
+    // libcurl compares the names itself, before it asks for the result of the chain.
+    case X509_V_ERR_UNSPECIFIED:
     case X509_V_OK:
     case X509_V_ERR_HOSTNAME_MISMATCH:
         return PlatformError::tr("The certificate of “%1” belongs to another server. Another "
