@@ -16,7 +16,7 @@ inline bool waitUntil(const std::function<bool()>& condition,
                       std::chrono::milliseconds limit = std::chrono::seconds{20})
 {
     const auto held = QTest::qWaitFor(condition, static_cast<int>(limit.count()));
-    EXPECT_TRUE(held) << "It did not come about in time.";
+    EXPECT_TRUE(held) << "Timed out.";
     return held;
 }
 

@@ -49,7 +49,7 @@ protected:
             });
         });
         if (status == noOwnMounts)
-            GTEST_SKIP() << "This system lets nobody here mount anything.";
+            GTEST_SKIP() << "This system allows no mount here.";
         EXPECT_EQ(status, 0);
         EXPECT_FALSE(m_folder.exists(u"Game"_s));
     }

@@ -11,7 +11,7 @@ namespace Palettes {
 [[nodiscard]] QPalette light();
 [[nodiscard]] QPalette dark();
 
-/// Gives the application the palette for `preference`. Without a preference it is the platform
+/// Sets the application's palette for `preference`. Without a preference it is the platform
 /// theme's own palette, or ours where the theme has none.
 void apply(ColorScheme::Preference preference);
 

@@ -79,7 +79,7 @@ bool RepeatedPressFilter::isPropagated(const Press& press) const
 
 bool RepeatedPressFilter::continuesSeries(const Press& press) const
 {
-    // Whoever presses a key in the next window has seen that window.
+    // A player who presses a key in the next window has seen that window.
     const auto isSameWindow =
         m_last.receiver && m_last.receiver->window() == press.receiver->window();
     if (press.key != 0 && !press.isAutoRepeat && !isSameWindow)

@@ -23,7 +23,7 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
-/// `color`, mixed with as little of `admixture` as gives it the minimum contrast to `other`.
+/// Returns `color` mixed with just enough of `admixture` for the minimum contrast to `other`.
 QColor mixed(const QColor& color, const QColor& admixture, const QColor& other)
 {
     for (auto percent = 0; percent < 100; percent += 2) {

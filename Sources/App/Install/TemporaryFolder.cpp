@@ -57,7 +57,7 @@ TemporaryFolder::TemporaryFolder(const QString& path)
             throw PlatformError::fromErrno(
                 PlatformError::tr("create the temporary folder “%1”").arg(path), errno);
         m_lock = openFolder(name);
-        // A file system without locks still gives a usable folder; it is then never cleared by
+        // Without locks of the file system the folder is usable still; it is then never cleared by
         // others. A launcher that clears up may have found the folder before it was locked, and has
         // removed it when the lock comes.
         ::flock(m_lock.get(), LOCK_EX);

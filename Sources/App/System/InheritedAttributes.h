@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The attributes of the process that come from whoever started it, where they would break the
+/// The attributes of the process that come from its parent process, where they would break the
 /// launcher: closed standard descriptors, a low limit of open files, and the treatment of signals.
 namespace InheritedAttributes {
 
@@ -14,8 +14,8 @@ constexpr int minOpenFiles = 64;
 /// To be called first of all. Returns false if fewer than `minOpenFiles` are allowed.
 [[nodiscard]] bool replace();
 
-/// Gives a child back the inherited limit of open files and the end by SIGXFSZ, if replace() has
-/// changed them. To be called between fork and exec: it only makes system calls.
+/// Restores the inherited limit of open files and the action of SIGXFSZ in a child, if replace()
+/// has changed them. To be called between fork and exec: it only makes system calls.
 void restoreInChild() noexcept;
 
 } // namespace InheritedAttributes

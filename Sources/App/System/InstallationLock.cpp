@@ -50,8 +50,8 @@ InstallationLock::~InstallationLock()
 
 void InstallationLock::release()
 {
-    // The file goes before the lock does: whoever waits for the lock finds it gone then, and makes
-    // a new one.
+    // The file goes before the lock does: a process that waits for the lock finds it gone, and
+    // makes a new one.
     if (isHeld() && !isGameRunning())
         QFile::remove(m_path);
     m_file.close();

@@ -5,8 +5,8 @@
 
 #include <QString>
 
-/// How the processes that use one installation know of each other: at most one launcher, and the
-/// game, which may go on without its launcher when that is killed.
+/// Says which processes use an installation: at most one launcher, and the game, which may outlive
+/// a launcher that is killed.
 ///
 /// Both are record locks (fcntl) on a file that nothing else opens. Such a lock belongs to one
 /// process: it stays when the process becomes another program, is not passed on to what the process
@@ -31,14 +31,13 @@ public:
     bool tryAcquire();
     /// As tryAcquire(), but throws PlatformError unless this process is the launcher then.
     void acquire();
-    /// Ends this launcher's claim and removes the file, unless a game still uses it. From then on
-    /// this knows of nobody, as where locks do not work.
+    /// Releases the lock, and removes the file unless a game still uses it. From then on this
+    /// object holds nothing and sees no game.
     void release();
-    /// Whether this process is the launcher, so that what is left behind by earlier ones is
-    /// nobody's.
+    /// Whether this process is the launcher. Stale folders then belong to no running process.
     [[nodiscard]] bool isHeld() const;
 
-    /// Whether a game runs that another process than this one is.
+    /// Whether another process runs as the game.
     [[nodiscard]] bool isGameRunning() const;
 
     /// What to hand to holdAsGame(); negative where locks do not work.

@@ -21,7 +21,7 @@ constexpr auto symbolSize = QSize(76, 56);
 constexpr auto shadowRadius = 6;
 constexpr auto shadowMargin = 2 * shadowRadius;
 
-/// Gives a text one colour for light and dark, as the banner looks the same in both.
+/// Sets one colour of a text for light and dark, as the banner looks the same in both.
 void setColor(TextLabel& text, const QColor& color)
 {
     text.setWordWrap(false);

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Puts a process into network and mount namespaces of its own, so that a scenario can decide what
-the host names of the real downloads mean and whom the system trusts, and nobody else sees any of
+the host names of the real downloads mean and whom the system trusts, and no other process sees any of
 it. An ordinary user gets there through a user namespace."""
 
 import ctypes
@@ -91,7 +91,7 @@ def end_descendants() -> None:
                 os.kill(pid, signal.SIGKILL)
             except ProcessLookupError:
                 pass
-        # Whoever was about to start another one when it was listed leaves that one to the next
+        # A process that was about to start another one when it was listed leaves that one to the next
         # round.
         try:
             ended, _ = os.waitpid(-1, os.WNOHANG)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Whoever does not see the window hears of each step, of its progress and of a failure, wherever
+"""A player who does not see the window hears of each step, of its progress and of a failure, wherever
 the keyboard is."""
 
 from rig import setup
