@@ -29,8 +29,8 @@ if(CAVERNYX_SANITIZERS)
 endif()
 
 # cavernyx_precompile(<target> <header>...): compiles the heavy headers of the target's libraries
-# once. Off by default, so that a source that forgets an include does not go unnoticed; the presets
-# that compile everything several times over turn it on.
+# once. Off by default, so that a source that forgets an include does not go unnoticed: the sanitizers'
+# builds turn it on, and ./test compiles the launcher's sources without it first.
 option(CAVERNYX_PRECOMPILED_HEADERS "Compile the libraries' headers once for each target" OFF)
 function(cavernyx_precompile target)
     if(CAVERNYX_PRECOMPILED_HEADERS)

@@ -2,6 +2,7 @@
 #include "Controls/AccessibleRole.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace {
 
