@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Model/SetupTest.h"
 
+#include "Support/Await.h"
+
 #include "System/DiskSpace.h"
 
 #include <QDir>
@@ -129,6 +131,8 @@ TEST_F(WithoutTheLock, aCompleteInstallationIsPlayed)
 
 TEST_F(WithoutTheLock, aGameThatClosesAtOnceKeepsItsMarker)
 {
+    durations.startupThreshold = std::chrono::hours{1};
+    startModel();
     install("exit 1");
     loseLock();
     playToTheEnd();
@@ -143,6 +147,7 @@ TEST_F(WithoutTheLock, aGameIsKnownByTheFileThatIsThereWhenItStarts)
     model().play();
     waitForPhase(Phase::Kind::playing);
     EXPECT_TRUE(lock.isHeld());
+    EXPECT_TRUE(waitUntil([this] { return lock.isGameRunning(); }));
     model().stopGame();
     waitForFlow();
 }

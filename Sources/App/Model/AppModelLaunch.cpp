@@ -23,12 +23,12 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 {
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
+    // The next launcher looks for the game's lock in the file that is there now.
+    m_lock.tryAcquire();
     // Before the phase is announced: a stop that is asked for in that moment reaches the game too.
     m_runner.process = std::make_shared<ManagedProcess>(
         ManagedProcess::Lifetime::mayOutliveLauncher, m_durations.killTimeout, m_lock.descriptor());
     enterPlaying(tr("Step 4 of 4 · Play"));
-    // The next launcher looks for the game's lock in the file that is there now.
-    m_lock.tryAcquire();
 
     const auto start = std::chrono::steady_clock::now();
     const auto status = co_await runGame(engine, arguments);
