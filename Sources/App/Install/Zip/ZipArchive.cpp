@@ -5,8 +5,12 @@
 #include "System/FileDescriptor.h"
 #include "System/InputFile.h"
 
+#include <QtEndian>
+
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <limits>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -24,9 +28,15 @@ ZipError unreadable(const QString& reason)
     return ZipError(u"The archive cannot be read: %1."_s.arg(reason));
 }
 
-ZipError damaged(const QString& shownName)
+/// Throws that the entry cannot be read, or else that it is damaged.
+[[noreturn]] void throwFailure(zip_error_t& error, const QString& shownName)
 {
-    return ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
+    if (zip_error_system_type(&error) == ZIP_ET_SYS) {
+        throw PlatformError::fromErrno(
+            PlatformError::tr("read the archive entry “%1”").arg(shownName),
+            zip_error_code_system(&error));
+    }
+    throw ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
 }
 
 /// Why the archive cannot be opened. Throws PlatformError if the file cannot be read at all.
@@ -49,6 +59,36 @@ QString openFailure(int error, const InputFile& file)
     default:
         return u"it is damaged"_s;
     }
+}
+
+QByteArray bytesAt(const InputFile& file, qint64 offset, qsizetype size)
+{
+    QByteArray bytes(size, '\0');
+    bytes.truncate(static_cast<qsizetype>(
+        file.readAt(offset, bytes.data(), static_cast<std::size_t>(bytes.size()))));
+    return bytes;
+}
+
+template<typename Number>
+Number numberAt(const QByteArray& bytes, qsizetype offset)
+{
+    const auto hasNumber = offset >= 0 && offset + qsizetype(sizeof(Number)) <= bytes.size();
+    return hasNumber ? qFromLittleEndian<Number>(bytes.constData() + offset) : Number();
+}
+
+/// The number of entries that the records at the archive's end announce: a record of 22 bytes and a
+/// comment; for more than 65,534 entries, a locator of 20 bytes before it leads to a larger record.
+quint64 announcedEntryCount(const InputFile& file)
+{
+    constexpr qint64 maxEndSize = 20 + 22 + 65'535;
+    const auto start = std::max<qint64>(0, file.size() - maxEndSize);
+    const auto end = bytesAt(file, start, static_cast<qsizetype>(file.size() - start));
+    const auto record = end.lastIndexOf("PK\5\6");
+    const auto count = numberAt<quint16>(end, record + 10);
+    if (record < 20 || count != std::numeric_limits<quint16>::max())
+        return count;
+    const auto largeRecord = numberAt<qint64>(end, record - 20 + 8);
+    return largeRecord < 0 ? count : numberAt<quint64>(bytesAt(file, largeRecord, 56), 32);
 }
 
 /// The Unix mode; 0 when the archive was made on a system without modes.
@@ -94,12 +134,15 @@ QByteArrayView ZipArchive::Content::read(std::span<char> buffer)
 {
     const auto count = zip_fread(m_file.get(), buffer.data(), buffer.size());
     if (count < 0)
-        throw damaged(m_shownName);
+        throwFailure(*zip_file_get_error(m_file.get()), m_shownName);
     return {buffer.data(), static_cast<qsizetype>(count)};
 }
 
 ZipArchive::ZipArchive(const InputFile& file)
 {
+    // The library reads the whole directory into memory.
+    if (announcedEntryCount(file) > maxEntries)
+        throw ZipError(u"The archive has too many files and folders."_s);
     // The library closes the descriptor that it is given.
     FileDescriptor descriptor(::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0));
     int error = ZIP_ER_OPEN;
@@ -149,6 +192,6 @@ ZipArchive::Content ZipArchive::open(quint64 index, const ZipEntry& entry) const
     content.m_shownName = entry.shownName();
     content.m_file.reset(zip_fopen_index(m_zip.get(), index, 0));
     if (!content.m_file)
-        throw damaged(content.m_shownName);
+        throwFailure(*zip_get_error(m_zip.get()), content.m_shownName);
     return content;
 }

@@ -14,7 +14,7 @@ struct zip_file;
 
 /// A zip archive that is open for reading.
 ///
-/// It goes by the directory at the archive's end. An archive whose local headers contradict the
+/// It reads the directory at the archive's end. An archive whose local headers contradict the
 /// directory, and one without a directory, a truncated one above all, is refused.
 class ZipArchive final
 {
@@ -37,7 +37,11 @@ public:
         QString m_shownName;
     };
 
-    /// Throws ZipError if `file` is no zip archive, PlatformError if it cannot be read.
+    /// Far above any real game.
+    static constexpr quint64 maxEntries = 500'000;
+
+    /// Throws ZipError if `file` is no zip archive or has more than `maxEntries`, PlatformError if
+    /// it cannot be read.
     explicit ZipArchive(const InputFile& file);
 
     [[nodiscard]] quint64 entryCount() const;

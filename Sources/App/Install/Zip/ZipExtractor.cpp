@@ -8,6 +8,7 @@
 #include "System/Errors.h"
 #include "System/InputFile.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <optional>
@@ -26,7 +27,8 @@ constexpr std::size_t bufferSize = 131'072;
 
 /// Returns the entries once all of them have been found to be harmless.
 std::vector<ZipEntry> vetted(const ZipArchive& archive, qint64 archiveSize,
-                             std::optional<qint64> freeSpace, const std::stop_token& stop)
+                             const QString& destination, std::optional<qint64> freeSpace,
+                             const std::stop_token& stop)
 {
     if (archive.entryCount() == 0)
         throw ZipError(u"The archive is empty."_s);
@@ -41,9 +43,10 @@ std::vector<ZipEntry> vetted(const ZipArchive& archive, qint64 archiveSize,
     vetting.checkLinks(stop);
     if (freeSpace && vetting.totalSize() > *freeSpace) {
         throw ZipError(
-            u"The archive unpacks to %1, which is %2 more than the disk has room for."_s.arg(
+            u"The archive unpacks to %1, which is %2 more than what is free in “%3”."_s.arg(
                 formattedByteCount(vetting.totalSize()),
-                formattedByteCount(vetting.totalSize() - *freeSpace)));
+                formattedByteCount(vetting.totalSize() - *freeSpace),
+                QFileInfo(destination).path()));
     }
     return entries;
 }
@@ -112,7 +115,8 @@ int ZipExtractor::extract(const InputFile& file, const QString& destination, con
     try {
         ZipTree tree(destination);
         const ZipArchive archive(file);
-        unpack(archive, vetted(archive, file.size(), tree.freeSpace(), stop), tree, stop);
+        unpack(archive, vetted(archive, file.size(), destination, tree.freeSpace(), stop), tree,
+               stop);
         return 0;
     } catch (const ZipError& error) {
         log(error.message());

@@ -36,7 +36,7 @@ public:
     /// requested.
     void makeLinks(const std::stop_token& stop);
 
-    /// The free bytes of the file system; nothing if it does not tell.
+    /// The free bytes of the file system; nothing if unknown.
     [[nodiscard]] std::optional<qint64> freeSpace() const;
 
 private:

@@ -21,7 +21,7 @@ constexpr qsizetype maxDepth = 128;
 /// Far above any real game. Names can imply a hundred folders each, so that what is remembered of
 /// an archive could otherwise take fifty times the memory that its directory does.
 constexpr std::size_t maxPaths = 500'000;
-constexpr std::size_t maxRememberedBytes = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t maxPathBytes = std::size_t{256} * 1024 * 1024;
 /// As many links as the system itself would follow in one path.
 constexpr int maxLinkDepth = 40;
 /// Some seconds of work. A chain of long links could otherwise take hours to follow.
@@ -141,7 +141,7 @@ void ZipVetting::addFoldersAbove(const ZipEntry& entry, const std::string& path)
 void ZipVetting::countPath(std::size_t bytes)
 {
     m_rememberedBytes += bytes;
-    if (m_paths.size() > maxPaths || m_rememberedBytes > maxRememberedBytes)
+    if (m_paths.size() > maxPaths || m_rememberedBytes > maxPathBytes)
         throw ZipError(u"The archive has too many files and folders."_s);
 }
 

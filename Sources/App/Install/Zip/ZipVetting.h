@@ -26,8 +26,8 @@ public:
     /// because some share their content.
     void checkOverlap(qint64 archiveSize) const;
 
-    /// Call it after the last entry. Throws ZipError when one leads
-    /// outside of the folder, through others or not; and Cancelled when `stop` is requested.
+    /// Call it after the last entry. Throws ZipError when a link leads outside of the folder,
+    /// through others or not; and Cancelled when `stop` is requested.
     void checkLinks(const std::stop_token& stop) const;
 
     /// The bytes that the files will take.
