@@ -38,10 +38,10 @@ QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
 
 /// Vouches for the assets in the folder of `path`, which have to be on the disk before that. A
 /// marker that cannot be written only means that the next Play imports once more. Blocks. Throws
-/// PlatformError when the disk did not keep the assets.
-void createMarker(const QString& path)
+/// PlatformError when the disk did not keep the assets, or Cancelled when `stop` is requested.
+void createMarker(const QString& path, const std::stop_token& stop)
 {
-    syncTree(QFileInfo(path).path());
+    syncTree(QFileInfo(path).path(), stop);
     QFile file(path);
     static_cast<void>(file.open(QIODevice::WriteOnly));
 }
@@ -170,7 +170,8 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
                            .arg(after)
                            .arg(status));
     }
-    const auto marking = offThread([path = manager.markerFile()] { createMarker(path); });
+    const auto marking =
+        offThread([path = manager.markerFile(), stop] { createMarker(path, stop); });
     co_await marking;
     throwIfCancelled(stop);
 }

@@ -53,18 +53,19 @@ void throwIfNotMoved(int error, const QString& from, const QString& to)
 
 /// Moves the old folder out of the way, or deletes it where it cannot be moved: a folder of a lower
 /// layer of an overlay file system.
-void moveAside(const QString& target, const QString& aside)
+void moveAside(const QString& target, const QString& aside, const std::stop_token& stop)
 {
     const auto error = FileTree::rename(target, aside);
     if (error == EXDEV)
-        FileTree::remove(target);
+        FileTree::remove(target, stop);
     else if (error != ENOENT)
         throwIfNotMoved(error, target, aside);
 }
 
-void replaceInTwoSteps(const QString& target, const QString& staging, const QString& aside)
+void replaceInTwoSteps(const QString& target, const QString& staging, const QString& aside,
+                       const std::stop_token& stop)
 {
-    moveAside(target, aside);
+    moveAside(target, aside, stop);
     const auto error = FileTree::rename(staging, target);
     if (error == 0) {
         std::ignore = FileTree::rename(aside, staging);
@@ -88,9 +89,9 @@ bool FileTree::exists(const QString& path)
 
 int FileTree::rename(const QString& from, const QString& to) noexcept
 {
-    const auto old = QFile::encodeName(from);
-    const auto fresh = QFile::encodeName(to);
-    return std::rename(old.constData(), fresh.constData()) == 0 ? 0 : errno;
+    const auto source = QFile::encodeName(from);
+    const auto destination = QFile::encodeName(to);
+    return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
 }
 
 void FileTree::remove(const QString& path, const std::stop_token& stop)
@@ -113,7 +114,7 @@ void FileTree::replace(const QString& target, const QString& staging, const QStr
     syncTree(staging, stop);
     throwIfCancelled(stop);
     if (!exchangePaths(staging, target))
-        replaceInTwoSteps(target, staging, aside);
+        replaceInTwoSteps(target, staging, aside, stop);
     // The new folder stands. The old one may go only when a power cut can no longer bring it back.
-    syncDirectory(QFileInfo(target).path());
+    syncDirectory(QFileInfo(target).path(), stop);
 }

@@ -27,9 +27,9 @@ FileDescriptor openFolder(const QString& path)
     throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
 }
 
-/// The error of writing an open file or folder to the disk; 0 for none. Where a program cannot ask
-/// for it, what is written is as durable as it will ever be, which is no reason to refuse it.
-int write(const FileDescriptor& file)
+/// Writes an open file or folder to the disk. Returns the error number, 0 for none. A file system
+/// without fsync() is no failure.
+int syncFile(const FileDescriptor& file)
 {
     return ::fsync(file.get()) == 0 || isUnsupported(errno) ? 0 : errno;
 }
@@ -41,11 +41,11 @@ int writeEntry(const DirectoryWalk::Entry& entry)
         return 0; // A link lies in its folder, which is written itself.
     const FileDescriptor file(
         ::openat(entry.folder, entry.name.data(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    return file.isOpen() ? write(file) : errno;
+    return file.isOpen() ? syncFile(file) : errno;
 }
 
 /// Has the drive, too, write what it holds in its own memory, where fsync() does not include that.
-bool emptyDriveCache([[maybe_unused]] const FileDescriptor& file)
+bool flushDriveCache([[maybe_unused]] const FileDescriptor& file)
 {
 #if defined(F_FULLFSYNC)
     return ::fcntl(file.get(), F_FULLFSYNC) == 0 || isUnsupported(errno);
@@ -89,13 +89,20 @@ void syncFiles(const QString& path, const std::stop_token& stop)
     if (error != 0)
         throwNotWritten(path, error);
     const auto folder = openFolder(path);
-    if (!folder.isOpen() || write(folder) != 0 || !emptyDriveCache(folder))
+    if (!folder.isOpen() || syncFile(folder) != 0 || !flushDriveCache(folder))
         throwNotWritten(path, errno);
 }
 
-void syncDirectory(const QString& path) noexcept
+void syncDirectory(const QString& path, const std::stop_token& stop) noexcept
 {
-    const auto folder = openFolder(path);
-    if (folder.isOpen())
-        ::fsync(folder.get());
+    try {
+        runAbandonable(
+            [path] {
+                const auto folder = openFolder(path);
+                return folder.isOpen() ? ::fsync(folder.get()) : 0;
+            },
+            std::chrono::hours(24), stop);
+    } catch (const PlatformError&) {
+        // No thread can be started.
+    }
 }

@@ -5,12 +5,12 @@
 
 #include <stop_token>
 
-/// Waits until all that was written below the folder at `path`, and the names there, would outlive
-/// a power cut. A file system may otherwise commit a later rename before the content of the files.
+/// Waits until all that was written below the folder at `path`, and the names there, survive a
+/// power cut. A file system may otherwise commit a later rename before the content of the files.
 ///
 /// Blocks, for as long as the disk takes, and so belongs off the main thread. Throws PlatformError
 /// when the folder cannot be opened or the disk could not keep what was written. A file system that
-/// knows no such request is taken at its word. Throws Cancelled as soon as `stop` is requested; the
+/// does not support it counts as written. Throws Cancelled as soon as `stop` is requested; the
 /// disk then goes on by itself.
 void syncTree(const QString& path, const std::stop_token& stop = {});
 
@@ -18,6 +18,6 @@ void syncTree(const QString& path, const std::stop_token& stop = {});
 /// the end when something fails and then throws the first failure.
 void syncFiles(const QString& path, const std::stop_token& stop = {});
 
-/// Waits until the names in the folder at `path` would outlive a power cut, as far as the file
-/// system can promise it: a failure is ignored. Blocks.
-void syncDirectory(const QString& path) noexcept;
+/// Waits until the names in the folder at `path` survive a power cut, as far as the file
+/// system can promise it: a failure is ignored. Returns as soon as `stop` is requested. Blocks.
+void syncDirectory(const QString& path, const std::stop_token& stop = {}) noexcept;
