@@ -9,6 +9,7 @@
 #include "System/FileTree.h"
 #include "System/OutputFile.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -32,14 +33,15 @@ QString fileNameOf(const QUrl& url)
 class RoomCheck final
 {
 public:
-    RoomCheck(const QUrl& url, QString folder, const OutputFile& file)
+    /// `folder` is deleted after a failure, so that the sentences name the one that it lies in.
+    RoomCheck(const QUrl& url, const QString& folder, const OutputFile& file)
         : m_url(url)
-        , m_folder(std::move(folder))
+        , m_folder(QFileInfo(folder).path())
         , m_free(freeSpace(file.descriptor()))
     {
     }
 
-    void announced(qint64 length) const
+    void checkLength(qint64 length) const
     {
         if (m_free && length > *m_free) {
             throw PlatformError(
@@ -50,11 +52,12 @@ public:
     }
 
     /// Without a length, a download may not take all that is free: others need room, too.
-    void received(qint64 size) const
+    void checkReceived(qint64 size) const
     {
         if (m_free && size > *m_free - std::min(reserve, *m_free / 2)) {
             throw PlatformError(PlatformError::tr("The download of “%1” takes up all that is free "
-                                                  "in “%2”. Make room there and try again.")
+                                                  "in “%2”, but for a reserve. Make room there and "
+                                                  "try again.")
                                     .arg(m_url.toDisplayString(), m_folder));
         }
     }
@@ -103,14 +106,14 @@ InputFile FileDownloader::start(const QUrl& url, const QString& into,
                             .arg(QString::number(status), url.toString(QUrl::FullyEncoded)));
                 }
                 total = length;
-                room.announced(length);
+                room.checkLength(length);
             },
         .take =
             [&](QByteArrayView piece) {
                 file.write(piece);
                 received += piece.size();
                 if (total < 0)
-                    room.received(received);
+                    room.checkReceived(received);
                 m_onProgress(DownloadProgress::after(std::chrono::steady_clock::now() - start,
                                                      received, total));
             }};

@@ -4,7 +4,8 @@
 #include <cerrno>
 
 PlatformError::PlatformError(const QString& sentence)
-    : std::runtime_error(sentence.toStdString())
+    // The name of a file may hold a line feed, but the sentence is one line of the log.
+    : std::runtime_error(QString(sentence).replace(u'\n', u' ').toStdString())
 {
 }
 

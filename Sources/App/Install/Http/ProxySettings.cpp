@@ -89,6 +89,8 @@ QString addressFromDesktop(const QUrl& url, const std::stop_token& stop)
 QString shownNameOf(const QString& address)
 {
     const QUrl url(address.contains("://"_L1) ? address : u"http://"_s + address);
+    if (!url.isValid() || url.host().isEmpty())
+        return address.section(u'@', -1); // Malformed, without a password.
     return url.port() < 0 ? url.host() : u"%1:%2"_s.arg(url.host()).arg(url.port());
 }
 

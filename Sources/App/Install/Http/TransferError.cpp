@@ -92,8 +92,15 @@ QString reason(const FailedRequest& request)
             .arg(request.host);
     case CURLE_OUT_OF_MEMORY:
         return PlatformError::tr("There is not enough memory. Close other programs and try again.");
-    default:
+    case CURLE_WEIRD_SERVER_REPLY:
+    case CURLE_WRITE_ERROR: // More came with a redirect than is read.
+    case CURLE_HTTP2:
+    case CURLE_HTTP2_STREAM:
+    case CURLE_UNSUPPORTED_PROTOCOL:
         return PlatformError::tr("“%1” sent an answer that is not understood. Try again later.")
+            .arg(request.host);
+    default:
+        return PlatformError::tr("The transfer from “%1” failed. Try again later.")
             .arg(request.host);
     }
 }
