@@ -119,7 +119,8 @@ void AppModel::removeRoot()
 void AppModel::concludeRemoval(const QString& failure)
 {
     m_deletion = QtFuture::makeReadyFuture(QString());
-    if (failure.isEmpty())
+    // Neither a cancelled removal nor a flow that has begun meanwhile loses its lines.
+    if (failure.isEmpty() && !isFlowRunning() && !FileTree::exists(Paths::root()))
         m_log.clear();
     // A flow that began meanwhile has waited for this, and tells the failure itself.
     if (isFlowRunning())
