@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// A temporary folder that is removed, with everything in it, when its owner goes away.
+/// A temporary folder that is removed, with everything in it, in the destructor.
 ///
 /// The folder itself is locked (flock). The lock ends with the process, so a later start can tell a
 /// folder in use from a stale one.

@@ -26,7 +26,7 @@ namespace {
 const auto fullscreenKey = u"fullscreen"_s;
 const auto resolutionKey = u"resolution"_s;
 
-constexpr int logBound = 2000;
+constexpr int maxLogLines = 2000;
 
 int wholeSeconds(std::chrono::milliseconds duration)
 {
@@ -39,7 +39,7 @@ AppModel::AppModel(Desktop& desktop, InstallationLock& lock, const Durations& du
     : m_desktop(desktop)
     , m_lock(lock)
     , m_durations(durations)
-    , m_log(logBound, durations.logFlushInterval)
+    , m_log(maxLogLines, durations.logFlushInterval)
     , m_runner(durations)
 {
     m_fullscreen = StoredSettings::value(fullscreenKey).toBool();

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-/// Where the launcher stands. A value: two phases are equal when their kinds are equal and, for
+/// The launcher's state. A value: two phases are equal when their kinds are equal and, for
 /// `needs`, their messages are.
 class Phase final
 {

@@ -8,11 +8,11 @@
 #include <mutex>
 #include <optional>
 
-/// Carries one download's progress from the network thread to the thread it was made on.
+/// Carries one download's progress from its worker thread to the thread the relay was made on.
 ///
 /// A fast download reports thousands of times a second. The relay passes on the newest report, at
-/// most twenty times a second, so that the window stays smooth. Reports
-/// that are still waiting when the relay is deleted are dropped.
+/// most twenty times a second, so that the window stays smooth. Reports that are still waiting when
+/// the relay is deleted are dropped.
 class ProgressRelay final : public QObject
 {
     Q_OBJECT

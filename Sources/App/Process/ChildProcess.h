@@ -28,7 +28,7 @@ public:
         /// Where standard output and standard error go.
         int output = -1;
         Lifetime lifetime = Lifetime::endsWithLauncher;
-        /// With the descriptor of a InstallationLock, the child counts as the running game.
+        /// With the descriptor of an InstallationLock, the child counts as the running game.
         int installationLock = -1;
     };
 

@@ -11,7 +11,7 @@ struct ProjectInfo
 {
     /// The folder that holds `project.godot`.
     QString folder;
-    QString name = QStringLiteral("Game");
+    QString name = QString::fromUtf8("Game");
     /// The file's `config_version`; 4 for Godot 3.1 to 3.6. Never 0 in a record that was read.
     qint64 configVersion = 0;
     /// A "res://" path; empty when absent.

@@ -40,7 +40,7 @@ namespace {
 void prepare()
 {
     QCoreApplication::setApplicationName(GameFacts::launcherName.toString());
-    QCoreApplication::setApplicationVersion(QStringLiteral(CAVERNYX_VERSION));
+    QCoreApplication::setApplicationVersion(QString::fromUtf8(CAVERNYX_VERSION));
     QGuiApplication::setDesktopFileName(GameFacts::applicationId.toString());
     // Fractional scales are not rounded, so that sizes stay exact.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -104,8 +104,7 @@ InstallationLock& installationLock()
     return lock;
 }
 
-/// Lets the next start go on. The application's destructor can take long after this: it waits for
-/// pending lookups of host names.
+/// Lets the next start go on while this process is still ending.
 void releaseLock()
 {
     // All children have ended. What else changes the installation runs on this pool.

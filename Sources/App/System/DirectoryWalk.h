@@ -37,7 +37,7 @@ using Visit = std::function<void(const Entry&)>;
 /// folder at `path` cannot be read.
 bool walk(const QString& path, Hidden hidden, const std::stop_token& stop, const Visit& visit);
 
-/// The same by several threads, one for each visitor: each entry is visited by one of them. None of
+/// Like walk(), with one thread for each visitor: each entry is visited by one of them. None of
 /// them may throw.
 bool walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
                   std::span<const Visit> visitors);

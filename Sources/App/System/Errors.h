@@ -48,8 +48,7 @@ public:
     [[nodiscard]] QString message() const { return QString::fromUtf8(what()); }
 };
 
-/// Whether an error number says that the system or the file system knows no such request, and not
-/// that the request failed.
+/// Whether the error number means that the system or the file system does not support a request.
 [[nodiscard]] constexpr bool isUnsupported(int error)
 {
     return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == ENOTSUP;
