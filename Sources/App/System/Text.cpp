@@ -12,10 +12,9 @@ std::optional<QString> Text::readFile(const QString& path, qint64 maxSize)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > maxSize)
         return std::nullopt;
-    const auto bytes = file.read(maxSize + 1);
-    if (file.error() != QFileDevice::NoError || bytes.size() > maxSize)
-        return std::nullopt;
-    if (!QByteArrayView(bytes).isValidUtf8())
+    // QFile allocates as much as it is asked for, so not the maximum.
+    const auto bytes = file.read(file.size());
+    if (file.error() != QFileDevice::NoError || !QByteArrayView(bytes).isValidUtf8())
         return std::nullopt;
     return QString::fromUtf8(bytes);
 }
