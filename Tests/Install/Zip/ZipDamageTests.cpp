@@ -51,6 +51,11 @@ TEST_F(ZipDamageTest, failsOnABadChecksum)
     }
 }
 
+TEST_F(ZipDamageTest, refusesABadChecksumOfAnEmptyFile)
+{
+    expectRefusal({.name = "a", .checksum = 1234}, u"The archive entry “a” is damaged."_s);
+}
+
 TEST_F(ZipDamageTest, failsOnABadChecksumOfALink)
 {
     ZipWriter zip;

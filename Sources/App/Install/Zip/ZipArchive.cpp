@@ -28,6 +28,11 @@ ZipError unreadable(const QString& reason)
     return ZipError(u"The archive cannot be read: %1."_s.arg(reason));
 }
 
+ZipError damaged(const QString& shownName)
+{
+    return ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
+}
+
 /// Throws that the entry cannot be read, or else that it is damaged.
 [[noreturn]] void throwFailure(zip_error_t& error, const QString& shownName)
 {
@@ -36,7 +41,7 @@ ZipError unreadable(const QString& reason)
             PlatformError::tr("read the archive entry “%1”").arg(shownName),
             zip_error_code_system(&error));
     }
-    throw ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
+    throw damaged(shownName);
 }
 
 /// Why the archive cannot be opened. Throws PlatformError if the file cannot be read at all.
@@ -175,6 +180,9 @@ ZipEntry ZipArchive::entry(quint64 index) const
         status.comp_method == ZIP_CM_STORE || status.comp_method == ZIP_CM_DEFLATE;
     entry.size = status.size;
     entry.compressedSize = status.comp_size;
+    // The library does not check the checksum of an entry without content.
+    if (status.comp_size == 0 && status.crc != 0)
+        throw damaged(entry.shownName());
     if (entry.kind == ZipEntry::Kind::link && !entry.isEncrypted && entry.hasKnownMethod) {
         std::array<char, maxTargetRead> buffer;
         auto content = open(index, entry);
