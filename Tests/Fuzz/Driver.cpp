@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "Fuzz/FuzzTarget.h"
 
-#include <QCoreApplication>
+#include <QDir>
 
 #include <algorithm>
+#include <cstdio>
 #include <random>
 
-// Stands in for libFuzzer where the compiler has none: the seeds, and then mutations of them, the
-// same in every run, so that a failure can be repeated.
+// Stands in for libFuzzer where the compiler has none, called as it is with a folder of inputs:
+// runs each of them, and then mutations of it, the same in every run, so that a failure can be
+// repeated.
 
 namespace {
 
-constexpr int mutationsPerSeed = 400;
+constexpr int mutationsPerInput = 400;
 
 using Random = std::minstd_rand;
 
@@ -44,6 +46,13 @@ void mutateOnce(QByteArray& bytes, Random& random)
     }
 }
 
+QByteArray mutated(QByteArray bytes, Random& random)
+{
+    for (auto count = 1 + below(random, 4); count > 0; --count)
+        mutateOnce(bytes, random);
+    return bytes;
+}
+
 void run(const QByteArray& bytes)
 {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
@@ -54,16 +63,20 @@ void run(const QByteArray& bytes)
 
 int main(int argumentCount, char** arguments)
 {
-    const QCoreApplication application(argumentCount, arguments);
+    const QDir corpus(QString::fromLocal8Bit(argumentCount == 2 ? arguments[1] : ""));
+    const auto inputs = corpus.entryInfoList(QDir::Files, QDir::Name);
+    if (argumentCount != 2 || inputs.isEmpty()) {
+        std::fprintf(stderr, "usage: %s FOLDER\n", arguments[0]);
+        return 2;
+    }
     Random random(1);
-    for (const auto& seed : fuzzSeeds()) {
-        run(seed);
-        for (int i = 0; i < mutationsPerSeed; ++i) {
-            auto bytes = seed;
-            for (auto count = 1 + below(random, 4); count > 0; --count)
-                mutateOnce(bytes, random);
-            run(bytes);
-        }
+    for (const auto& input : inputs) {
+        QFile file(input.filePath());
+        require(file.open(QIODevice::ReadOnly));
+        const auto bytes = file.readAll();
+        run(bytes);
+        for (int i = 0; i < mutationsPerInput; ++i)
+            run(mutated(bytes, random));
     }
     return 0;
 }
