@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/Buttons.h"
 
-#include "Controls/AccessibleButton.h"
+#include "Controls/Accessibility.h"
 #include "Controls/ControlPainter.h"
 #include "Controls/Glyphs.h"
 #include "Controls/Stack.h"

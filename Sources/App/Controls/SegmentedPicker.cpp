@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/SegmentedPicker.h"
 
-#include "Controls/AccessibleRole.h"
+#include "Controls/Accessibility.h"
 #include "Controls/Buttons.h"
 #include "Controls/ControlPainter.h"
 #include "Controls/SystemColors.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/StatusDot.h"
 
-#include "Controls/AccessibleRole.h"
+#include "Controls/Accessibility.h"
 
 #include <QPainter>
 

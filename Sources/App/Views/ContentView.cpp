@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Views/ContentView.h"
 
-#include "Controls/AccessibleRole.h"
+#include "Controls/Accessibility.h"
 #include "Controls/Buttons.h"
 #include "Controls/Dimmer.h"
 #include "Controls/RepeatedPressFilter.h"

@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "Controls/AccessibleButton.h"
+#include "Controls/Accessibility.h"
 
 #include <QAccessibleWidget>
 #include <QPushButton>
 #include <QTimer>
 
 namespace {
+
+constexpr auto roleProperty = "accessibleRole";
+
+QAccessibleInterface* makeRole(const QString&, QObject* object)
+{
+    const auto role = object->property(roleProperty);
+    if (!role.isValid())
+        return nullptr;
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object),
+                                 static_cast<QAccessible::Role>(role.toInt()));
+}
 
 class AccessibleButton final : public QAccessibleWidget
 {
@@ -53,7 +64,7 @@ private:
     [[nodiscard]] QPushButton& button() const { return *static_cast<QPushButton*>(widget()); }
 };
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object)
+QAccessibleInterface* makeButton(const QString&, QObject* object)
 {
     auto* const button = qobject_cast<QPushButton*>(object);
     return button && !button->isCheckable() ? new AccessibleButton(*button) : nullptr;
@@ -61,7 +72,13 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 } // namespace
 
+void setAccessibleRole(QWidget& widget, QAccessible::Role role)
+{
+    QAccessible::installFactory(makeRole); // Qt keeps it once.
+    widget.setProperty(roleProperty, static_cast<int>(role));
+}
+
 void installAccessibleButtons()
 {
-    QAccessible::installFactory(makeInterface); // Qt keeps it once.
+    QAccessible::installFactory(makeButton);
 }
