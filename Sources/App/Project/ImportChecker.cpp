@@ -3,10 +3,10 @@
 
 #include "System/DirectoryWalk.h"
 #include "System/FileDescriptor.h"
+#include "System/FolderListing.h"
 #include "System/Text.h"
 
 #include <QByteArrayView>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -80,8 +80,7 @@ class Check final
 {
 public:
     explicit Check(const QString& project)
-        : m_project(
-              ::open(QFile::encodeName(project).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+        : m_project(openFolder(project))
     {
     }
 

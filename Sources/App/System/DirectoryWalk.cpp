@@ -4,8 +4,6 @@
 #include "System/FileDescriptor.h"
 #include "System/FolderListing.h"
 
-#include <QFile>
-
 #include <condition_variable>
 #include <iterator>
 #include <mutex>
@@ -159,8 +157,7 @@ bool DirectoryWalk::walk(const QString& path, Hidden hidden, const std::stop_tok
 bool DirectoryWalk::walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
                                  std::span<const Visit> visitors)
 {
-    FileDescriptor root(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    auto root = openFolder(path);
     if (!root.isOpen())
         return false;
     Walk walk(std::move(root), hidden, stop);

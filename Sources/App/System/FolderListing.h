@@ -3,6 +3,9 @@
 
 #include "System/FileDescriptor.h"
 
+#include <QFile>
+#include <QString>
+
 #include <memory>
 #include <string>
 #include <tuple>
@@ -10,6 +13,14 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+
+/// Opens the folder at `path`, or the one that a link there leads to. Returns none, and sets errno,
+/// if that fails.
+inline FileDescriptor openFolder(const QString& path)
+{
+    return FileDescriptor(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
 
 struct CloseListing
 {

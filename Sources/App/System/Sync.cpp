@@ -5,8 +5,7 @@
 #include "System/DirectoryWalk.h"
 #include "System/Errors.h"
 #include "System/FileDescriptor.h"
-
-#include <QFile>
+#include "System/FolderListing.h"
 
 #include <cerrno>
 #include <chrono>
@@ -15,12 +14,6 @@
 #include <unistd.h>
 
 namespace {
-
-FileDescriptor openFolder(const QString& path)
-{
-    return FileDescriptor(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-}
 
 [[noreturn]] void throwNotWritten(const QString& path, int error)
 {

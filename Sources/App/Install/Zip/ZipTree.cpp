@@ -21,8 +21,7 @@ constexpr mode_t plainMode = 0644;
 } // namespace
 
 ZipTree::ZipTree(const QString& destination)
-    : m_folder(
-          ::open(QFile::encodeName(destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    : m_folder(openFolder(destination))
 {
     if (!m_folder.isOpen())
         throw PlatformError::fromErrno(PlatformError::tr("open the folder “%1”").arg(destination),
