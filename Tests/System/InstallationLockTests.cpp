@@ -2,6 +2,7 @@
 #include "System/InstallationLock.h"
 
 #include "Support/InAnotherProcess.h"
+#include "Support/OtherProcess.h"
 #include "Support/TestFolder.h"
 #include "System/Errors.h"
 
@@ -9,10 +10,8 @@
 
 #include <QFile>
 
-#include <array>
 #include <csignal>
 #include <cstdio>
-#include <functional>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -21,67 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Another process, a copy of this one: it does `work`, which gets a descriptor to answer to and
-/// one that ends with this object, and then exits with the status that `work` returns.
-class OtherProcess final
-{
-public:
-    using Work = std::function<int(int answer, int orders)>;
-
-    explicit OtherProcess(const Work& work)
-    {
-        std::array<int, 2> answers{};
-        std::array<int, 2> orders{};
-        EXPECT_EQ(::pipe(answers.data()), 0);
-        EXPECT_EQ(::pipe(orders.data()), 0);
-        m_id = ::fork();
-        if (m_id == 0) {
-            ::close(orders[1]);
-            ::_exit(work(answers[1], orders[0]));
-        }
-        ::close(answers[1]);
-        ::close(orders[0]);
-        m_answers = FileDescriptor(answers[0]);
-        m_orders = FileDescriptor(orders[1]);
-    }
-    ~OtherProcess() { std::ignore = end(); }
-
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
-
-    /// Waits for the next answer, a line.
-    QByteArray answer()
-    {
-        QByteArray line;
-        char next = 0;
-        while (::read(m_answers.get(), &next, 1) == 1 && next != '\n')
-            line.append(next);
-        return line;
-    }
-
-    void kill() { ::kill(m_id, SIGKILL); }
-    void order() { EXPECT_EQ(::write(m_orders.get(), "\n", 1), 1); }
-
-    /// Waits for its end and returns its status, negative when it was killed.
-    int end()
-    {
-        m_orders.close();
-        if (m_id > 0) {
-            int status = 0;
-            EXPECT_EQ(::waitpid(m_id, &status, 0), m_id);
-            m_status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-            m_id = -1;
-        }
-        return m_status;
-    }
-
-private:
-    pid_t m_id = -1;
-    int m_status = -1;
-    FileDescriptor m_answers;
-    FileDescriptor m_orders;
-};
 
 void say(int answer, const char* line)
 {
@@ -100,9 +38,7 @@ protected:
     /// What another launcher gets when it claims the lock now: 1 for yes.
     int otherClaims()
     {
-        return OtherProcess(
-                   [this](int, int) { return InstallationLock(m_path).tryAcquire() ? 1 : 0; })
-            .end();
+        return inAnotherProcess([this] { return InstallationLock(m_path).tryAcquire() ? 1 : 0; });
     }
 
     /// What acquire() says; empty if it succeeds.

@@ -52,6 +52,18 @@ protected:
         ASSERT_TRUE(QFile::remove(EngineManager().markerFile()));
         ASSERT_TRUE(QFile::remove(root(u"Game/tetherwalk-master/.import/a.stex"_s)));
     }
+    /// Clicks a button that ends the flow, and again where Play is then.
+    void expectNoPlayByASecondClickOn(const QWidget& button)
+    {
+        const auto position = rightEnd(button);
+        click(position, slowly);
+        waitForFlow();
+        settle();
+        ASSERT_EQ(window().childAt(position), &play());
+        click(position, quickly);
+        EXPECT_EQ(starts(), 1);
+        EXPECT_FALSE(model().isBusy());
+    }
     qsizetype starts() { return logged().filter(u"Step 1 of 4"_s).size(); }
 
 private:
@@ -79,14 +91,7 @@ TEST_F(RepeatedPressTest, onStopDoesNotStartTheGameAgain)
 {
     install("exec sleep 60");
     playByModel();
-    const auto position = rightEnd(stop());
-    click(position, slowly);
-    waitForFlow();
-    settle();
-    ASSERT_EQ(window().childAt(position), &play());
-    click(position, quickly);
-    EXPECT_EQ(starts(), 1);
-    EXPECT_FALSE(model().isBusy());
+    expectNoPlayByASecondClickOn(stop());
 }
 
 TEST_F(RepeatedPressTest, onCancelDoesNotBeginAnew)
@@ -96,14 +101,7 @@ TEST_F(RepeatedPressTest, onCancelDoesNotBeginAnew)
     model().play();
     waitForPhase(Phase::Kind::settingUp);
     settle();
-    const auto position = rightEnd(cancel());
-    click(position, slowly);
-    waitForFlow();
-    settle();
-    ASSERT_EQ(window().childAt(position), &play());
-    click(position, quickly);
-    EXPECT_EQ(starts(), 1);
-    EXPECT_FALSE(model().isBusy());
+    expectNoPlayByASecondClickOn(cancel());
 }
 
 TEST_F(RepeatedPressTest, onPlayStartsAGameThatClosesAtOnceOnlyOnce)

@@ -134,8 +134,8 @@ def _mount_namespace() -> str:
 
 
 def _make_mounts_private() -> None:
-    """Nobody else sees what is mounted from now on. That can only be said of a mount point, and in
-    a chroot only the root outside of it need be one: this process goes there and comes back."""
+    """Hides what is mounted from now on from other processes. Only a mount point can be made
+    private. The root of a chroot may be none, so this process leaves the chroot and comes back."""
     folder = os.getcwd()
     root = os.open("/", os.O_PATH)
     namespace = os.open("/proc/self/ns/mnt", os.O_RDONLY)

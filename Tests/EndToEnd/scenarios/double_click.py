@@ -6,8 +6,6 @@ from rig.waiting import wait_for
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
     launcher = world.open_launcher()
     launcher.wait_for_label("Ready")

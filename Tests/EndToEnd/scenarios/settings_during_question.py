@@ -4,8 +4,6 @@ it."""
 
 
 def run(world):
-    world.offer_game()
-    world.offer_scripted_engine()
     world.install()
     launcher = world.open_launcher()
     launcher.wait_for_label("Ready")

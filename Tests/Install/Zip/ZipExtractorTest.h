@@ -32,6 +32,12 @@ protected:
     }
     int extract(const ZipWriter& zip) { return extract(zip.archive()); }
 
+    /// The sentence of an archive that is refused because of one entry.
+    static QString refusal(const QString& name, const QString& reason)
+    {
+        return u"The archive entry “%1” %2."_s.arg(name, reason);
+    }
+
     /// A refused archive leaves nothing, not even its honest first entry.
     void expectRefusal(const ZipWriter& zip, const QString& reason)
     {
