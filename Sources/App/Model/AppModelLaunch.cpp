@@ -23,7 +23,8 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 {
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
-    // The next launcher looks for the game's lock in the file that is there now.
+    // The next launcher looks for the game's lock in the file that is there now. A game is started
+    // without it, too.
     m_lock.tryAcquire();
     // Before the phase is announced: a stop that is asked for in that moment reaches the game too.
     m_runner.process = std::make_shared<ManagedProcess>(

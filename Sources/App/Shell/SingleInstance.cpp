@@ -93,7 +93,7 @@ SingleInstance::Start SingleInstance::start(const QByteArray& activationToken, m
 
 bool SingleInstance::becomeFirst()
 {
-    if (!m_lock.tryAcquire())
+    if (!m_lock.tryAcquire() && m_lock.isHeldByOther())
         return false;
     // Where the socket is a file, a killed launcher may have left one.
     QLocalServer::removeServer(m_serverName);

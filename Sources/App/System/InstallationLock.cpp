@@ -74,31 +74,35 @@ bool InstallationLock::tryAcquire()
             // Only the removed file tells of a game that was started with it.
             if (isGameRunning()) {
                 m_error = EBUSY;
-                return true;
+                return false;
             }
             open();
             if (!m_file.isOpen())
-                return true;
+                return false;
         }
-        if (!tryLock(m_file.get(), Role::launcher)) {
-            m_error = errno;
-            return m_error != EACCES && m_error != EAGAIN;
-        }
-        m_isLocked = true;
+        m_isLocked = tryLock(m_file.get(), Role::launcher);
+        m_error = m_isLocked ? 0 : errno;
+        if (!m_isLocked)
+            return false;
     }
     return true;
 }
 
 void InstallationLock::acquire()
 {
-    if (!tryAcquire())
+    if (tryAcquire())
+        return;
+    if (isHeldByOther())
         throw PlatformError(
             PlatformError::tr("The launcher is running a second time. Close the other one first."));
-    if (!isHeld())
-        throw PlatformError::fromErrno(
-            PlatformError::tr("lock “%1”, without which nothing is installed or removed")
-                .arg(m_path),
-            m_error);
+    throw PlatformError::fromErrno(
+        PlatformError::tr("lock “%1”, without which nothing is installed or removed").arg(m_path),
+        m_error);
+}
+
+bool InstallationLock::isHeldByOther() const
+{
+    return m_file.isOpen() && (m_error == EACCES || m_error == EAGAIN);
 }
 
 bool InstallationLock::isHeld() const

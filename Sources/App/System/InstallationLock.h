@@ -27,10 +27,12 @@ public:
     InstallationLock& operator=(const InstallationLock&) = delete;
 
     /// Makes this process the launcher, with a new file if the former one was removed or replaced.
-    /// Returns false exactly when another process is the launcher; see isHeld() for the rest.
+    /// Returns isHeld().
     bool tryAcquire();
     /// As tryAcquire(), but throws PlatformError unless this process is the launcher then.
     void acquire();
+    /// Whether the last tryAcquire() failed because another process is the launcher.
+    [[nodiscard]] bool isHeldByOther() const;
     /// Releases the lock, and removes the file unless a game still uses it. From then on this
     /// object holds nothing and sees no game.
     void release();
