@@ -123,6 +123,23 @@ TEST_F(DownloadAnswerTest, isLedToTheHostsOfGitHub)
     }
 }
 
+TEST_F(DownloadAnswerTest, namesAProxyThatHangsUpOrStaysSilent)
+{
+    const QUrl secure(u"https://github.com/x"_s);
+    const EnvironmentScope proxy("https_proxy", server.host().toUtf8());
+    const auto name = QUrl(server.host()).authority();
+
+    server.on(HttpServer::anyPath, [](const HttpServer::Connection&) {});
+    EXPECT_EQ(download(secure).sentence,
+              u"Could not download “https://github.com/x”: The proxy “%1” cannot be used. Check "
+              "the proxy settings."_s.arg(name));
+
+    server.on(HttpServer::anyPath, HttpServer::silence());
+    EXPECT_EQ(download(secure, 400ms).sentence,
+              u"The download of “https://github.com/x” stalled: the proxy “%1” did not answer "
+              "within 0.4 seconds. Check the proxy settings and try again."_s.arg(name));
+}
+
 TEST_F(DownloadAnswerTest, tellsAFailureBehindARedirectByWhatFailed)
 {
     server.on(file, HttpServer::redirect(302, QUrl(u"http://127.0.0.1:1/file.zip"_s)));

@@ -248,6 +248,7 @@ private:
                 .proxy = m_proxy.shownName,
                 .result = result,
                 .proxyStatus = info<long>(CURLINFO_HTTP_CONNECTCODE),
+                .isSecured = info<curl_off_t>(CURLINFO_APPCONNECT_TIME_T) > 0,
                 .certificateError = info<long>(CURLINFO_SSL_VERIFYRESULT)};
     }
 

@@ -57,6 +57,11 @@ bool failedAtProxy(const FailedRequest& request)
     case CURLE_UNSUPPORTED_PROTOCOL:
     case CURLE_URL_MALFORMAT:
         return true;
+    case CURLE_GOT_NOTHING:
+    case CURLE_RECV_ERROR:
+    case CURLE_SEND_ERROR:
+    case CURLE_OPERATION_TIMEDOUT:
+        return request.proxyStatus == 0 && !request.isSecured;
     default:
         return request.proxyStatus >= 300;
     }
@@ -117,13 +122,17 @@ PlatformError transferError(const FailedRequest& request)
 PlatformError stallError(const FailedRequest& request, bool hasAnswered,
                          std::chrono::milliseconds timeout)
 {
+    const auto isProxySilent = !hasAnswered && failedAtProxy(request);
     const auto sentence =
-        hasAnswered
+        isProxySilent
+            ? PlatformError::tr("The download of “%1” stalled: the proxy “%2” did not answer "
+                                "within %3 seconds. Check the proxy settings and try again.")
+        : hasAnswered
             ? PlatformError::tr("The download of “%1” stalled: %2 sent nothing for %3 seconds. "
                                 "Check the internet connection and try again.")
             : PlatformError::tr("The download of “%1” stalled: %2 did not answer within %3 "
                                 "seconds. Check the internet connection and try again.");
-    return PlatformError(
-        sentence.arg(request.download.toDisplayString(), request.host,
-                     QString::number(std::chrono::duration<double>(timeout).count())));
+    return PlatformError(sentence.arg(
+        request.download.toDisplayString(), isProxySilent ? request.proxy : request.host,
+        QString::number(std::chrono::duration<double>(timeout).count())));
 }

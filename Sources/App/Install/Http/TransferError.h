@@ -22,6 +22,8 @@ struct FailedRequest
     CURLcode result = CURLE_OK;
     /// The status that the proxy answered a CONNECT with; 0 if there was none.
     long proxyStatus = 0;
+    /// Whether TLS was established with the host.
+    bool isSecured = false;
     /// Why the certificate was refused (X509_V_ERR_…), if it was.
     long certificateError = 0;
 };
