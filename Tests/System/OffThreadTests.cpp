@@ -62,7 +62,7 @@ private:
 
 TEST(WhenFinished, callsItsContinuationOnceWhenTheFutureFinishesInTheSameInstant)
 {
-    constexpr int rounds = 10'000;
+    constexpr int rounds = 2'000;
     Finisher finisher;
     QObject context;
     int calls = 0;
