@@ -33,8 +33,8 @@ class InstallationLock;
 /// it alone turns the errors of the layers under it into state. Everything runs on the main thread,
 /// which nothing here blocks: downloads, child processes and walks of folders report back to it.
 ///
-/// Whatever takes its time - a press of Play, a housekeeping action - is a flow, and there is one
-/// at a time.
+/// A press of Play or a housekeeping action that does not end at once is a flow. One flow runs at a
+/// time.
 ///
 /// Five source files: AppModel.cpp holds the state, AppModelFlow.cpp what all flows have in common,
 /// AppModelSetup.cpp the four steps from nothing to the installed game, AppModelLaunch.cpp the
@@ -80,8 +80,8 @@ public:
     [[nodiscard]] LogStore& log() { return m_log; }
 
     void setShowLog(bool show);
-    /// Stored at once, also when it stays what it is; used by the next start of the game. That it
-    /// could not be stored is logged.
+    /// Stores the value, also when it is the present one. The next start of the game uses it. Logs
+    /// a failure to store it.
     void setFullscreen(bool fullscreen);
     void setResolution(ResolutionChoice resolution);
 
@@ -206,10 +206,9 @@ private:
     /// The device of the storage root, or of where it would be, at the last look at the disk.
     dev_t m_device = 0;
 
-    /// Ends what goes on beside the flows: measuring, deleting and clearing up.
+    /// Stops the background work: measuring, deleting and clearing up.
     std::stop_source m_backgroundStop;
-    /// The deletion that goes on beside the flows. Its result is the failure to tell the player of;
-    /// empty for none.
+    /// The deletion in the background. Its result is the failure to show; empty for none.
     QFuture<QString> m_deletion = QtFuture::makeReadyFuture(QString());
     int m_sizesStarted = 0;
     int m_sizeShown = 0;

@@ -81,8 +81,7 @@ QCoro::Task<> AppModel::runFlow(Flow flow, std::stop_token stop)
 
 void AppModel::cancelSetup()
 {
-    // First of all, so that whatever error the interrupted step throws is known for a cancel. It
-    // also ends a download.
+    // Before anything else is stopped: an error of the interrupted step is then taken for a cancel.
     m_flowStop.request_stop();
     m_backgroundStop.request_stop(); // The flow may be waiting for a deletion.
     m_runner.terminateCurrent();

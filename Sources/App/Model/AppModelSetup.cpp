@@ -36,9 +36,9 @@ QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
     return offThread([project, stop] { return ImportChecker::missingCount(project, stop); });
 }
 
-/// Vouches for the assets in the folder of `path`, which have to be on the disk before that. A
-/// marker that cannot be written only means that the next Play imports once more. Blocks. Throws
-/// PlatformError when the disk did not keep the assets, or Cancelled when `stop` is requested.
+/// Writes the assets in the folder of `path` to the disk, then creates the marker `path`. Ignores a
+/// failure to create it: the next Play then imports once more. Blocks. Throws PlatformError when
+/// the assets could not be written, or Cancelled when `stop` is requested.
 void createMarker(const QString& path, const std::stop_token& stop)
 {
     syncTree(QFileInfo(path).path(), stop);
@@ -153,7 +153,7 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     ensureOwner();
     QFile::remove(manager.markerFile());
     enterSettingUp(tr("Step 3 of 4 · First-time setup, this can take a minute or more"));
-    // One wording for good: the run itself is given no "--quit", its watcher ends it.
+    // The sentence is fixed. The run is given no "--quit": its watcher ends it.
     m_log.append(u"Importing the game's assets (Godot 3 has no --headless flag; "
                  "using --editor --no-window --quit)."_s);
     throwIfCancelled(stop); // A cancel may come while the phase is announced.

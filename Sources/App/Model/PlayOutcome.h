@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-/// How a play run ended, judged from what is known of it. A pure value: no clock, no state.
+/// How a play run ended. A pure value: it reads no clock.
 class PlayOutcome final
 {
     Q_DECLARE_TR_FUNCTIONS(PlayOutcome)
@@ -27,8 +27,7 @@ public:
                              std::chrono::nanoseconds startupThreshold);
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    /// The sentence about it: a log line for an end as it should be, else the failure, in the
-    /// player's language.
+    /// Returns the log line for kinds that are no failure, else the failure, translated.
     [[nodiscard]] QString sentence() const;
 
 private:

@@ -6,22 +6,22 @@
 #include <chrono>
 #include <optional>
 
-/// Decides, from one count of the assets still to import to the next, what becomes of an import
-/// run. It neither counts nor waits nor knows the time of day.
+/// Decides from successive counts of the assets still to import whether an import run goes on.
+/// Pure: it does not count, wait or read a clock.
 class ImportWatcher final
 {
 public:
     enum class Verdict {
-        /// The run goes on, to be looked at again.
+        /// Keep the run and count again later.
         goOn,
-        /// The run is to be ended, its work being done or its time being over.
+        /// End the run: its work is done, or its time is over.
         end
     };
 
     struct Step
     {
         Verdict verdict = Verdict::goOn;
-        /// What the log is to say, in order.
+        /// The lines to log, in order.
         QStringList log;
     };
 
@@ -29,7 +29,7 @@ public:
     /// more than `limit`.
     ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds limit);
 
-    /// What follows from `count` assets missing `elapsed` after the start of the run.
+    /// Returns what to do when `count` assets are missing `elapsed` after the start of the run.
     Step next(int count, std::chrono::milliseconds elapsed);
 
 private:

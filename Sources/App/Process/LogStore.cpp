@@ -8,8 +8,8 @@
 
 namespace {
 
-/// The last lines of `text`, at most `count`. What comes before them is not looked at: of a flood
-/// of output the log keeps few lines.
+/// Returns the last lines of `text`, at most `count`. Does not read what comes before them: the
+/// text may be large, and the log keeps few lines.
 QStringList lastLines(QStringView text, qsizetype count)
 {
     QStringList lines;

@@ -10,18 +10,17 @@
 #include <fcntl.h>
 #include <sys/types.h>
 
-/// A new regular file that is being written, straight through its descriptor.
+/// A new regular file, written without a buffer.
 ///
-/// QFile's buffer lets a full disk go unnoticed until it is flushed; here each write that fails
-/// says so at once, and close() reports what the file system only tells at the end. A file that was
-/// not closed when its writer goes stays, and the errors of its end are ignored.
+/// QFile reports a full disk only when its buffer is flushed; here each write() that fails throws,
+/// and close() throws what the file system reports at the end. The destructor closes the file and
+/// ignores errors; the file stays.
 class OutputFile final
 {
 public:
-    /// Creates the file at `path`; anything that is there already, a link included, is an error.
-    /// Throws PlatformError.
+    /// Creates the file at `path`. Throws PlatformError, also if anything exists there.
     explicit OutputFile(const QString& path, mode_t mode = 0644);
-    /// The same for `name`, as the file system spells it, relative to the open folder `folder`.
+    /// Creates the file `name` in the open directory `folder`.
     OutputFile(int folder, const QByteArray& name, mode_t mode);
     /// Writes all of `bytes`. Throws PlatformError, also when the disk is full.
     void write(QByteArrayView bytes);

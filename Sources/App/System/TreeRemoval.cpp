@@ -31,9 +31,8 @@ constexpr auto searchOnly = O_PATH;
 constexpr auto searchOnly = O_SEARCH;
 #endif
 
-/// What tells the mount of `name` in `folder`, or with an empty name of `folder` itself, from
-/// others; where the system can, also from another mount of the same file system. Nothing when it
-/// is gone.
+/// Returns an id of the mount that `name` in `folder` lies on; an empty name stands for `folder`.
+/// Where the system has no mount ids it is the device. Nothing when `name` is gone.
 std::optional<quint64> mountOf(int folder, const char* name)
 {
 #if defined(STATX_MNT_ID)

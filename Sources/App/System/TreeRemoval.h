@@ -14,10 +14,10 @@
 
 /// Removes one folder with everything in it, and nothing else.
 ///
-/// It works on open folders rather than on paths, so that nothing leads it outside: a link is
-/// removed and never followed, also one that takes a folder's place meanwhile, and what is mounted
-/// at the folder or below is left alone. Few folders are open at a time, however deep the tree is.
-/// A folder of the user's that is locked against changes is unlocked.
+/// It works on open directories instead of paths. A link is removed and never followed, even if it
+/// replaces a directory meanwhile. What is mounted at the folder or below it stays. The number of
+/// open directories does not grow with the depth. A directory without write permission that belongs
+/// to the user is made writable first.
 class TreeRemoval final
 {
 public:
@@ -28,13 +28,12 @@ public:
         QString reason;
     };
 
-    /// Removes the file, link or folder at `path`; nothing there is success. Goes on with the rest
-    /// when something cannot be removed, and returns the first such thing. When `stop` is requested
-    /// the rest stays. Blocks.
+    /// Removes the file, link or folder at `path`. Nothing there is success. Continues after a
+    /// failure and returns the first one. When `stop` is requested the rest stays. Blocks.
     static std::optional<Failure> remove(const QString& path, const std::stop_token& stop = {});
 
 private:
-    /// A folder that is being removed, as the one that holds it knows it.
+    /// A folder that is being removed.
     struct Folder
     {
         std::string name;
@@ -58,12 +57,12 @@ private:
 
     const QString m_parentPath;
     const std::stop_token& m_stop;
-    /// The folders from the one to be removed down to the current one.
+    /// From the folder to be removed down to the current one.
     std::vector<Folder> m_folders;
     FileDescriptor m_parent;
-    /// The last of them; the parent, once the first one has been left.
+    /// The last of m_folders; m_parent when that is empty.
     FileDescriptor m_current;
-    /// The mount that what is to be removed lies on.
+    /// The mount of the folder to be removed.
     std::optional<quint64> m_mount;
     std::optional<Failure> m_failure;
 };
