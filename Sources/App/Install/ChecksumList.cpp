@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Install/ChecksumList.h"
 
-#include "Install/Http/HttpGet.h"
+#include "Install/InstallTools.h"
 #include "System/Errors.h"
 #include "System/Text.h"
 
@@ -75,7 +75,7 @@ QByteArray ChecksumList::download(const QUrl& url, std::chrono::milliseconds sta
                 refuseIfTooLarge(list.size() + piece.size());
                 list.append(piece);
             }};
-    httpGet(url, receiver, stallTimeout, stop);
+    installTools().httpGet(url, receiver, stallTimeout, stop);
     return list;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Install/FileDownloader.h"
 
-#include "Install/Http/HttpGet.h"
+#include "Install/InstallTools.h"
 #include "Install/Paths.h"
 #include "System/ByteCount.h"
 #include "System/DiskSpace.h"
@@ -117,7 +117,7 @@ InputFile FileDownloader::start(const QUrl& url, const QString& into,
                 m_onProgress(DownloadProgress::after(std::chrono::steady_clock::now() - start,
                                                      received, total));
             }};
-    httpGet(url, receiver, m_stallTimeout, stop);
+    installTools().httpGet(url, receiver, m_stallTimeout, stop);
     auto downloaded = file.closeForReading();
     moveInto(destination, part);
     removePart.dismiss();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Install/Unzipper.h"
 
+#include "Install/InstallTools.h"
 #include "Install/Paths.h"
-#include "Install/Zip/ZipExtractor.h"
 #include "Process/ManagedProcess.h"
 #include "System/Errors.h"
 #include "System/InputFile.h"
@@ -13,7 +13,7 @@ void Unzipper::unzip(const InputFile& archive, const QString& destination, const
     Paths::ensure(destination);
     const auto tool = platform.unpackCommand(archive.path(), destination);
     const auto status = tool ? runTool(tool->program, tool->arguments, log, stop)
-                             : ZipExtractor::extract(archive, destination, log, stop);
+                             : installTools().extractZip(archive, destination, log, stop);
     if (status != 0) {
         throw AppError(AppError::tr("Unzipping failed (ditto exit code %1).").arg(status));
     }

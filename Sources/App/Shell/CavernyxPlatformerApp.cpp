@@ -6,6 +6,7 @@
 #include "Install/Paths.h"
 #include "Model/AppModel.h"
 #include "Platform/ColorScheme.h"
+#include "Platform/FontConfiguration.h"
 #include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
 #include "Shell/WidgetDesktop.h"
@@ -73,6 +74,7 @@ QApplication makeApplication(int& argumentCount, char** arguments)
             std::fprintf(stderr, "%s\n", qPrintable(message));
     });
     prepare();
+    const FontConfiguration fonts; // Read while Qt connects to the display.
     return QApplication(argumentCount, arguments);
 }
 

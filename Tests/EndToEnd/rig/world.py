@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """All that one scenario needs, put together."""
 
+import shutil
 import zipfile
 from pathlib import Path
 
@@ -63,6 +64,14 @@ class World:
         program.chmod(0o755)
         engine.run_import(program, self.home.project)
         self.home.marker().touch()
+
+    def copy_program(self) -> Path:
+        """Has the launcher start from a copy of what is installed, and returns its prefix: a
+        scenario may damage it."""
+        copy = self._scratch / "prefix"
+        shutil.copytree(self._program.parents[1], copy)
+        self._program = copy / "bin" / self._program.name
+        return copy
 
     def start_file_manager(self) -> FileManager:
         return FileManager(self._scratch / "shown.txt")

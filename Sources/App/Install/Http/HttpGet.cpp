@@ -3,7 +3,6 @@
 
 #include "Install/Http/ProxySettings.h"
 #include "Install/Http/TransferError.h"
-#include "Install/Http/WebHost.h"
 #include "Project/GameFacts.h"
 #include "System/Errors.h"
 
@@ -59,14 +58,13 @@ bool isHostOrBelow(QStringView host, QStringView domain)
 /// The player was promised that nothing but GitHub is contacted.
 void checkRedirect(const QUrl& download, const QUrl& next)
 {
-    const QUrl home(webHost());
     const auto host = next.host();
     const auto isKnown =
-        host == home.host() ||
+        host == download.host() ||
         std::ranges::any_of(GameFacts::allowedDomains,
                             [&host](QStringView domain) { return isHostOrBelow(host, domain); });
     const auto isEncrypted = next.scheme() == "https"_L1;
-    if (!isKnown || (!isEncrypted && next.scheme() != home.scheme())) {
+    if (!isKnown || (!isEncrypted && next.scheme() != download.scheme())) {
         throw PlatformError(
             PlatformError::tr("The download of “%1” was redirected to “%2”, which is not one of "
                               "GitHub's own secure servers, so it was stopped.")

@@ -21,9 +21,9 @@ struct HttpReceiver
 
 /// GETs `url` and hands the final answer to `receiver`. Blocks until all of it has come.
 ///
-/// Redirects are followed, at most ten, to https on GitHub's hosts and on webHost() only. The body
-/// comes as the server sent it, in pieces, and is never held in memory as a whole. Nothing is
-/// cached or remembered.
+/// Redirects are followed, at most ten, to https on GitHub's hosts and to the host of `url` only.
+/// The body comes as the server sent it, in pieces, and is never held in memory as a whole. Nothing
+/// is cached or remembered.
 ///
 /// Throws PlatformError, with a sentence that says what the player can do, if the network or the
 /// proxy fails, if a server does not answer or is silent for `stallTimeout`, and for a redirect
