@@ -3,13 +3,13 @@
 
 #include "Support/Await.h"
 #include "Support/TestFolder.h"
+#include "System/LocalSocket.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLocalSocket>
 #include <QProcess>
 
 #include <csignal>
@@ -161,15 +161,15 @@ TEST_F(SingleInstanceTest, givesUpALauncherThatDoesNotAnswerInTime)
 
 TEST_F(SingleInstanceTest, ignoresCallersThatSendNothingOrTooMuch)
 {
-    QLocalSocket silent;
-    QLocalSocket talkative;
-    for (auto* const caller : {&silent, &talkative}) {
-        caller->setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-        caller->connectToServer(SingleInstance::serverName(lock));
-        ASSERT_TRUE(caller->waitForConnected());
+    const auto name = SingleInstance::serverName(lock);
+    const auto silent = LocalSocket::connect(name);
+    const auto talkative = LocalSocket::connect(name);
+    ASSERT_TRUE(silent.isOpen() && talkative.isOpen());
+    LocalSocket::send(talkative, QByteArray(1'000'000, 'x'));
+    {
+        const auto shortLived = LocalSocket::connect(name);
+        LocalSocket::send(shortLived, "no line");
     }
-    talkative.write(QByteArray(1'000'000, 'x'));
-    talkative.flush();
     Start second(lock, u"token"_s);
     EXPECT_EQ(second.nextLine(), "handed over");
     EXPECT_EQ(first.nextLine(), "activated token");

@@ -3,18 +3,18 @@
 
 #include "Project/GameFacts.h"
 #include "System/InstallationLock.h"
+#include "System/LocalSocket.h"
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QLocalSocket>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
-#include <sys/socket.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -25,24 +25,7 @@ namespace {
 
 constexpr auto answerTimeout = 2s;
 constexpr auto retryInterval = 50ms;
-constexpr qint64 maxTokenLength = 4096;
-
-/// Every user of the machine can use the socket, so each side checks who the other one is.
-bool isOwnUser(const QLocalSocket& socket)
-{
-#if defined(Q_OS_LINUX)
-    ucred peer = {};
-    socklen_t size = sizeof peer;
-    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer,
-                        &size) == 0 &&
-           peer.uid == ::geteuid();
-#else
-    uid_t user = 0;
-    gid_t group = 0;
-    return ::getpeereid(static_cast<int>(socket.socketDescriptor()), &user, &group) == 0 &&
-           user == ::geteuid();
-#endif
-}
+constexpr qsizetype maxTokenLength = 4096;
 
 /// Runs the event loop until it quits, at most for `time`.
 void runFor(QEventLoop& loop, milliseconds time)
@@ -53,28 +36,23 @@ void runFor(QEventLoop& loop, milliseconds time)
 
 } // namespace
 
-SingleInstance::SingleInstance(InstallationLock& lock, QString serverName)
+SingleInstance::SingleInstance(InstallationLock& lock, QByteArray serverName)
     : m_lock(lock)
     , m_serverName(std::move(serverName))
 {
-    // No socket file that a killed launcher would leave behind, where the system supports that.
-    m_server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
-    connect(&m_server, &QLocalServer::newConnection, this, [this] {
-        while (auto* const caller = m_server.nextPendingConnection())
-            serve(caller);
-    });
 }
 
-QString SingleInstance::serverName(const QString& lockFile)
+SingleInstance::~SingleInstance() = default;
+
+QByteArray SingleInstance::serverName(const QString& lockFile)
 {
     // Several paths may lead to the one lock file.
     const QFileInfo file(lockFile);
     const auto folder = QFileInfo(file.path()).canonicalFilePath();
     const auto path = folder.isEmpty() ? lockFile : folder + u'/' + file.fileName();
     const auto key = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256);
-    return u"%1-%2-%3"_s.arg(GameFacts::programName)
-        .arg(::geteuid())
-        .arg(QString::fromLatin1(key.toHex().first(16)));
+    return GameFacts::programName.toUtf8() + '-' + QByteArray::number(::geteuid()) + '-' +
+           key.toHex().first(16);
 }
 
 SingleInstance::Start SingleInstance::start(const QByteArray& activationToken, milliseconds timeout)
@@ -95,65 +73,71 @@ bool SingleInstance::becomeFirst()
 {
     if (!m_lock.tryAcquire() && m_lock.isHeldByOther())
         return false;
-    // Where the socket is a file, a killed launcher may have left one.
-    QLocalServer::removeServer(m_serverName);
+    m_listener = LocalSocket::listen(m_serverName);
+    if (m_listener.isOpen()) {
+        m_calls = std::make_unique<QSocketNotifier>(m_listener.get(), QSocketNotifier::Read);
+        connect(m_calls.get(), &QSocketNotifier::activated, this, &SingleInstance::acceptCallers);
+        return true;
+    }
     // Another launcher may hold no lock, because it cannot or because somebody removed the file. It
     // takes the lock again when it needs it.
-    QLocalSocket other;
-    if (!m_server.listen(m_serverName) && connectToOther(other)) {
+    if (LocalSocket::connect(m_serverName).isOpen()) {
         m_lock.release();
         return false;
     }
-    // If it does not listen, a later launcher gets no answer and says so.
+    // A later launcher gets no answer and says so.
     return true;
-}
-
-bool SingleInstance::connectToOther(QLocalSocket& socket) const
-{
-    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-    socket.connectToServer(m_serverName);
-    return socket.waitForConnected(static_cast<int>(milliseconds(retryInterval).count())) &&
-           isOwnUser(socket);
 }
 
 bool SingleInstance::handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline)
 {
-    QLocalSocket socket;
-    if (!connectToOther(socket))
+    const auto socket = LocalSocket::connect(m_serverName);
+    if (!socket.isOpen())
         return false;
+    const QSocketNotifier notifier(socket.get(), QSocketNotifier::Read);
     QEventLoop answer;
-    connect(&socket, &QLocalSocket::readyRead, &answer, &QEventLoop::quit);
-    connect(&socket, &QLocalSocket::disconnected, &answer, &QEventLoop::quit);
-    socket.write(activationToken + '\n');
+    connect(&notifier, &QSocketNotifier::activated, &answer, &QEventLoop::quit);
+    LocalSocket::send(socket, activationToken + '\n');
     runFor(answer, std::min<milliseconds>(milliseconds(deadline.remainingTime()), answerTimeout));
-    return socket.bytesAvailable() > 0;
+    QByteArray received;
+    return LocalSocket::receive(socket, received) && !received.isEmpty();
 }
 
 void SingleInstance::stopListening()
 {
-    m_server.close();
+    m_calls.reset();
+    m_listener.close();
     // Callers that are connected already get no answer either.
-    const auto callers = m_server.findChildren<QLocalSocket*>();
-    for (auto* const caller : callers)
-        caller->abort();
+    m_callers.clear();
 }
 
-void SingleInstance::serve(QLocalSocket* caller)
+void SingleInstance::acceptCallers()
 {
-    connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-    if (!isOwnUser(*caller)) {
-        caller->abort();
-        return;
-    }
-    caller->setReadBufferSize(maxTokenLength);
-    const auto read = [this, caller] {
-        if (!caller->canReadLine())
+    while (true) {
+        auto socket = LocalSocket::accept(m_listener);
+        if (!socket.isOpen())
             return;
-        const auto token = caller->readLine().trimmed();
-        caller->write("\n");
-        caller->flush();
+        const auto caller = m_callers.insert(m_callers.end(), Caller());
+        caller->socket = std::move(socket);
+        caller->notifier =
+            std::make_unique<QSocketNotifier>(caller->socket.get(), QSocketNotifier::Read);
+        connect(caller->notifier.get(), &QSocketNotifier::activated, this,
+                [this, caller] { serve(caller); });
+    }
+}
+
+void SingleInstance::serve(std::list<Caller>::iterator caller)
+{
+    const auto isConnected = LocalSocket::receive(caller->socket, caller->token);
+    const auto lineFeed = caller->token.indexOf('\n');
+    if (lineFeed < 0 && isConnected && caller->token.size() < maxTokenLength)
+        return;
+    const auto token = caller->token.first(std::max<qsizetype>(lineFeed, 0)).trimmed();
+    if (lineFeed >= 0)
+        LocalSocket::send(caller->socket, "\n");
+    caller->notifier->setEnabled(false);
+    caller->notifier.release()->deleteLater(); // It is calling this function.
+    m_callers.erase(caller);
+    if (lineFeed >= 0)
         Q_EMIT activated(token);
-    };
-    connect(caller, &QLocalSocket::readyRead, this, read);
-    read();
 }

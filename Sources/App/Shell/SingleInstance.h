@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLocalServer>
+#include "System/FileDescriptor.h"
+
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
 #include <chrono>
+#include <list>
+#include <memory>
 
 class QDeadlineTimer;
-class QLocalSocket;
+class QSocketNotifier;
 class InstallationLock;
 
 /// Makes sure that one launcher at a time serves an installation. The first one holds the
@@ -32,11 +36,12 @@ public:
     };
 
     /// `lock` must outlive this object.
-    SingleInstance(InstallationLock& lock, QString serverName);
+    SingleInstance(InstallationLock& lock, QByteArray serverName);
+    ~SingleInstance() override;
 
-    /// Returns the local server's name for one user and one lock file. It is the same whatever
+    /// Returns the socket's name for one user and one lock file. It is the same whatever
     /// symbolic links lead to the file's folder, which must exist.
-    static QString serverName(const QString& lockFile);
+    static QByteArray serverName(const QString& lockFile);
 
     /// Becomes the first launcher, or hands `activationToken` over to it, the desktop's permission
     /// to come to the front. Waits up to `timeout` for a launcher that is about to end, and then
@@ -53,11 +58,21 @@ Q_SIGNALS:
 
 private:
     bool becomeFirst();
-    bool connectToOther(QLocalSocket& socket) const;
     bool handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline);
-    void serve(QLocalSocket* caller);
+    void acceptCallers();
+
+    /// A later launcher that is connected.
+    struct Caller
+    {
+        FileDescriptor socket;
+        std::unique_ptr<QSocketNotifier> notifier;
+        QByteArray token;
+    };
+    void serve(std::list<Caller>::iterator caller);
 
     InstallationLock& m_lock;
-    QString m_serverName;
-    QLocalServer m_server;
+    QByteArray m_serverName;
+    FileDescriptor m_listener;
+    std::unique_ptr<QSocketNotifier> m_calls;
+    std::list<Caller> m_callers;
 };
