@@ -16,17 +16,28 @@ def expect_in_order(lines: list[str], expected: list[str]) -> None:
         assert line in rest, f"\"{line}\" is missing, or out of order, in:\n" + "\n".join(lines)
 
 
+def assets(project: Path) -> list[Path]:
+    """The files of the project that the engine imports."""
+    return [path for path in project.rglob("*")
+            if path.suffix in IMPORTABLE and ".import" not in path.parts]
+
+
+def imported_file(project: Path, asset: Path) -> Path | None:
+    """The file that the asset's companion names, if there is one."""
+    companion = asset.with_name(asset.name + ".import")
+    text = companion.read_text() if companion.exists() else ""
+    imported = re.search(r'^path="res://(.*)"$', text, re.MULTILINE)
+    return project / imported.group(1) if imported else None
+
+
 def count_imported(project: Path) -> int:
     """Every asset of the project has a companion and the file that this names; returns how many
     assets these are."""
-    assets = [path for path in project.rglob("*")
-              if path.suffix in IMPORTABLE and ".import" not in path.parts]
-    for asset in assets:
-        companion = asset.with_name(asset.name + ".import").read_text()
-        imported = re.search(r'^path="res://(.*)"$', companion, re.MULTILINE)
-        assert imported, f"{asset} was not imported: {companion}"
-        assert (project / imported.group(1)).is_file(), f"{asset} has no {imported.group(1)}"
-    return len(assets)
+    found = assets(project)
+    for asset in found:
+        imported = imported_file(project, asset)
+        assert imported and imported.is_file(), f"{asset} was not imported to {imported}"
+    return len(found)
 
 
 def expect_failure(world, message: str) -> None:

@@ -122,7 +122,7 @@ def _run_inside() -> int:
                  f"{attempt.stderr.strip()}")
     scratch = tempfile.mkdtemp(prefix="cavernyx-scenario-")
     environment = {**os.environ, SCRATCH: scratch, OUTSIDE: _mount_namespace()}
-    status = subprocess.run([*unshare, sys.executable, *sys.argv], env=environment).returncode
+    status = subprocess.run([*unshare, sys.executable, *sys.orig_argv[1:]], env=environment).returncode
     if f" {scratch}" in Path("/proc/self/mountinfo").read_text():
         raise RuntimeError(f"Something is mounted below {scratch}, so it is left alone.")
     shutil.rmtree(scratch)

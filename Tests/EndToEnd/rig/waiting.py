@@ -3,10 +3,7 @@
 
 import time
 
-INTERVAL = 0.05
-
-
-def wait_for(what: str, condition, seconds: float = 20):
+def wait_for(what: str, condition, seconds: float = 20, interval: float = 0.05):
     """Returns the first value of `condition()` that is true. When none has come after `seconds`,
     fails with `what` and the last value."""
     deadline = time.monotonic() + seconds
@@ -16,5 +13,5 @@ def wait_for(what: str, condition, seconds: float = 20):
             return value
         if time.monotonic() > deadline:
             raise AssertionError(f"{what} did not happen within {seconds} s (last seen: {value!r})")
-        time.sleep(INTERVAL)
+        time.sleep(interval)
 
