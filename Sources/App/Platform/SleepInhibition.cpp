@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/SleepInhibition.h"
+
+#include "Platform/BusCall.h"
+#include "System/OffThread.h"
+
+#include <QCoreApplication>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+#include <QDBusUnixFileDescriptor>
+#include <QPointer>
+#include <QTimer>
+#include <QVariantMap>
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How long a service may be silent until the next one is asked, too.
+constexpr std::chrono::seconds maxSilence{2};
+
+/// A call of the object that `reply` comes from, or of another one of the same program.
+QDBusMessage callBack(const QDBusMessage& reply, const QString& path, const QString& interface,
+                      const QString& method)
+{
+    return QDBusMessage::createMethodCall(reply.service(), path, interface, method);
+}
+
+} // namespace
+
+SleepInhibition::SleepInhibition(const QString& reason)
+    : m_reason(reason)
+{
+    askPortal();
+}
+
+SleepInhibition::~SleepInhibition()
+{
+    for (const auto& release : m_releases)
+        release();
+}
+
+void SleepInhibition::askPortal()
+{
+    constexpr uint suspend = 4;
+    auto question = QDBusMessage::createMethodCall(
+        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
+        u"org.freedesktop.portal.Inhibit"_s, u"Inhibit"_s);
+    const auto anyWindow = QString();
+    question << anyWindow << suspend << QVariantMap{{u"reason"_s, m_reason}};
+    const auto bus = QDBusConnection::sessionBus();
+    const auto makeRelease = [bus](const QDBusMessage& reply) -> Release {
+        const auto request = reply.arguments().value(0).value<QDBusObjectPath>().path();
+        const auto close =
+            callBack(reply, request, u"org.freedesktop.portal.Request"_s, u"Close"_s);
+        return [bus, close] { bus.send(close); };
+    };
+    ask(bus, question, makeRelease, [this] { askLoginManager(); });
+}
+
+void SleepInhibition::askLoginManager()
+{
+    auto question =
+        QDBusMessage::createMethodCall(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
+                                       u"org.freedesktop.login1.Manager"_s, u"Inhibit"_s);
+    question.setAutoStartService(false);
+    question << u"idle:sleep"_s << QCoreApplication::applicationName() << m_reason << u"block"_s;
+    // It lasts as long as the descriptor is open, which the function closes when it is destroyed.
+    const auto makeRelease = [](const QDBusMessage& reply) -> Release {
+        const auto descriptor = reply.arguments().value(0).value<QDBusUnixFileDescriptor>();
+        return [descriptor] {};
+    };
+    // To connect blocks.
+    const auto connecting = offThread([] { return QDBusConnection::systemBus(); });
+    whenFinished(connecting, this, [=, this](const QDBusConnection& bus) {
+        ask(bus, question, makeRelease, [this] { askScreenSaver(); });
+    });
+}
+
+void SleepInhibition::askScreenSaver()
+{
+    const auto path = u"/org/freedesktop/ScreenSaver"_s;
+    const auto interface = u"org.freedesktop.ScreenSaver"_s;
+    auto question = QDBusMessage::createMethodCall(interface, path, interface, u"Inhibit"_s);
+    question.setAutoStartService(false);
+    question << QCoreApplication::applicationName() << m_reason;
+    const auto bus = QDBusConnection::sessionBus();
+    const auto makeRelease = [=](const QDBusMessage& reply) -> Release {
+        auto end = callBack(reply, path, interface, u"UnInhibit"_s);
+        end << reply.arguments().value(0).toUInt();
+        return [bus, end] { bus.send(end); };
+    };
+    ask(bus, question, makeRelease, [] {});
+}
+
+void SleepInhibition::ask(const QDBusConnection& bus, const QDBusMessage& question,
+                          const MakeRelease& makeRelease, const Next& next)
+{
+    const QPointer silence(new QTimer(this));
+    silence->setSingleShot(true);
+    connect(silence, &QTimer::timeout, this, next);
+    silence->start(maxSilence);
+    callOverBus(bus, question, [=, self = QPointer(this)](const QDBusMessage& reply) {
+        const auto wasSilent = !silence || !silence->isActive();
+        delete silence;
+        if (reply.type() == QDBusMessage::ReplyMessage) {
+            const auto release = makeRelease(reply);
+            if (!self) {
+                release();
+                return;
+            }
+            self->m_releases.push_back(release);
+            self->watch(bus, reply.service(), next);
+        } else if (self && !wasSilent) {
+            next();
+        }
+    });
+}
+
+/// What a program has granted may end with it.
+void SleepInhibition::watch(const QDBusConnection& bus, const QString& service, const Next& next)
+{
+    auto* const watcher =
+        new QDBusServiceWatcher(service, bus, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, watcher, next);
+}
