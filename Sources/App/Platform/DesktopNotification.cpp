@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/DesktopNotification.h"
+
+#include "Platform/BusCall.h"
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusVariant>
+#include <QFile>
+#include <QPointer>
+#include <QVariantMap>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
+const auto portalInterface = u"org.freedesktop.portal.Notification"_s;
+const auto serverPath = u"/org/freedesktop/Notifications"_s;
+const auto serverInterface = u"org.freedesktop.Notifications"_s;
+
+/// The one notification that a program shows through the portal, and the action of a click on it.
+const auto portalId = u"notification"_s;
+const auto portalAction = u"activate"_s;
+
+/// Inside a sandbox the portal is the way to the desktop's notifications.
+bool isSandboxed()
+{
+    return QFile::exists(u"/.flatpak-info"_s) || qEnvironmentVariableIsSet("SNAP");
+}
+
+QDBusMessage serverCall(const QString& method)
+{
+    return QDBusMessage::createMethodCall(serverInterface, serverPath, serverInterface, method);
+}
+
+/// The token among the parameters of an action, which newer portals add.
+QByteArray activationToken(const QVariant& parameters)
+{
+    for (auto parameter : qdbus_cast<QVariantList>(parameters)) {
+        if (parameter.canConvert<QDBusVariant>())
+            parameter = parameter.value<QDBusVariant>().variant();
+        const auto token = qdbus_cast<QVariantMap>(parameter).value(u"activation-token"_s);
+        if (token.isValid())
+            return token.toByteArray();
+    }
+    return {};
+}
+
+} // namespace
+
+DesktopNotification::DesktopNotification(const QString& applicationId, const QString& title,
+                                         const QString& body)
+{
+    if (isSandboxed())
+        showThroughPortal(title, body);
+    else
+        askServer(applicationId, title, body);
+}
+
+DesktopNotification::~DesktopNotification()
+{
+    if (m_withdraw)
+        m_withdraw();
+}
+
+void DesktopNotification::showThroughPortal(const QString& title, const QString& body)
+{
+    auto question = QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s, portalPath,
+                                                   portalInterface, u"AddNotification"_s);
+    question << portalId
+             << QVariantMap{
+                    {u"title"_s, title}, {u"body"_s, body}, {u"default-action"_s, portalAction}};
+    show(question, [](const QDBusMessage& reply) -> Withdraw {
+        auto removal = QDBusMessage::createMethodCall(reply.service(), portalPath, portalInterface,
+                                                      u"RemoveNotification"_s);
+        removal << portalId;
+        return [removal] { QDBusConnection::sessionBus().send(removal); };
+    });
+}
+
+/// Asks first what the server can do: some show text as it is and others as markup, and some open
+/// a dialog for a notification with actions.
+void DesktopNotification::askServer(const QString& applicationId, const QString& title,
+                                    const QString& body)
+{
+    callOverBus(QDBusConnection::sessionBus(), serverCall(u"GetCapabilities"_s),
+                [=, self = QPointer(this)](const QDBusMessage& reply) {
+                    if (!self || reply.type() != QDBusMessage::ReplyMessage)
+                        return;
+                    const auto capabilities = reply.arguments().value(0).toStringList();
+                    const auto hasMarkup = capabilities.contains(u"body-markup"_s);
+                    const auto actions = capabilities.contains(u"actions"_s)
+                                             ? QStringList{u"default"_s, QString()}
+                                             : QStringList();
+                    constexpr uint replacesNone = 0;
+                    constexpr auto usualDuration = -1;
+                    auto question = serverCall(u"Notify"_s);
+                    question << QCoreApplication::applicationName() << replacesNone << applicationId
+                             << title << (hasMarkup ? body.toHtmlEscaped() : body) << actions
+                             << QVariantMap{{u"desktop-entry"_s, applicationId}} << usualDuration;
+                    self->show(question, [](const QDBusMessage& shown) -> Withdraw {
+                        auto closing = QDBusMessage::createMethodCall(
+                            shown.service(), serverPath, serverInterface, u"CloseNotification"_s);
+                        closing << shown.arguments().value(0).toUInt();
+                        return [closing] { QDBusConnection::sessionBus().send(closing); };
+                    });
+                });
+}
+
+void DesktopNotification::show(
+    const QDBusMessage& question,
+    const std::function<Withdraw(const QDBusMessage& reply)>& makeWithdraw)
+{
+    callOverBus(QDBusConnection::sessionBus(), question,
+                [=, self = QPointer(this)](const QDBusMessage& reply) {
+                    if (reply.type() != QDBusMessage::ReplyMessage)
+                        return;
+                    const auto withdraw = makeWithdraw(reply);
+                    if (!self) {
+                        withdraw(); // It is no longer wanted.
+                        return;
+                    }
+                    self->m_withdraw = withdraw;
+                    self->listen(reply);
+                });
+}
+
+/// Listens to the program that has sent `reply`. To name its service instead would make Qt ask the
+/// bus for the owner, and wait.
+void DesktopNotification::listen(const QDBusMessage& reply)
+{
+    auto bus = QDBusConnection::sessionBus();
+    if (isSandboxed()) {
+        bus.connect(reply.service(), portalPath, portalInterface, u"ActionInvoked"_s, this,
+                    SLOT(portalActionInvoked(QDBusMessage)));
+        return;
+    }
+    m_id = reply.arguments().value(0).toUInt();
+    bus.connect(reply.service(), serverPath, serverInterface, u"ActivationToken"_s, this,
+                SLOT(setActivationToken(uint, QString)));
+    bus.connect(reply.service(), serverPath, serverInterface, u"ActionInvoked"_s, this,
+                SLOT(actionInvoked(uint, QString)));
+}
+
+void DesktopNotification::portalActionInvoked(const QDBusMessage& signal)
+{
+    const auto arguments = signal.arguments();
+    if (arguments.value(0) == portalId && arguments.value(1) == portalAction)
+        Q_EMIT clicked(activationToken(arguments.value(2)));
+}
+
+void DesktopNotification::setActivationToken(uint id, const QString& token)
+{
+    if (id == m_id)
+        m_activationToken = token.toUtf8();
+}
+
+void DesktopNotification::actionInvoked(uint id, const QString& action)
+{
+    if (id == m_id && action == u"default"_s)
+        Q_EMIT clicked(m_activationToken);
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/TaskBar.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QVariantMap>
+
+using namespace Qt::StringLiterals;
+
+void showTaskBarProgress(const QString& applicationId, std::optional<double> progress)
+{
+    // The task bars of several desktops listen to it. Which object sends it does not matter.
+    auto update = QDBusMessage::createSignal(u"/com/canonical/unity/launcherentry/1"_s,
+                                             u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);
+    update << u"application://%1.desktop"_s.arg(applicationId)
+           << QVariantMap{{u"progress"_s, progress.value_or(0)},
+                          {u"progress-visible"_s, progress.has_value()}};
+    QDBusConnection::sessionBus().send(update);
+}
