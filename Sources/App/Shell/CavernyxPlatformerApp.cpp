@@ -9,6 +9,7 @@
 #include "Platform/FontConfiguration.h"
 #include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
+#include "Shell/SetupMonitor.h"
 #include "Shell/WidgetDesktop.h"
 #include "System/Errors.h"
 #include "System/InstallationLock.h"
@@ -192,10 +193,12 @@ int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
     const ColorScheme colorScheme;
     ContentView window(model);
     AppDelegate delegate(model, window);
+    const SetupMonitor setupMonitor(model, window);
     const TerminationSignals terminationSignals;
 
     QObject::connect(&colorScheme, &ColorScheme::preferenceReceived, &Palettes::apply);
     QObject::connect(&instance, &SingleInstance::activated, &delegate, &AppDelegate::activate);
+    QObject::connect(&setupMonitor, &SetupMonitor::activated, &delegate, &AppDelegate::activate);
     QObject::connect(&delegate, &AppDelegate::terminating, &instance,
                      &SingleInstance::stopListening);
     QObject::connect(&terminationSignals, &TerminationSignals::received, &delegate,
