@@ -25,6 +25,7 @@ class Desktop:
         bus = f"unix:path={environment['XDG_RUNTIME_DIR']}/bus"
         _, environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_telling(
             ["dbus-daemon", "--session", "--nofork", f"--address={bus}", "--print-address={}"])
+        environment["DBUS_SYSTEM_BUS_ADDRESS"] = environment["DBUS_SESSION_BUS_ADDRESS"]
         environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         os.environ.clear()
         os.environ.update(environment)
@@ -90,6 +91,21 @@ class Desktop:
     def front(self) -> str:
         """The title of the window that lies over all others."""
         return self._ask("getwindowname", self._visible_windows()[-1]).strip()
+
+    def watch_attention(self):
+        """Returns a function that says whether a window has asked for attention since."""
+        from Xlib import X
+        from Xlib.display import Display
+        display = Display(self.environment["DISPLAY"])
+        display.screen().root.change_attributes(event_mask=X.StructureNotifyMask)
+        display.sync()
+        wanted = display.get_atom("_NET_WM_STATE_DEMANDS_ATTENTION")
+
+        def was_wanted() -> bool:
+            events = [display.next_event() for _ in range(display.pending_events())]
+            return any(event.type == X.ClientMessage and wanted in event.data[1]
+                       for event in events)
+        return was_wanted
 
     def color_in(self, title: str, x: int, y: int) -> tuple[int, ...]:
         """What a window shows at a point of its own: red, green and blue."""

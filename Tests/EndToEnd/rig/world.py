@@ -11,6 +11,7 @@ from rig.desktop import Desktop
 from rig.file_manager import FileManager, Opener
 from rig.home import Home
 from rig.launcher import TITLE, Launcher
+from rig.session_services import SessionServices
 from rig.web_host import WebHost
 
 
@@ -75,6 +76,9 @@ class World:
 
     def start_file_manager(self) -> FileManager:
         return FileManager(self._scratch / "shown.txt")
+
+    def start_session_services(self) -> SessionServices:
+        return SessionServices(self._scratch / "noted.txt")
 
     def disconnect(self) -> None:
         private_world.disconnect(self._scratch)
