@@ -79,7 +79,7 @@ TEST_F(StaleFoldersTest, stayWithoutTheClaimOrWhileAGameRuns)
     EXPECT_EQ(StaleFolders::putBackAndList(unclaimed), QStringList());
     EXPECT_TRUE(home.exists(staging));
 
-    ForkedProcess game([this] { InstallationLock::holdAsGame(lock.descriptor()); });
+    ForkedProcess game([this] { InstallationLock::acquireAsGame(lock.descriptor()); });
     ASSERT_TRUE(waitUntil([this] { return lock.isGameRunning(); }));
     clearLeftovers();
     EXPECT_TRUE(home.exists(staging));

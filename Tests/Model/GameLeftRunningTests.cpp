@@ -28,7 +28,7 @@ protected:
                   u"Error: The game is still running from an earlier start. Close it first."_s);
     }
 
-    ForkedProcess game{[this] { InstallationLock::holdAsGame(lock.descriptor()); }};
+    ForkedProcess game{[this] { InstallationLock::acquireAsGame(lock.descriptor()); }};
 };
 
 TEST_F(GameLeftRunning, keepsItsFilesUntilItIsClosed)

@@ -156,7 +156,7 @@ TEST_F(InstallationLockTest, knowsARunningGameUntilItsEndHoweverItEnds)
     ASSERT_TRUE(lock->tryAcquire());
     EXPECT_FALSE(lock->isGameRunning());
     OtherProcess game([&lock](int answer, int orders) {
-        InstallationLock::holdAsGame(lock->descriptor());
+        InstallationLock::acquireAsGame(lock->descriptor());
         say(answer, "held\n");
         awaitOrder(orders);
         return 0;
@@ -178,7 +178,7 @@ TEST_F(InstallationLockTest, takesOnlyTheGameItselfForTheGame)
 {
     const InstallationLock lock(m_path);
     OtherProcess game([&lock](int answer, int orders) {
-        InstallationLock::holdAsGame(lock.descriptor());
+        InstallationLock::acquireAsGame(lock.descriptor());
         ::dup2(answer, STDOUT_FILENO);
         ::dup2(orders, STDIN_FILENO);
         // It becomes another program and starts a third one that goes on.
@@ -269,7 +269,7 @@ TEST_F(InstallationLockTest, isNotTakenAgainWhileAGameUsesTheFileThatWasRemoved)
     InstallationLock lock(m_path);
     ASSERT_TRUE(lock.tryAcquire());
     OtherProcess game([&lock](int answer, int orders) {
-        InstallationLock::holdAsGame(lock.descriptor());
+        InstallationLock::acquireAsGame(lock.descriptor());
         say(answer, "held\n");
         awaitOrder(orders);
         return 0;

@@ -155,6 +155,6 @@ qint64 Paths::size(const QString& path, const std::stop_token& stop)
         return [&sum](const DirectoryWalk::Entry& entry) { sum += allocatedSize(entry); };
     };
     const std::array<DirectoryWalk::Visit, 2> visitors{addTo(sums[0]), addTo(sums[1])};
-    DirectoryWalk::walkTogether(path, DirectoryWalk::Hidden::include, stop, visitors);
+    DirectoryWalk::walkInParallel(path, DirectoryWalk::Hidden::include, stop, visitors);
     return sums[0] + sums[1];
 }

@@ -28,8 +28,8 @@ PlatformError startError(const ChildProcess::Command& command, int error)
     return PlatformError::fromErrno(PlatformError::tr("start “%1”").arg(command.program), error);
 }
 
-// What follows runs in the child, a copy of a program with several threads: until it becomes the
-// other program, it may do nothing but make system calls.
+// The next functions run in the child between fork and exec, where a program with several threads
+// may only make system calls.
 
 void setParentDeathSignal([[maybe_unused]] pid_t parent) noexcept
 {
@@ -43,7 +43,7 @@ void setParentDeathSignal([[maybe_unused]] pid_t parent) noexcept
 void setCloseOnExec() noexcept
 {
 #if defined(Q_OS_LINUX)
-    // A library may have opened a descriptor without the mark.
+    // A library may have opened a descriptor without O_CLOEXEC.
     ::close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_CLOEXEC);
 #endif
 }
@@ -55,8 +55,8 @@ void unblockSignals() noexcept
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-[[noreturn]] void becomeProgram(const ChildProcess::Command& command, char* const* arguments,
-                                int nullDevice, int errors, pid_t parent) noexcept
+[[noreturn]] void execProgram(const ChildProcess::Command& command, char* const* arguments,
+                              int nullDevice, int errors, pid_t parent) noexcept
 {
     ::setpgid(0, 0);
     ::dup2(nullDevice, STDIN_FILENO);
@@ -68,16 +68,16 @@ void unblockSignals() noexcept
     if (command.lifetime == ChildProcess::Lifetime::endsWithLauncher)
         setParentDeathSignal(parent);
     else
-        ::signal(SIGPIPE, SIG_IGN); // Nobody reads its output any more when the launcher is gone.
+        ::signal(SIGPIPE, SIG_IGN); // It may write after the launcher has ended.
     if (command.installationLock >= 0)
-        InstallationLock::holdAsGame(command.installationLock);
+        InstallationLock::acquireAsGame(command.installationLock);
     ::execv(arguments[0], arguments);
     const auto error = errno;
     static_cast<void>(::write(errors, &error, sizeof error));
     ::_exit(EXIT_FAILURE);
 }
 
-// Here the child's part ends.
+// The functions below run in the launcher.
 
 Pipe makePipe(const ChildProcess::Command& command)
 {
@@ -95,7 +95,7 @@ std::vector<QByteArray> encodedArguments(const ChildProcess::Command& command)
     return encoded;
 }
 
-/// Waits for the child's end but leaves it to reap(), so that its number is not given to another.
+/// Waits for the child's end but does not reap it, so that its process id is not reused.
 void waitForEnd(pid_t id)
 {
     siginfo_t info = {};
@@ -114,14 +114,14 @@ ChildProcess::ChildProcess(const Command& command)
     for (auto& argument : encoded)
         arguments.push_back(argument.data());
     arguments.push_back(nullptr);
-    // The child writes why it could not become the program; the pipe closes when it has.
+    // The child writes the error number of a failed exec here. A successful exec closes the pipe.
     auto errors = makePipe(command);
     const FileDescriptor nullDevice(::open("/dev/null", O_RDWR | O_CLOEXEC));
     const auto parent = ::getpid();
 
     m_id = ::fork();
     if (m_id == 0)
-        becomeProgram(command, arguments.data(), nullDevice.get(), errors.writeEnd.get(), parent);
+        execProgram(command, arguments.data(), nullDevice.get(), errors.writeEnd.get(), parent);
     if (m_id < 0)
         throw startError(command, errno);
     errors.writeEnd.close();

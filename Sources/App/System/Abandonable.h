@@ -14,10 +14,10 @@
 #include <type_traits>
 #include <utility>
 
-/// Runs `work` on a thread of its own and returns its result; nothing if it has not ended when
-/// `timeout` has passed or `stop` is requested. It then goes on by itself, so it must own all that
-/// it uses; it must not throw. For calls that cannot be interrupted. Blocks. Throws PlatformError
-/// if no thread can be started.
+/// Runs `work`, a call that cannot be interrupted, on a new thread and returns its result. Returns
+/// nothing if `timeout` passes or `stop` is requested first. The thread then continues, so `work`
+/// must own everything it uses. It must not throw. Blocks. Throws PlatformError if no thread can
+/// be started.
 template<typename Work>
 auto runAbandonable(Work work, std::chrono::milliseconds timeout, const std::stop_token& stop)
     -> std::optional<std::invoke_result_t<Work&>>

@@ -58,7 +58,7 @@ QString formattedByteCount(qint64 bytes)
     std::size_t index = 0;
     while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
         ++index;
-    // What rounds up to a thousand of one unit is one of the next.
+    // An amount that rounds up to 1000 is written as 1 of the next unit.
     auto number = inUnit(bytes, units[index]);
     if (index + 1 < units.size() && (number == "1000"_L1 || number == "-1000"_L1))
         number = inUnit(bytes, units[++index]);

@@ -39,7 +39,7 @@ Kind kindOf(int folder, const dirent& entry)
         return Kind::regularFile;
     case DT_DIR:
         return Kind::folder;
-    case DT_UNKNOWN: // Some file systems do not say.
+    case DT_UNKNOWN: // Some file systems do not report the type.
         return kindByStatus(folder, entry.d_name);
     default:
         return Kind::other;
@@ -57,7 +57,7 @@ bool isSkipped(std::string_view name, DirectoryWalk::Hidden hidden)
 FileDescriptor openFolder(int root, std::string_view path)
 {
     constexpr auto flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    // The system takes no longer path in one call. A name has at most 255 bytes.
+    // One call takes at most PATH_MAX (4096) bytes. A name has at most 255.
     constexpr std::size_t maxStepLength = 4000;
     FileDescriptor reached;
     while (path.size() > maxStepLength) {
@@ -72,7 +72,7 @@ FileDescriptor openFolder(int root, std::string_view path)
         ::openat(reached.isOpen() ? reached.get() : root, std::string(path).c_str(), flags));
 }
 
-/// One walk, by one thread or several.
+/// One walk; work() may run on several threads.
 class Walk final
 {
 public:
@@ -83,7 +83,7 @@ public:
     {
     }
 
-    /// Reads folders until all threads together have read all.
+    /// Reads folders until no thread has any left.
     void work(const DirectoryWalk::Visit& visit)
     {
         while (const auto folder = takeFolder())
@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    /// Waits while another thread may still find folders. Returns nothing at the end.
+    /// Blocks while another thread may still add folders. Returns nothing at the end of the walk.
     std::optional<std::string> takeFolder()
     {
         std::unique_lock lock(m_mutex);
@@ -104,7 +104,7 @@ private:
         return folder;
     }
 
-    /// Ends what takeFolder() began.
+    /// Adds the subfolders of a folder that takeFolder() returned.
     void addFolders(std::vector<std::string>&& found)
     {
         const std::lock_guard lock(m_mutex);
@@ -114,11 +114,11 @@ private:
         m_changed.notify_all();
     }
 
-    /// Visits the entries of a folder and returns the folders among them.
+    /// Visits the entries of a folder and returns its subfolders.
     std::vector<std::string> read(const std::string& folder, const DirectoryWalk::Visit& visit)
     {
         std::vector<std::string> found;
-        const auto listing = listingOf(openFolder(m_root.get(), folder));
+        const auto listing = openListing(openFolder(m_root.get(), folder));
         if (!listing)
             return found;
         const auto descriptor = ::dirfd(listing.get());
@@ -141,7 +141,7 @@ private:
     const std::stop_token m_stop;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    /// The folders still to be read, as paths from the root.
+    /// The folders still to be read, as paths relative to the root.
     std::vector<std::string> m_pending{"."};
     int m_readers = 0;
 };
@@ -151,11 +151,11 @@ private:
 bool DirectoryWalk::walk(const QString& path, Hidden hidden, const std::stop_token& stop,
                          const Visit& visit)
 {
-    return walkTogether(path, hidden, stop, std::span(&visit, 1));
+    return walkInParallel(path, hidden, stop, std::span(&visit, 1));
 }
 
-bool DirectoryWalk::walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
-                                 std::span<const Visit> visitors)
+bool DirectoryWalk::walkInParallel(const QString& path, Hidden hidden, const std::stop_token& stop,
+                                   std::span<const Visit> visitors)
 {
     auto root = openFolder(path);
     if (!root.isOpen())
@@ -166,7 +166,7 @@ bool DirectoryWalk::walkTogether(const QString& path, Hidden hidden, const std::
         for (const auto& visit : visitors.subspan(1))
             helpers.emplace_back([&walk, &visit] { walk.work(visit); });
     } catch (const std::system_error&) {
-        // Without another thread it only takes longer.
+        // This thread walks alone.
     }
     walk.work(visitors.front());
     return true;

@@ -8,25 +8,24 @@
 #include <stop_token>
 #include <string_view>
 
-/// Walks a whole folder tree, fast enough for one of a hundred thousand files.
+/// Walks a whole folder tree.
 ///
 /// Entries come in no particular order. Symbolic links are visited but never followed, except at
-/// the given path. Folders that cannot be read are skipped. Few folders are open at a time, however
-/// deep the tree is, and it may be deeper than a path may be long. Blocks, and so belongs off the
-/// main thread.
+/// the given path. Folders that cannot be read are skipped. The number of open folders does not
+/// grow with the depth, and paths may be longer than PATH_MAX. Blocks.
 namespace DirectoryWalk {
 
-/// Whether entries whose name begins with a dot, and what is below them, are visited.
+/// Includes or skips entries whose name begins with a dot, and everything below them.
 enum class Hidden { include, skip };
 
 enum class Kind { regularFile, folder, other };
 
-/// One entry, valid only while it is visited.
+/// One entry; valid only during the visit.
 struct Entry
 {
-    /// The open folder that it lies in.
+    /// The descriptor of its folder.
     int folder = -1;
-    /// Its name there as the file system has it; a null byte follows.
+    /// Its name in that folder, undecoded and null-terminated.
     std::string_view name;
     Kind kind = Kind::other;
 };
@@ -37,9 +36,9 @@ using Visit = std::function<void(const Entry&)>;
 /// folder at `path` cannot be read.
 bool walk(const QString& path, Hidden hidden, const std::stop_token& stop, const Visit& visit);
 
-/// Like walk(), with one thread for each visitor: each entry is visited by one of them. None of
-/// them may throw.
-bool walkTogether(const QString& path, Hidden hidden, const std::stop_token& stop,
-                  std::span<const Visit> visitors);
+/// Like walk(), with one thread per visitor. Each entry goes to one of the visitors, which must not
+/// throw.
+bool walkInParallel(const QString& path, Hidden hidden, const std::stop_token& stop,
+                    std::span<const Visit> visitors);
 
 } // namespace DirectoryWalk

@@ -13,7 +13,7 @@
 std::optional<qint64> freeSpace(int descriptor)
 {
     struct statvfs status = {};
-    // Some file systems of networks and of user programs report no blocks at all.
+    // Some network and FUSE file systems report no blocks.
     if (::fstatvfs(descriptor, &status) != 0 || status.f_blocks == 0)
         return std::nullopt;
     const auto bytes = static_cast<double>(status.f_bavail) * static_cast<double>(status.f_frsize);

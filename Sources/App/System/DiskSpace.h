@@ -9,10 +9,10 @@
 
 class QString;
 
-/// The bytes that an ordinary user may still write to the file system of the open file or folder;
-/// nothing if the file system does not say. A write may still fail for want of space.
+/// Returns the bytes available to ordinary users on the file system of the open file or folder;
+/// nothing if the file system does not report them. A later write may still fail with ENOSPC.
 std::optional<qint64> freeSpace(int descriptor);
 
-/// The device of the file system that `path`, or the nearest folder above it that exists, lies on.
+/// Returns the device of the file system at `path`, or at the nearest existing folder above it.
 /// Follows symbolic links.
 dev_t deviceOf(QString path);

@@ -4,7 +4,7 @@
 #include <cerrno>
 
 PlatformError::PlatformError(const QString& sentence)
-    // The name of a file may hold a line feed, but the sentence is one line of the log.
+    // A file name may contain a line feed, but the sentence is one line of the log.
     : std::runtime_error(QString(sentence).replace(u'\n', u' ').toStdString())
 {
 }

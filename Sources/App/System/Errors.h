@@ -9,11 +9,8 @@
 #include <stdexcept>
 #include <stop_token>
 
-/// A failure in words for the player: one whole sentence, shown as it stands.
-///
-/// It describes what went wrong in the launcher's own terms, as AppError::tr("…"). What the
-/// operating system or the network reports is a PlatformError; a cancellation by the player is
-/// Cancelled.
+/// An error with one whole sentence for the player, AppError::tr("…"), shown unchanged. Errors that
+/// the operating system or the network reports are a PlatformError.
 class AppError final : public std::runtime_error
 {
     Q_DECLARE_TR_FUNCTIONS(AppError)
@@ -24,44 +21,42 @@ public:
     {
     }
 
-    /// The sentence, as given.
     [[nodiscard]] QString message() const { return QString::fromUtf8(what()); }
 };
 
-/// What the operating system or the network reported, as one plain sentence: what was being done,
-/// to which file or host, and the system's reason. What was being done, `action` below, is a
-/// translated part of that sentence: PlatformError::tr("open “%1”").
+/// An error that the operating system or the network reported, with one whole sentence for the
+/// player: the action, the file or host, and the system's reason. `action` below is a translated
+/// part of that sentence, e.g. PlatformError::tr("open “%1”").
 class PlatformError final : public std::runtime_error
 {
     Q_DECLARE_TR_FUNCTIONS(PlatformError)
 
 public:
-    /// `sentence` is shown to the player as it stands.
     explicit PlatformError(const QString& sentence);
 
     /// "Could not <action>: <the system's text for errorNumber>."
     static PlatformError fromErrno(const QString& action, int errorNumber);
 
-    /// "Could not <action>: <reason>." A full stop that ends `reason` is not doubled.
+    /// "Could not <action>: <reason>." Adds the full stop only if `reason` has none.
     static PlatformError fromReason(const QString& action, const QString& reason);
 
     [[nodiscard]] QString message() const { return QString::fromUtf8(what()); }
 };
 
-/// Whether the error number means that the system or the file system does not support a request.
+/// Returns true if the error number means that the file system or kernel does not support a call.
 [[nodiscard]] constexpr bool isUnsupported(int error)
 {
     return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == ENOTSUP;
 }
 
-/// Thrown by an operation that ended because the player cancelled it. It is not a failure.
+/// Thrown when the player cancels an operation. Not shown as a failure.
 class Cancelled final : public std::exception
 {
 public:
     [[nodiscard]] const char* what() const noexcept override { return "Cancelled."; }
 };
 
-/// Throws Cancelled when `stop` has been requested.
+/// Throws Cancelled if `stop` has been requested.
 inline void throwIfCancelled(const std::stop_token& stop)
 {
     if (stop.stop_requested())

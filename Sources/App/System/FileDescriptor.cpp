@@ -4,6 +4,7 @@
 #include <array>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 std::optional<Pipe> Pipe::make()
@@ -20,4 +21,12 @@ std::optional<Pipe> Pipe::make()
 void makeNonBlocking(const FileDescriptor& descriptor)
 {
     ::fcntl(descriptor.get(), F_SETFL, O_NONBLOCK);
+}
+
+bool isSameFile(const FileDescriptor& file, const char* path)
+{
+    struct stat opened = {};
+    struct stat found = {};
+    return ::fstat(file.get(), &opened) == 0 && ::lstat(path, &found) == 0 &&
+           opened.st_ino == found.st_ino && opened.st_dev == found.st_dev;
 }

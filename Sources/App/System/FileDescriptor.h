@@ -6,12 +6,12 @@
 
 #include <unistd.h>
 
-/// Owns an open file descriptor, or none, and closes it.
+/// Owns a file descriptor, or none, and closes it in the destructor.
 class FileDescriptor final
 {
 public:
     FileDescriptor() = default;
-    /// Takes over `descriptor`; a negative one is none.
+    /// Takes ownership of `descriptor`; a negative one means none.
     explicit FileDescriptor(int descriptor)
         : m_descriptor(descriptor)
     {
@@ -28,7 +28,7 @@ public:
     ~FileDescriptor() { close(); }
 
     [[nodiscard]] bool isOpen() const { return m_descriptor >= 0; }
-    /// The descriptor, still owned; negative when there is none.
+    /// Returns the descriptor, still owned; negative if there is none.
     [[nodiscard]] int get() const { return m_descriptor; }
     /// Returns the descriptor, which the caller must close.
     [[nodiscard]] int release() { return std::exchange(m_descriptor, -1); }
@@ -43,15 +43,18 @@ private:
     int m_descriptor = -1;
 };
 
-/// The two ends of a pipe, neither of which a child process inherits.
+/// The two ends of a pipe, both close-on-exec.
 struct Pipe
 {
     FileDescriptor readEnd;
     FileDescriptor writeEnd;
 
-    /// Returns nothing, and sets errno, if the system has no descriptor left.
+    /// Returns nothing and sets errno if the limit of open files is reached.
     static std::optional<Pipe> make();
 };
 
-/// Has reading from and writing to `descriptor` fail with EAGAIN rather than wait.
+/// Makes reads and writes fail with EAGAIN instead of blocking.
 void makeNonBlocking(const FileDescriptor& descriptor);
+
+/// Returns true if `path` names the open file or folder. Does not follow a link at `path`.
+bool isSameFile(const FileDescriptor& file, const char* path);

@@ -29,8 +29,8 @@ int exchange([[maybe_unused]] const char* first, [[maybe_unused]] const char* se
 #endif
 }
 
-/// Exchanges the two existing paths in one atomic step of the file system. Returns false, and
-/// changes nothing, if one of them does not exist or the system or file system knows no such step.
+/// Exchanges two paths atomically. Returns false, without any change, if one of them does not exist
+/// or the file system does not support it.
 bool exchangePaths(const QString& first, const QString& second)
 {
     const auto a = QFile::encodeName(first);
@@ -38,7 +38,7 @@ bool exchangePaths(const QString& first, const QString& second)
     if (exchange(a.constData(), b.constData()) == 0)
         return true;
     const auto error = errno;
-    // Then the step was not even tried, and moving one path after the other may still succeed.
+    // Two separate renames may still succeed.
     if (error == ENOENT || error == EXDEV || isUnsupported(error))
         return false;
     throw PlatformError::fromErrno(PlatformError::tr("exchange “%1” and “%2”").arg(first, second),
@@ -51,30 +51,30 @@ void throwIfNotMoved(int error, const QString& from, const QString& to)
         throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(from, to), error);
 }
 
-/// Moves the old folder out of the way, or deletes it where it cannot be moved: a folder of a lower
-/// layer of an overlay file system.
-void moveAside(const QString& target, const QString& aside, const std::stop_token& stop)
+/// Renames the old folder. Deletes it on EXDEV: overlayfs cannot rename a folder of its lower
+/// layer.
+void moveAside(const QString& target, const QString& backup, const std::stop_token& stop)
 {
-    const auto error = FileTree::rename(target, aside);
+    const auto error = FileTree::rename(target, backup);
     if (error == EXDEV)
         FileTree::remove(target, stop);
     else if (error != ENOENT)
-        throwIfNotMoved(error, target, aside);
+        throwIfNotMoved(error, target, backup);
 }
 
-void replaceInTwoSteps(const QString& target, const QString& staging, const QString& aside,
+void replaceInTwoSteps(const QString& target, const QString& staging, const QString& backup,
                        const std::stop_token& stop)
 {
-    moveAside(target, aside, stop);
+    moveAside(target, backup, stop);
     const auto error = FileTree::rename(staging, target);
     if (error == 0) {
-        std::ignore = FileTree::rename(aside, staging);
+        std::ignore = FileTree::rename(backup, staging);
         return;
     }
-    if (FileTree::exists(aside) && FileTree::rename(aside, target) != 0) {
+    if (FileTree::exists(backup) && FileTree::rename(backup, target) != 0) {
         throw PlatformError(PlatformError::tr("Could not move “%1” to “%2”. What was there before "
                                               "is now at “%3”.")
-                                .arg(staging, target, aside));
+                                .arg(staging, target, backup));
     }
     throwIfNotMoved(error, staging, target);
 }
@@ -108,13 +108,13 @@ void FileTree::removeBestEffort(const QString& path, const std::stop_token& stop
     TreeRemoval::remove(path, stop);
 }
 
-void FileTree::replace(const QString& target, const QString& staging, const QString& aside,
+void FileTree::replace(const QString& target, const QString& staging, const QString& backup,
                        const std::stop_token& stop)
 {
     syncTree(staging, stop);
     throwIfCancelled(stop);
     if (!exchangePaths(staging, target))
-        replaceInTwoSteps(target, staging, aside, stop);
-    // The new folder stands. The old one may go only when a power cut can no longer bring it back.
+        replaceInTwoSteps(target, staging, backup, stop);
+    // The caller deletes the old folder next, so the renames must be on the disk first.
     syncDirectory(QFileInfo(target).path(), stop);
 }

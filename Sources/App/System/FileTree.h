@@ -5,36 +5,34 @@
 
 #include <stop_token>
 
-/// Changes to whole folders. Every operation may block and belongs off the main thread. No
-/// operation follows a symbolic link at the path it is given.
+/// Operations on whole folders. None follows a symbolic link at the given path. All block.
 namespace FileTree {
 
-/// Whether anything, a dangling symbolic link included, is at `path`.
+/// Returns true if anything exists at `path`, even a dangling symbolic link.
 bool exists(const QString& path);
 
-/// Moves `from` to `to` in one step, as rename(2) does. Returns the system's error number, 0 for
-/// success. Never copies between file systems, as QFile::rename does.
+/// Calls rename(2) and returns the error number; 0 for success. Unlike QFile::rename, it never
+/// copies between file systems.
 [[nodiscard]] int rename(const QString& from, const QString& to) noexcept;
 
-/// Removes the file, link or folder at `path` with everything in it. Nothing there is success.
-/// Throws PlatformError, or Cancelled when `stop` is requested; what could be removed is then gone
-/// and the rest stays.
+/// Removes the file, link or folder at `path` with everything in it. Succeeds if nothing exists
+/// there. Throws PlatformError, or Cancelled when `stop` is requested; part of the folder may then
+/// be removed.
 void remove(const QString& path, const std::stop_token& stop = {});
 
-/// Removes `path` as remove() does, ignoring errors. When `stop` is requested the rest stays.
+/// Like remove(), but ignores errors. Returns early when `stop` is requested.
 void removeBestEffort(const QString& path, const std::stop_token& stop = {}) noexcept;
 
-/// Puts the folder `staging` at `target`. The old folder is at `staging` afterwards; the caller
-/// deletes it. Before that, everything in `staging` is written to the disk, so that a power
-/// cut leaves no folder with empty files there.
+/// Replaces the folder `target`, if it exists, by the folder `staging`. Writes `staging` to the
+/// disk first, so that a power cut leaves no empty files. Afterwards the old folder is at
+/// `staging`; the caller deletes it.
 ///
-/// Where the file system can exchange two folders in one step, `target` is at every instant a
-/// complete old or a complete new folder. Elsewhere the old one is moved to `aside`, a free name in
-/// the same folder, and the new one to `target`; if only `aside` is found at a later start, it
-/// is moved back. A folder that cannot be moved is deleted first. Throws PlatformError, or
-/// Cancelled when `stop` is requested before the first of these steps; the old folder is then whole
-/// at `target`, unless the error says that it is elsewhere.
-void replace(const QString& target, const QString& staging, const QString& aside,
+/// Exchanges the two atomically where the file system supports it. Elsewhere it renames `target` to
+/// `backup`, an unused path in the same parent, and then `staging` to `target`; a later start must
+/// rename `backup` back if there is no `target`. Throws PlatformError, or Cancelled when `stop` is
+/// requested before the first rename. The old folder is then intact at `target`, unless the message
+/// names another path.
+void replace(const QString& target, const QString& staging, const QString& backup,
              const std::stop_token& stop = {});
 
 } // namespace FileTree

@@ -14,8 +14,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-/// Opens the folder at `path`, or the one that a link there leads to. Returns none, and sets errno,
-/// if that fails.
+/// Opens the folder at `path`. Follows a link. Returns none and sets errno on failure.
 inline FileDescriptor openFolder(const QString& path)
 {
     return FileDescriptor(
@@ -27,11 +26,11 @@ struct CloseListing
     void operator()(DIR* listing) const { ::closedir(listing); }
 };
 
-/// The open listing of a folder, to be read with readdir().
+/// A directory stream for readdir().
 using FolderListing = std::unique_ptr<DIR, CloseListing>;
 
-/// Returns the listing of the open folder and takes it over; null if it cannot be read.
-inline FolderListing listingOf(FileDescriptor folder)
+/// Takes ownership of the open folder and returns its listing; null if it cannot be read.
+inline FolderListing openListing(FileDescriptor folder)
 {
     FolderListing listing(::fdopendir(folder.get()));
     if (listing)
@@ -39,7 +38,7 @@ inline FolderListing listingOf(FileDescriptor folder)
     return listing;
 }
 
-/// Whether `path`, relative to the open folder `base`, is a folder and not a link to one.
+/// Returns true if `path`, relative to the open folder `base`, is a folder. Does not follow a link.
 inline bool isFolder(int base, const std::string& path)
 {
     struct stat status = {};

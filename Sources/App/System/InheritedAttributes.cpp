@@ -11,7 +11,7 @@
 
 namespace {
 
-/// More are never open at a time, and some programs and libraries do something for each.
+/// The launcher needs no more, and some programs loop over all possible descriptors.
 constexpr rlim_t maxOpenFiles = 4096;
 
 std::optional<struct rlimit> inheritedOpenFiles;

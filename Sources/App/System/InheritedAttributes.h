@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The attributes of the process that come from its parent process, where they would break the
-/// launcher: closed standard descriptors, a low limit of open files, and the treatment of signals.
+/// Process attributes inherited from the parent process that can break the launcher: closed
+/// standard descriptors, a low limit of open files, signal actions and the signal mask.
 namespace InheritedAttributes {
 
-/// The fewest open files at a time that the launcher can work with.
+/// The lowest limit of open files (RLIMIT_NOFILE) that the launcher works with.
 constexpr int minOpenFiles = 64;
 
-/// Opens the closed standard descriptors on the null device, raises the limit of open files as far
-/// as allowed and needed, has a write beyond the limit of a file's size fail instead of ending the
-/// process, makes the exit statuses of children known, and unblocks the signals that end a program.
-/// To be called first of all. Returns false if fewer than `minOpenFiles` are allowed.
+/// Opens closed standard descriptors on the null device, raises the limit of open files, ignores
+/// SIGXFSZ so that a write beyond the file size limit fails instead, resets SIGCHLD so that
+/// children can be waited for, and unblocks SIGTERM, SIGINT and SIGHUP. Call it first in main().
+/// Returns false if fewer than `minOpenFiles` files are allowed.
 [[nodiscard]] bool replace();
 
-/// Restores the inherited limit of open files and the action of SIGXFSZ in a child, if replace()
-/// has changed them. To be called between fork and exec: it only makes system calls.
+/// Restores the inherited limit of open files and SIGXFSZ action in a child process. Only makes
+/// system calls, so it may be called between fork and exec.
 void restoreInChild() noexcept;
 
 } // namespace InheritedAttributes

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Each locks a byte of its own, none of which has to be in the file.
+/// The offset of the byte that each role locks. The file may be shorter.
 enum class Role : off_t { launcher = 0, game = 1 };
 
 struct flock lockOf(Role role)
@@ -50,8 +50,8 @@ InstallationLock::~InstallationLock()
 
 void InstallationLock::release()
 {
-    // The file goes before the lock does: a process that waits for the lock finds it gone, and
-    // makes a new one.
+    // Removed while still locked: a process that then locks the removed file notices, and creates a
+    // new one.
     if (isHeld() && !isGameRunning())
         QFile::remove(m_path);
     m_file.close();
@@ -71,7 +71,7 @@ bool InstallationLock::tryAcquire()
 {
     while (!isHeld()) {
         if (!isStillThere()) {
-            // Only the removed file tells of a game that was started with it.
+            // A new file would not show the lock of a game that was started with the old one.
             if (isGameRunning()) {
                 m_error = EBUSY;
                 return false;
@@ -112,11 +112,7 @@ bool InstallationLock::isHeld() const
 
 bool InstallationLock::isStillThere() const
 {
-    struct stat ours = {};
-    struct stat there = {};
-    return ::fstat(m_file.get(), &ours) == 0 &&
-           ::lstat(QFile::encodeName(m_path).constData(), &there) == 0 &&
-           ours.st_ino == there.st_ino && ours.st_dev == there.st_dev;
+    return isSameFile(m_file, QFile::encodeName(m_path).constData());
 }
 
 bool InstallationLock::isGameRunning() const
@@ -125,9 +121,10 @@ bool InstallationLock::isGameRunning() const
     return m_file.isOpen() && ::fcntl(m_file.get(), F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
 }
 
-void InstallationLock::holdAsGame(int descriptor) noexcept
+void InstallationLock::acquireAsGame(int descriptor) noexcept
 {
-    // Under another number it would be open twice, and the end of one would end the lock.
+    // Clears close-on-exec instead of duplicating the descriptor: closing either would release the
+    // lock.
     if (::fcntl(descriptor, F_SETFD, 0) == 0)
         std::ignore = tryLock(descriptor, Role::game);
 }

@@ -5,49 +5,47 @@
 
 #include <QString>
 
-/// Says which processes use an installation: at most one launcher, and the game, which may outlive
-/// a launcher that is killed.
+/// The lock file of an installation. At most one launcher holds its lock, and the running game,
+/// which may outlive a killed launcher, holds another.
 ///
-/// Both are record locks (fcntl) on a file that nothing else opens. Such a lock belongs to one
-/// process: it stays when the process becomes another program, is not passed on to what the process
-/// starts, and ends with the process however that ends, so that nothing ever has to be cleared
-/// away. A launcher whose file cannot be made or locked, or was removed or replaced by somebody,
-/// does not hold the lock.
+/// Both are record locks (fcntl) on a file that nothing else opens. A record lock belongs to one
+/// process: it survives exec, is not inherited by children, and ends with the process. A launcher
+/// whose lock file cannot be created or locked, or was removed or replaced, holds no lock.
 ///
-/// A process has at most one of these for a file: closing it would end the locks of another.
+/// A process may have only one object per file: closing a second one would release the locks.
 class InstallationLock final
 {
 public:
     /// Creates the file at `path`, with missing parents.
     explicit InstallationLock(const QString& path);
-    /// As release() does.
+    /// Calls release().
     ~InstallationLock();
 
     InstallationLock(const InstallationLock&) = delete;
     InstallationLock& operator=(const InstallationLock&) = delete;
 
-    /// Makes this process the launcher, with a new file if the former one was removed or replaced.
-    /// Returns isHeld().
+    /// Acquires the launcher's lock, on a new file if the old one was removed or replaced. Returns
+    /// isHeld().
     bool tryAcquire();
-    /// As tryAcquire(), but throws PlatformError unless this process is the launcher then.
+    /// Like tryAcquire(), but throws PlatformError on failure.
     void acquire();
-    /// Whether the last tryAcquire() failed because another process is the launcher.
+    /// Returns true if the last tryAcquire() failed because another launcher holds the lock.
     [[nodiscard]] bool isHeldByOther() const;
-    /// Releases the lock, and removes the file unless a game still uses it. From then on this
-    /// object holds nothing and sees no game.
+    /// Releases the lock, and removes the file unless a game still uses it. Afterwards isHeld() and
+    /// isGameRunning() return false.
     void release();
-    /// Whether this process is the launcher. Stale folders then belong to no running process.
+    /// Returns true if this process holds the launcher's lock. Stale folders are then unused.
     [[nodiscard]] bool isHeld() const;
 
-    /// Whether another process runs as the game.
+    /// Returns true if another process holds the game's lock.
     [[nodiscard]] bool isGameRunning() const;
 
-    /// What to hand to holdAsGame(); negative where locks do not work.
+    /// The argument for acquireAsGame(); negative if the file could not be opened.
     [[nodiscard]] int descriptor() const { return m_file.get(); }
 
-    /// Makes the calling process, a new child about to become the game, count as the running game
-    /// until it ends. Does nothing but make system calls.
-    static void holdAsGame(int descriptor) noexcept;
+    /// Acquires the game's lock in a child process. Only makes system calls, so it may be called
+    /// between fork and exec.
+    static void acquireAsGame(int descriptor) noexcept;
 
 private:
     void open();
@@ -56,6 +54,6 @@ private:
     QString m_path;
     FileDescriptor m_file;
     bool m_isLocked = false;
-    /// Why the file could not be opened or locked last time.
+    /// The error number of the last attempt to open or lock the file.
     int m_error = 0;
 };

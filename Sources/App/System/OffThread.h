@@ -11,22 +11,21 @@
 #include <type_traits>
 #include <utility>
 
-/// The threads for work that blocks: file work, downloads, child programs. More of them than there
-/// are processors, since most of their time is spent waiting. A program that ends by exit() does
-/// not wait for them.
+/// The thread pool for work that blocks: files, downloads, child processes. It has more threads
+/// than processors, since they mostly wait. exit() does not wait for them.
 inline QThreadPool& workerPool()
 {
-    static auto& pool = [&]() -> QThreadPool& {
+    static auto* const pool = [] {
         constexpr int threadCount = 8;
         auto* const created = new QThreadPool;
         created->setMaxThreadCount(threadCount);
-        return *created;
+        return created;
     }();
-    return pool;
+    return *pool;
 }
 
-/// Runs `work` on the worker pool. The future carries its result, or what it throws, unchanged;
-/// QtConcurrent::run would wrap any exception that is not one of the library's own.
+/// Runs `work` on the worker pool. The future carries its result or its exception.
+/// QtConcurrent::run would wrap an exception that is not a QException.
 template<typename Work>
 auto offThread(Work work) -> QFuture<std::invoke_result_t<Work&>>
 {
@@ -47,12 +46,11 @@ auto offThread(Work work) -> QFuture<std::invoke_result_t<Work&>>
     return promise->future();
 }
 
-/// Calls `done` with the result of `future` on the thread of `context`, which is the caller's, once
-/// the future has finished; never, if `context` is destroyed first. The future must not carry an
-/// exception.
+/// Calls `done` with the result of `future` on this thread, which must be the thread of `context`.
+/// Does not call it if `context` is destroyed first. The future must not carry an exception.
 ///
-/// It stands in for QFuture::then(context, …): that calls its continuation twice in Qt 6.4 when the
-/// future finishes in the instant in which the continuation is attached.
+/// Replaces QFuture::then(context, …), which in Qt 6.4 can call its continuation twice if the
+/// future finishes while the continuation is attached.
 template<typename Result, typename Done>
 void whenFinished(const QFuture<Result>& future, QObject* context, Done done)
 {

@@ -37,7 +37,7 @@ void OutputFile::write(QByteArrayView bytes)
 
 void OutputFile::close()
 {
-    // After an error, EINTR included, the descriptor is gone all the same.
+    // A close() that fails, also with EINTR, has released the descriptor.
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
         throw PlatformError::fromErrno(PlatformError::tr("write “%1”").arg(shownName()), errno);
 }

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::array signalNumbers{SIGTERM, SIGINT, SIGHUP};
 
-/// A handler may do little more than write to a pipe, which the event loop then reads.
+/// The write end of the pipe. In a signal handler, write() is allowed and Qt is not.
 std::atomic<int> wakeUpDescriptor = -1;
 
 void wakeUp(int)
@@ -31,9 +31,9 @@ void wakeUp(int)
 
 void setHandler(int number, void (*handler)(int))
 {
-    struct sigaction present = {};
-    ::sigaction(number, nullptr, &present);
-    if (present.sa_handler == SIG_IGN)
+    struct sigaction current = {};
+    ::sigaction(number, nullptr, &current);
+    if (current.sa_handler == SIG_IGN)
         return;
     struct sigaction action = {};
     action.sa_handler = handler;
@@ -47,7 +47,7 @@ TerminationSignals::TerminationSignals()
 {
     auto pipe = Pipe::make();
     if (!pipe)
-        return; // Without it, the signals end the program as they end any other.
+        return; // The signals then end the program at once.
     m_readEnd = std::move(pipe->readEnd);
     m_writeEnd = std::move(pipe->writeEnd);
     makeNonBlocking(m_readEnd);

@@ -9,10 +9,9 @@
 
 class QSocketNotifier;
 
-/// Turns the signals by which a system asks a program to leave (SIGTERM, SIGINT and SIGHUP) into a
-/// Qt signal on the thread this lives on; while it lives, they have no other effect. One that was
-/// ignored when the program started, as nohup does, stays ignored. At most one of these exists at a
-/// time.
+/// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal on the object's thread. A signal that was
+/// ignored at the start of the program, as with nohup, stays ignored. Only one object may exist at
+/// a time.
 class TerminationSignals final : public QObject
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     ~TerminationSignals() override;
 
 Q_SIGNALS:
-    /// Once for all signals that have come since the last time.
+    /// Emitted once for all signals since the last time.
     void received();
 
 private:

@@ -3,16 +3,17 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 std::optional<QString> Text::readFile(const QString& path, qint64 maxSize)
 {
-    // Looked at before it is opened: opening a pipe would wait for its writer.
+    // Checked first: opening a named pipe would block until it has a writer.
     if (!QFileInfo(path).isFile())
         return std::nullopt;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > maxSize)
         return std::nullopt;
-    // QFile allocates as much as it is asked for, so not the maximum.
+    // Not read(maxSize), which would allocate that much.
     const auto bytes = file.read(file.size());
     if (file.error() != QFileDevice::NoError || !QByteArrayView(bytes).isValidUtf8())
         return std::nullopt;
@@ -31,10 +32,6 @@ QStringView Text::trimmedBlanks(QStringView text)
 
 QString Text::decodedUtf8(QByteArrayView bytes)
 {
-    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
-    qsizetype marks = 0;
-    for (; bytes.startsWith(byteOrderMark); ++marks)
-        bytes = bytes.sliced(byteOrderMark.size());
-    const auto text = QString::fromUtf8(bytes);
-    return marks == 0 ? text : QString(marks, QChar::ByteOrderMark) + text;
+    using Flag = QStringDecoder::Flag;
+    return QStringDecoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom)(bytes);
 }

@@ -24,15 +24,15 @@ QString mountedThere()
     return PlatformError::tr("another file system is mounted there");
 }
 
-/// Opens a folder that need not be readable.
+/// Opens a folder without read permission.
 #if defined(O_PATH)
 constexpr auto searchOnly = O_PATH;
 #else
 constexpr auto searchOnly = O_SEARCH;
 #endif
 
-/// Returns an id of the mount that `name` in `folder` lies on; an empty name stands for `folder`.
-/// Where the system has no mount ids it is the device. Nothing when `name` is gone.
+/// Returns the mount id of `name` in `folder`, or of `folder` for an empty name; the device number
+/// on systems without mount ids. Returns nothing if `name` does not exist.
 std::optional<quint64> mountOf(int folder, const char* name)
 {
 #if defined(STATX_MNT_ID)
@@ -48,7 +48,7 @@ std::optional<quint64> mountOf(int folder, const char* name)
     return result == 0 ? std::optional(quint64{status.st_dev}) : std::nullopt;
 }
 
-/// Opens a folder, and unlocks it for that if need be.
+/// Opens a folder. Changes its mode first if it is not readable.
 FileDescriptor openFolder(int parent, const char* name)
 {
     constexpr auto flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
@@ -63,10 +63,10 @@ FileDescriptor openFolder(int parent, const char* name)
 
 std::vector<std::string> namesIn(int folder)
 {
-    const auto listing = listingOf(openFolder(folder, "."));
+    const auto listing = openListing(openFolder(folder, "."));
     if (!listing)
-        return {}; // The folder cannot be removed then, and that is reported.
-    // All before the first is removed: not every file system lists a folder well that changes.
+        return {}; // Removing the folder then fails and is reported.
+    // Some file systems skip entries if others are removed during readdir().
     std::vector<std::string> names;
     while (const auto* entry = ::readdir(listing.get())) {
         const std::string_view name(entry->d_name);
@@ -76,8 +76,9 @@ std::vector<std::string> namesIn(int folder)
     return names;
 }
 
-/// A folder has to be writable, and open to its user, for what is in it to be removed.
-bool unlock(int folder, const struct stat& status)
+/// Adds the write and search permissions without which no entry can be removed. Returns false and
+/// sets errno on failure.
+bool makeWritable(int folder, const struct stat& status)
 {
     if (::faccessat(folder, ".", W_OK | X_OK, 0) == 0)
         return true;
@@ -128,7 +129,7 @@ void TreeRemoval::run(const std::string& name)
     }
 }
 
-/// Whether another mount than that of the folder to be removed begins or goes on there.
+/// Returns true if `name` in `folder` lies on another mount than the folder to be removed.
 bool TreeRemoval::isMount(int folder, const char* name) const
 {
     const auto mount = mountOf(folder, name);
@@ -150,10 +151,10 @@ bool TreeRemoval::removeFile(int parent, const std::string& name)
     return true;
 }
 
-/// Makes the folder `name` in `parent` the current one and removes all in it but its folders.
+/// Makes the folder `name` in `parent` the current one and removes everything in it but subfolders.
 void TreeRemoval::enter(int parent, const std::string& name)
 {
-    // Looked at before it is opened, which may unlock it, and after, in case it was exchanged.
+    // Checked before openFolder(), which may change its mode, and after, in case it was replaced.
     if (isMount(parent, name.c_str())) {
         report(name, mountedThere());
         return;
@@ -164,7 +165,8 @@ void TreeRemoval::enter(int parent, const std::string& name)
         return;
     }
     struct stat status = {};
-    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0 || !unlock(opened.get(), status)) {
+    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0 ||
+        !makeWritable(opened.get(), status)) {
         const auto error = errno;
         // An empty folder can be removed although another user owns it.
         if (::unlinkat(parent, name.c_str(), AT_REMOVEDIR) != 0)
@@ -176,14 +178,14 @@ void TreeRemoval::enter(int parent, const std::string& name)
     removeEntries(m_folders.back());
 }
 
-/// Makes the folder that holds the current one the current one, and removes the former there.
+/// Returns to the parent of the current folder and removes the folder.
 void TreeRemoval::leave()
 {
     const auto folder = std::move(m_folders.back());
     m_folders.pop_back();
     if (m_folders.empty()) {
         m_current = std::move(m_parent);
-    } else if (!leaveFor(m_folders.back())) {
+    } else if (!openParent(m_folders.back())) {
         report(folder.name, PlatformError::tr("it was moved meanwhile"));
         m_folders.clear();
         return;
@@ -195,7 +197,7 @@ void TreeRemoval::leave()
 }
 
 /// Makes the parent of the current folder the current one, if it is `expected`.
-bool TreeRemoval::leaveFor(const Folder& expected)
+bool TreeRemoval::openParent(const Folder& expected)
 {
     FileDescriptor parent(::openat(m_current.get(), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     struct stat status = {};
@@ -219,7 +221,7 @@ void TreeRemoval::removeEntries(Folder& folder)
 void TreeRemoval::report(const std::string& name, int errorNumber)
 {
     if (errorNumber == ENOENT)
-        return; // It has been removed meanwhile.
+        return; // Another process has removed it.
     report(name, QString::fromStdString(std::generic_category().message(errorNumber)));
 }
 

@@ -28,8 +28,8 @@ public:
         QString reason;
     };
 
-    /// Removes the file, link or folder at `path`. Nothing there is success. Continues after a
-    /// failure and returns the first one. When `stop` is requested the rest stays. Blocks.
+    /// Removes the file, link or folder at `path`. Succeeds if nothing exists there. Continues
+    /// after a failure and returns the first one. Returns early when `stop` is requested. Blocks.
     static std::optional<Failure> remove(const QString& path, const std::stop_token& stop = {});
 
 private:
@@ -50,17 +50,17 @@ private:
     bool removeFile(int parent, const std::string& name);
     void enter(int parent, const std::string& name);
     void leave();
-    bool leaveFor(const Folder& expected);
+    bool openParent(const Folder& expected);
     void removeEntries(Folder& folder);
     void report(const std::string& name, int errorNumber);
     void report(const std::string& name, const QString& reason);
 
     const QString m_parentPath;
     const std::stop_token& m_stop;
-    /// From the folder to be removed down to the current one.
+    /// The chain from the folder to be removed to the current folder.
     std::vector<Folder> m_folders;
     FileDescriptor m_parent;
-    /// The last of m_folders; m_parent when that is empty.
+    /// The descriptor of the last of m_folders.
     FileDescriptor m_current;
     /// The mount of the folder to be removed.
     std::optional<quint64> m_mount;
