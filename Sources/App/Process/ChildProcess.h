@@ -9,31 +9,32 @@
 
 #include <sys/types.h>
 
-/// A child program that was started: the leader of a process group of its own, so that it can be
-/// signalled together with what it starts.
+/// A child process. It leads a new process group, so that it can be signalled together with its own
+/// children.
 ///
 /// It inherits the environment, the working directory, and the limits that the launcher inherited.
-/// No signal is blocked in it, its standard input is the null device, and no descriptor but the
-/// three standard ones is open.
+/// No signal is blocked, standard input is the null device, and no other descriptor than the three
+/// standard ones is open.
 class ChildProcess final
 {
 public:
-    /// Whether the child ends with the launcher, however the launcher ends, or may outlive it.
+    /// endsWithLauncher: the system kills the child when the launcher ends in any way.
     enum class Lifetime { endsWithLauncher, mayOutliveLauncher };
 
     struct Command
     {
         QString program;
         QStringList arguments;
-        /// Where standard output and standard error go.
+        /// The descriptor for standard output and standard error.
         int output = -1;
         Lifetime lifetime = Lifetime::endsWithLauncher;
-        /// With the descriptor of an InstallationLock, the child counts as the running game.
+        /// The descriptor of an InstallationLock that the child acquires as the game; else
+        /// negative.
         int installationLock = -1;
     };
 
-    /// Starts the program. A child that ends with the launcher also ends with the calling thread.
-    /// Throws PlatformError if it cannot be started.
+    /// Starts the program. With endsWithLauncher, the child also ends with the calling thread.
+    /// Throws PlatformError if the program cannot be started.
     explicit ChildProcess(const Command& command);
     /// Blocks until the child has ended.
     ~ChildProcess();
@@ -44,12 +45,12 @@ public:
     /// A descriptor that becomes readable when the child has ended.
     [[nodiscard]] int endDescriptor() const { return m_end.readEnd.get(); }
 
-    /// Signals the child's process group. Also after the child's end, until reap(), when it reaches
-    /// what the child has left behind.
+    /// Signals the child's process group. After the child's end, until reap(), this reaches the
+    /// rest of the group.
     void signalGroup(int signal) const;
 
-    /// Waits for the child's end and returns its exit status; the number of the signal that ended
-    /// it, if one did. To be called once.
+    /// Waits for the child's end and returns its exit status, or the number of the signal that
+    /// ended it. Call it once. Blocks.
     int reap();
 
 private:

@@ -28,8 +28,8 @@ void sleep(milliseconds duration, const std::stop_token& stop)
     std::condition_variable_any().wait_for(lock, stop, duration, [] { return false; });
 }
 
-/// Counts, every `poll`, what is still to import, and asks `child` to stop when `watcher` says so.
-/// Blocks until then, or until `stop` is requested.
+/// Counts the assets still to import every `poll`, until `watcher` decides to end the run, which
+/// terminates `child`, or `stop` is requested. Blocks.
 void watchImport(const QString& project, const LogCallback& log, ManagedProcess& child,
                  ImportWatcher watcher, milliseconds poll, const std::stop_token& stop)
 {
@@ -79,7 +79,7 @@ QCoro::Task<int> GameRunner::runImport(QString engine, QString project, millisec
             watchImport(project, log, *child, {durations.importSettleTime, timeout},
                         durations.importPollInterval, runEnded);
         });
-        // No argument tells the engine to quit: it ends by itself or because the watcher says so.
+        // The engine does not exit after the import; the watcher ends the run.
         return child->run(engine, {u"--path"_s, project, u"--editor"_s, u"--no-window"_s}, log);
     });
     co_return co_await run;

@@ -13,21 +13,21 @@
 #include <chrono>
 #include <memory>
 
-/// Runs the engine on the game, for the first-time import or to play, and holds the child process,
-/// so that it can be stopped. Main thread.
+/// Runs the engine for the first-time import, and holds the child process of the current run, so
+/// that it can be stopped. Main thread.
 class GameRunner final
 {
 public:
     explicit GameRunner(const Durations& durations = {});
 
-    /// The engine's arguments for a play run.
+    /// Returns the engine's arguments for a play run.
     static QStringList playArguments(const QString& project, bool fullscreen,
                                      ResolutionChoice resolution);
 
-    /// Runs the first-time import and returns the engine's exit status. A watcher logs how many
-    /// assets are still to import, and ends the run when no asset has been missing for a while or
-    /// after `timeout`; neither is an error. Throws PlatformError if the engine cannot be started.
-    /// The runner must outlive the task.
+    /// Runs the first-time import and returns the engine's exit status. Logs the number of assets
+    /// still to import, and ends the run when all are imported or after `timeout`; neither is an
+    /// error. Throws PlatformError if the engine cannot be started. The runner must outlive the
+    /// task.
     QCoro::Task<int> runImport(QString engine, QString project, std::chrono::milliseconds timeout,
                                LogCallback log);
 

@@ -3,9 +3,9 @@
 
 using namespace Qt::StringLiterals;
 
-ImportWatcher::ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds limit)
+ImportWatcher::ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds timeout)
     : m_settled(settled)
-    , m_limit(limit)
+    , m_timeout(timeout)
 {
 }
 
@@ -18,14 +18,14 @@ ImportWatcher::Step ImportWatcher::next(int count, std::chrono::milliseconds ela
     if (isSettled(count, elapsed)) {
         step.log.append(u"All assets imported, closing the setup run."_s);
         step.verdict = Verdict::end;
-    } else if (elapsed > m_limit) {
+    } else if (elapsed > m_timeout) {
         step.log.append(u"Setup took too long, stopping it."_s);
         step.verdict = Verdict::end;
     }
     return step;
 }
 
-/// Whether this count of nothing missing comes long enough after the first one in a row.
+/// Returns true if the count has been 0 for long enough.
 bool ImportWatcher::isSettled(int count, std::chrono::milliseconds elapsed)
 {
     if (count != 0) {

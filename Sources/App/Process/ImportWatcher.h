@@ -6,15 +6,15 @@
 #include <chrono>
 #include <optional>
 
-/// Decides from successive counts of the assets still to import whether an import run goes on.
-/// Pure: it does not count, wait or read a clock.
+/// Decides from successive counts of the assets still to import when an import run ends. Does not
+/// count, wait or read a clock.
 class ImportWatcher final
 {
 public:
     enum class Verdict {
         /// Keep the run and count again later.
         goOn,
-        /// End the run: its work is done, or its time is over.
+        /// End the run: all assets are imported, or the time limit has passed.
         end
     };
 
@@ -25,9 +25,8 @@ public:
         QStringList log;
     };
 
-    /// The run is done when nothing has been missing for `settled`, and given up when it has taken
-    /// more than `limit`.
-    ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds limit);
+    /// The run ends when no asset has been missing for `settled`, or after `timeout`.
+    ImportWatcher(std::chrono::milliseconds settled, std::chrono::milliseconds timeout);
 
     /// Returns what to do when `count` assets are missing `elapsed` after the start of the run.
     Step next(int count, std::chrono::milliseconds elapsed);
@@ -36,7 +35,7 @@ private:
     bool isSettled(int count, std::chrono::milliseconds elapsed);
 
     std::chrono::milliseconds m_settled;
-    std::chrono::milliseconds m_limit;
+    std::chrono::milliseconds m_timeout;
     std::optional<int> m_lastCount;
     std::optional<std::chrono::milliseconds> m_allDoneSince;
 };

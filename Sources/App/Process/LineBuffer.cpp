@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The length of `bytes` without the beginning of a UTF-8 character that is cut off at the end.
+/// Returns the length of `bytes` without an incomplete UTF-8 character at the end.
 qsizetype lengthOfWholeCharacters(QByteArrayView bytes)
 {
     constexpr qsizetype maxCharacterLength = 4;
@@ -16,7 +16,7 @@ qsizetype lengthOfWholeCharacters(QByteArrayView bytes)
     for (auto at = bytes.size() - 1; at >= first; --at) {
         const auto byte = static_cast<unsigned char>(bytes[at]);
         if ((byte & 0xC0) == 0x80)
-            continue; // It continues a character.
+            continue; // A continuation byte.
         const auto length = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : byte >= 0xC0 ? 2 : 1;
         return at + length > bytes.size() ? at : bytes.size();
     }

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Returns the last lines of `text`, at most `count`. Does not read what comes before them: the
-/// text may be large, and the log keeps few lines.
+/// Returns the last `count` lines of `text`. Does not read the lines before them, since the text
+/// may be large.
 QStringList lastLines(QStringView text, qsizetype count)
 {
     QStringList lines;
@@ -42,7 +42,7 @@ void LogStore::append(const QString& text)
         m_buffer.erase(m_buffer.begin(), m_buffer.begin() + surplus);
         m_publishedCount = std::max<qsizetype>(0, m_publishedCount - surplus);
         if (std::exchange(m_publishScheduled, true))
-            return; // The publication that is pending carries these lines too.
+            return; // The pending publish() includes these lines.
     }
     QMetaObject::invokeMethod(
         this,

@@ -14,11 +14,10 @@
 /// Takes one line for the log, or several separated by line feeds. Thread-safe.
 using LogCallback = std::function<void(const QString& text)>;
 
-/// The launcher's one log: the newest lines of everything that setup and play write, bounded.
+/// The log of setup and play, in memory only. It keeps the newest lines.
 ///
 /// Any thread may append. Changes of `lines()` are published on the main thread, at most once per
-/// flush interval, so that a flood of output does not redraw the window for every line. Lines are
-/// never written to disk.
+/// flush interval, so that the window is not redrawn for every line.
 class LogStore final : public QObject
 {
     Q_OBJECT
@@ -28,25 +27,24 @@ public:
     explicit LogStore(int maxLines = 2000,
                       std::chrono::milliseconds flushInterval = Durations().logFlushInterval);
 
-    /// Adds the lines of `text`, split at every line feed, empty pieces included. Any thread.
+    /// Adds the lines of `text`, empty ones included. Any thread.
     void append(const QString& text);
 
-    /// Empties the log and publishes that at once. Any thread.
+    /// Removes all lines and publishes that without delay. Any thread.
     void clear();
 
-    /// Returns a function that appends to this log. It must not be called once the log is gone.
+    /// Returns a function that appends to this log. The log must outlive it.
     [[nodiscard]] LogCallback callback();
 
-    /// The newest `count` lines as they are now, also those not published yet; all lines when there
-    /// are fewer. Any thread.
+    /// Returns the newest `count` lines, or all if there are fewer, including lines not published
+    /// yet. Any thread.
     [[nodiscard]] QStringList newest(qsizetype count) const;
 
     /// The published lines, oldest first. Main thread.
     [[nodiscard]] const QStringList& lines() const { return m_lines; }
 
 Q_SIGNALS:
-    /// `lines()` has changed: its first `dropped` lines are gone, and `added` follow at its end.
-    /// Main thread.
+    /// The first `dropped` of the lines were removed, and `added` appended.
     void linesChanged(qsizetype dropped, const QStringList& added);
 
 private:
@@ -58,7 +56,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::deque<QString> m_buffer;
-    /// How many of the first lines of the buffer are published already.
+    /// The number of lines at the front of the buffer that are published.
     qsizetype m_publishedCount = 0;
     bool m_publishScheduled = false;
 };

@@ -22,10 +22,9 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-/// As much as a pipe holds by default.
+/// The default capacity of a pipe.
 constexpr std::size_t chunkSize = 65'536;
-/// A child that never ends a line must not fill memory.
-constexpr qsizetype maxUnfinishedLine = 16'384;
+constexpr qsizetype maxLineLength = 16'384;
 
 Pipe makePipe()
 {
@@ -35,7 +34,7 @@ Pipe makePipe()
     return std::move(*pipe);
 }
 
-/// Delivers what a child writes to a pipe.
+/// Reads lines from a pipe.
 class OutputReader final
 {
 public:
@@ -46,18 +45,18 @@ public:
     {
     }
 
-    /// Reads once, at most `limit` bytes. Returns how many those were; 0 at the end of the stream.
+    /// Reads at most `limit` bytes. Returns the number of bytes read; 0 at the end of the stream.
     std::size_t read(std::size_t limit = chunkSize)
     {
         const auto count = ::read(m_pipe, m_chunk.data(), std::min(limit, m_chunk.size()));
         if (count <= 0)
             return 0;
         deliver(m_buffer.append(QByteArrayView(m_chunk.data(), count)));
-        deliver(m_buffer.flushIfLongerThan(maxUnfinishedLine));
+        deliver(m_buffer.flushIfLongerThan(maxLineLength));
         return static_cast<std::size_t>(count);
     }
 
-    /// Delivers what the child has left in the pipe, and its last line.
+    /// Reads what is left in the pipe and delivers the last line.
     void finish()
     {
         // Reading until the pipe is empty would not end if another process keeps writing to it.
@@ -85,7 +84,7 @@ private:
     LineBuffer m_buffer;
 };
 
-/// The time from now to `deadline` as poll() takes it: rounded up, and -1 for none.
+/// Returns the time until `deadline` for poll(), rounded up; -1 for none.
 int pollTimeout(const std::optional<Clock::time_point>& deadline)
 {
     if (!deadline)
@@ -128,7 +127,7 @@ int ManagedProcess::run(const QString& program, const QStringList& arguments,
         if (ready > 0 && endSource.revents != 0)
             break;
         if (ready > 0 && outputSource.revents != 0 && reader.read() == 0)
-            outputSource.fd = -1; // The child has closed its output and goes on.
+            outputSource.fd = -1; // The child has closed its output but still runs.
         if (m_isEndRequested && wakeUpSource.fd >= 0) {
             wakeUpSource.fd = -1;
             child.signalGroup(SIGTERM);

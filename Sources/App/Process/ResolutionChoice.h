@@ -14,8 +14,8 @@ inline constexpr std::array allResolutionChoices{ResolutionChoice::gameDefault,
                                                  ResolutionChoice::r720, ResolutionChoice::r900,
                                                  ResolutionChoice::r1080, ResolutionChoice::r1440};
 
-/// The value as it is stored and handed to the engine: empty for gameDefault, else e.g. "1280x720".
+/// Returns the value for the settings and the engine, e.g. "1280x720"; empty for gameDefault.
 QString rawValue(ResolutionChoice choice);
 
-/// The choice with this raw value, if there is one.
+/// Returns the choice with this raw value, if there is one.
 std::optional<ResolutionChoice> resolutionChoice(const QString& rawValue);
