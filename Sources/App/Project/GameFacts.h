@@ -6,26 +6,25 @@
 
 #include <array>
 
-/// All that is particular to the one game of this launcher. A launcher for another game made with
-/// Godot 3 changes this file, and the icons, pictures and translations beside it.
+/// Everything specific to the game of this launcher. A launcher for another Godot 3 game changes
+/// this file, the icons, the pictures and the translations.
 ///
-/// The build reads the names of the launcher from here for the files that desktops list it by, so
-/// each of those stands on one line.
+/// CMake reads the launcher's names from this file, so each of them must be on one line.
 namespace GameFacts {
 
 // The launcher.
 
-/// Its name in the window, and of the folder that it installs into.
+/// The name in the window, and of the installation folder.
 inline constexpr QStringView launcherName = u"Cavernyx Platformer";
-/// The file name of its program.
+/// The file name of the program.
 inline constexpr QStringView programName = u"cavernyx-platformer";
-/// What desktops know it by: the address of its makers, reversed, and a name.
+/// The id of the desktop file, in reverse-DNS form.
 inline constexpr QStringView applicationId = u"io.github.brindlework_demos.CavernyxPlatformer";
-/// Who makes it, in the listings of software.
+/// The developer's name in software centres.
 inline constexpr QStringView developers = u"The Cavernyx Platformer developers";
-/// Where it is made, in the listings of software.
+/// The homepage in software centres.
 inline constexpr QStringView homepage = u"https://github.com/brindlework-demos/CavernyxPlatformer";
-/// What it is for, in a menu of programs.
+/// The comment in application menus.
 inline constexpr QStringView purpose = u"Install and play a 2D grappling-hook adventure";
 
 // Where the game and its engine come from.
@@ -35,12 +34,12 @@ inline constexpr QStringView repository = u"brindlework-demos/tetherwalk";
 inline constexpr QStringView branch = u"master";
 /// The engine's release in the repository godotengine/godot.
 inline constexpr QStringView engineVersion = u"3.5.3-stable";
-/// About how much of the engine is downloaded.
+/// The approximate size of the engine's download.
 inline constexpr int engineMegabytes = 70;
-/// GitHub's own domains. Nothing else is contacted.
+/// GitHub's domains. No other host is contacted.
 inline constexpr std::array<QStringView, 2> allowedDomains{u"github.com", u"githubusercontent.com"};
 
-// What the window says of the game until it is downloaded, and wherever the game says nothing.
+// Defaults for facts that the game's repository does not name, or before it is downloaded.
 
 inline constexpr QStringView summary = u"A short platform/adventure demo project to teach how to "
                                        "create similar 2D games, inspired by cavernyxes.";

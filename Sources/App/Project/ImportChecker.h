@@ -5,13 +5,12 @@
 
 #include <stop_token>
 
-/// Tells how many of a project's assets the engine has still to import. Only reads; may be called
-/// from any thread, but walks the whole project and so belongs off the main thread.
+/// Counts the assets of a project that the engine has not imported yet. Thread-safe.
 namespace ImportChecker {
 
-/// The number of importable assets (images, sounds, models) below `project` that have no import
-/// record, or one whose converted files are all missing. Hidden files and folders do not count.
-/// 0 also for a folder that cannot be read, and when `stop` is requested.
+/// Returns the number of importable assets (images, sounds, models) below `project` without an
+/// import record, or whose record names only missing files. Hidden files and folders do not count.
+/// Returns 0 if the folder cannot be read or `stop` is requested. Blocks.
 int missingCount(const QString& project, const std::stop_token& stop = {});
 
 } // namespace ImportChecker

@@ -6,13 +6,13 @@
 #include <QString>
 #include <QStringList>
 
-/// What the launcher knows of the downloaded game, read from its `project.godot`.
+/// The values that the launcher reads from the game's `project.godot`.
 struct ProjectInfo
 {
     /// The folder that holds `project.godot`.
     QString folder;
     QString name = QString::fromUtf8("Game");
-    /// The file's `config_version`; 4 for Godot 3.1 to 3.6. Never 0 in a record that was read.
+    /// The `config_version`: 4 for Godot 3.1 to 3.6. inspect() never returns 0.
     qint64 configVersion = 0;
     /// A "res://" path; empty when absent.
     QString mainScene;
@@ -20,20 +20,19 @@ struct ProjectInfo
     QStringList features;
     bool usesCSharp = false;
 
-    /// Whether the project is made for Godot 3; else for Godot 4.
+    /// Returns false for a project of Godot 4.
     [[nodiscard]] bool isForGodot3() const { return configVersion <= 4; }
 
     bool operator==(const ProjectInfo&) const = default;
 };
 
-/// What the game's repository says of itself. The defaults stand in until it is downloaded, and
-/// for whatever it does not say.
+/// Facts from the README and license files of the game's repository. The defaults apply where the
+/// files name none.
 struct RepoFacts
 {
     QString summary = GameFacts::summary.toString();
-    /// The licence's name.
     QString license = GameFacts::license.toString();
-    /// The whole copyright line of the licence file.
+    /// The whole copyright line of the license file.
     QString author = GameFacts::author.toString();
 
     bool operator==(const RepoFacts&) const = default;

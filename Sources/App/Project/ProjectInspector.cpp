@@ -16,19 +16,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The window waits for what is read here, so an archive must not decide how long that takes. No
-// game comes near these limits.
+// The main thread waits for these searches, so their time is limited. Real games are far smaller.
 constexpr std::size_t maxEntries = 10'000;
 constexpr qsizetype maxSearchedFolders = 10'000;
 constexpr qint64 maxFactBytes = qint64{4} * 1024 * 1024;
 
-/// The path of the project file that `folder` holds if it is a project folder.
 QString projectFile(const QString& folder)
 {
     return folder + u"/project.godot"_s;
 }
 
-/// The entries of `folder`, in the file system's order.
+/// Returns the entries of `folder` in the file system's order.
 std::vector<std::filesystem::directory_entry> entriesOf(const QString& folder)
 {
     std::vector<std::filesystem::directory_entry> entries;
@@ -45,7 +43,7 @@ QString nameOf(const std::filesystem::directory_entry& entry)
     return QFile::decodeName(entry.path().filename().c_str());
 }
 
-/// The folders directly in `folder`, without hidden ones and links.
+/// Returns the subfolders of `folder`, without hidden ones and links.
 QStringList foldersIn(const QString& folder)
 {
     QStringList paths;
@@ -58,22 +56,22 @@ QStringList foldersIn(const QString& folder)
     return paths;
 }
 
-/// Every double-quoted run of characters in `line`. There are no escapes.
+/// Returns every double-quoted string in `line`. There are no escapes.
 QStringList quoted(QStringView line)
 {
     const auto pieces = line.split(u'"');
     QStringList items;
-    // The pieces are outside and inside quotes in turn; the last one is not closed.
+    // Every second piece is inside quotes. The last piece has no closing quote.
     for (qsizetype i = 1; i + 1 < pieces.size(); i += 2)
         items.append(pieces.at(i).toString());
     return items;
 }
 
-/// 0 for what is not a decimal number of 64 bits.
+/// Returns 0 for text that is not a decimal 64-bit number.
 qint64 decimal(QStringView text)
 {
     const auto digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
-    // Checked here, since Qt's own conversion tolerates white space.
+    // toLongLong() ignores white space.
     const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
     return std::ranges::all_of(digits, isDigit) ? text.toLongLong() : 0;
 }
@@ -133,7 +131,7 @@ void readReadme(const QString& text, RepoFacts& facts)
     }
 }
 
-/// Reads the facts of one folder, from files of at most `bytesLeft` altogether.
+/// Reads the facts of one folder. Subtracts the size of the files from `bytesLeft`, the limit.
 void readFacts(const QString& folder, qint64& bytesLeft, RepoFacts& facts)
 {
     const auto read = [&](const QString& name, auto readText) {
