@@ -1,5 +1,4 @@
-# Reads the texts that describe the launcher from the one file that knows its game, into variables
-# of the same names.
+# Reads the launcher's names and texts from GameFacts.h into variables of the same names.
 set(game_facts ${PROJECT_SOURCE_DIR}/Sources/App/Project/GameFacts.h)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${game_facts})
 foreach(fact launcherName programName applicationId developers homepage purpose)
