@@ -17,7 +17,7 @@ constexpr auto settings = "org.freedesktop.portal.Settings"_L1;
 constexpr auto appearance = "org.freedesktop.appearance"_L1;
 constexpr auto colorScheme = "color-scheme"_L1;
 
-/// The setting's value. Older portals wrap it in two variants, newer ones in one.
+/// Returns the setting's value. Older portals wrap it in two variants, newer ones in one.
 ColorScheme::Preference preference(QVariant value)
 {
     while (value.canConvert<QDBusVariant>())

@@ -5,9 +5,8 @@
 
 class QDBusMessage;
 
-/// The desktop's preference for light or dark, which its portal tells over the session bus.
-///
-/// Asks once without waiting, and then listens. Without a session bus or a portal no signal comes.
+/// Reads the desktop's preference for light or dark from the portal on the session bus, and follows
+/// its changes. Does not block. Emits no signal without a session bus or a portal.
 class ColorScheme final : public QObject
 {
     Q_OBJECT

@@ -15,15 +15,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The folder that the environment variable names, else `fallback` in the home folder.
+/// Returns the folder in the environment variable, else `fallback` in the home folder.
 QString userFolder(const char* variable, const QString& fallback)
 {
     const auto folder = absoluteFolder(qgetenv(variable));
     return folder ? *folder : homeFolder() + fallback;
 }
 
-/// The files of one folder level, in plain string order of their paths.
-std::optional<QString> engineProgramAmong(const QStringList& folders)
+/// Returns the engine program in `folders`; the first in string order if there are several.
+std::optional<QString> engineProgramIn(const QStringList& folders)
 {
     QStringList programs;
     for (const auto& folder : folders) {
@@ -39,19 +39,19 @@ std::optional<QString> engineProgramAmong(const QStringList& folders)
     return *std::ranges::min_element(programs);
 }
 
-QStringList foldersBelow(const QStringList& folders)
+QStringList subfoldersOf(const QStringList& folders)
 {
-    QStringList below;
+    QStringList subfolders;
     for (const auto& folder : folders) {
         const auto entries = QDir(folder).entryInfoList(
             QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::NoSort);
         for (const auto& entry : entries)
-            below.append(entry.filePath());
+            subfolders.append(entry.filePath());
     }
-    return below;
+    return subfolders;
 }
 
-/// The folder name the engine makes of a project name (OS::get_safe_dir_name in its sources).
+/// Returns the folder name for a project, like Godot's OS::get_safe_dir_name.
 QString engineFolderName(QString projectName)
 {
     projectName.replace(u'\\', u'/');
@@ -94,14 +94,13 @@ QString LinuxPlatform::engineArchiveSuffix(bool mono) const
 
 std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFolder) const
 {
-    // No release of the engine nests its program deeper than one folder; the bound only ends the
-    // search in a folder that holds something else.
+    // The engine's releases have one level at most.
     constexpr int maxLevel = 8;
     QStringList level{engineFolder};
     for (int depth = 0; depth <= maxLevel && !level.isEmpty(); ++depth) {
-        if (auto program = engineProgramAmong(level))
+        if (auto program = engineProgramIn(level))
             return program;
-        level = foldersBelow(level);
+        level = subfoldersOf(level);
     }
     return std::nullopt;
 }

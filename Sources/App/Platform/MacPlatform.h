@@ -3,7 +3,7 @@
 
 #include "Platform/Platform.h"
 
-/// The decisions on macOS.
+/// The decisions for macOS.
 class MacPlatform final : public Platform
 {
 public:
@@ -11,11 +11,11 @@ public:
     [[nodiscard]] QString applicationSupport() const override;
     /// `~/Library/Preferences`.
     [[nodiscard]] QString configuration() const override;
-    /// "osx.universal.zip" or "mono_osx.universal.zip"; one build serves every processor.
+    /// "osx.universal.zip" or "mono_osx.universal.zip", for every processor.
     [[nodiscard]] QString engineArchiveSuffix(bool mono) const override;
-    /// The program of the first application bundle ("*.app") in the engine folder: in its
-    /// Contents/MacOS the first entry, in plain string order, whose lower-cased name contains
-    /// "godot", else the first entry. Bundles are not searched for further bundles.
+    /// Returns the program of the first application bundle ("*.app"): in its Contents/MacOS, the
+    /// first entry in string order whose lower-cased name contains "godot", else the first entry.
+    /// Does not search for bundles inside bundles.
     [[nodiscard]] std::optional<QString>
     findEngineProgram(const QString& engineFolder) const override;
     /// `/usr/bin/ditto -x -k <archive> <destination>`.

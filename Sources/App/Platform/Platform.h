@@ -15,8 +15,8 @@ struct ToolCommand
     bool operator==(const ToolCommand&) const = default;
 };
 
-/// What the launcher decides differently from one operating system to the next. Every system's
-/// decisions are compiled and tested everywhere; hostPlatform() names the one in use. Thread-safe.
+/// The decisions that differ between operating systems. All implementations are compiled and tested
+/// on every system; hostPlatform() returns the one in use. Thread-safe.
 class Platform
 {
 public:
@@ -25,42 +25,41 @@ public:
     Platform(const Platform&) = delete;
     Platform& operator=(const Platform&) = delete;
 
-    /// The folder for the user's application data. Throws PlatformError if the home folder is not
-    /// known.
+    /// Returns the folder for the user's application data. Throws PlatformError if the home folder
+    /// is unknown.
     [[nodiscard]] virtual QString applicationSupport() const = 0;
 
-    /// The folder for the user's settings. Throws PlatformError as applicationSupport() does.
+    /// Returns the folder for the user's settings. Throws like applicationSupport().
     [[nodiscard]] virtual QString configuration() const = 0;
 
-    /// The part of the engine archive's name that names the system and the processor, ".zip"
-    /// included, for the standard or the C# edition. Throws AppError for a processor without a
-    /// build.
+    /// Returns the end of the engine archive's name: the edition, the system and the processor,
+    /// with
+    /// ".zip". Throws AppError if there is no build for the processor.
     [[nodiscard]] virtual QString engineArchiveSuffix(bool mono) const = 0;
 
-    /// The engine program in an installed engine folder. Reads only.
+    /// Returns the engine program in an installed engine folder, if there is one.
     [[nodiscard]] virtual std::optional<QString>
     findEngineProgram(const QString& engineFolder) const = 0;
 
-    /// The tool that unpacks a zip archive; nothing where the launcher unpacks in process.
+    /// Returns the tool that unpacks a zip archive; nothing where the launcher unpacks it itself.
     [[nodiscard]] virtual std::optional<ToolCommand>
     unpackCommand(const QString& archive, const QString& destination) const = 0;
 
-    /// The tool that clears the "downloaded" mark of a folder; nothing where there is no such mark.
+    /// Returns the tool that removes the quarantine attribute of a folder; nothing if none exists.
     [[nodiscard]] virtual std::optional<ToolCommand>
     clearQuarantineCommand(const QString& folder) const = 0;
 
-    /// Where the engine keeps the saves of the game called `gameName`. The folder may not exist.
+    /// Returns the engine's folder for the saves of the game `gameName`. It may not exist.
     [[nodiscard]] virtual QString savesFolder(const QString& gameName) const = 0;
 };
 
-/// The decisions of the system that the program runs on.
+/// Returns the decisions for this operating system.
 const Platform& hostPlatform();
 
-/// The user's home folder, an absolute path without a trailing slash: `$HOME`, else what the user
-/// database says. Throws PlatformError when neither names one that absoluteFolder() takes.
+/// Returns the user's home folder, from `$HOME` or else the user database, as an absolute path
+/// without a trailing slash. Throws PlatformError if there is none.
 QString homeFolder();
 
-/// The folder that the system names with `bytes`, without a trailing slash; nothing unless they
-/// begin with a slash. Throws PlatformError if they are not UTF-8, which Qt would turn into the
-/// name of another folder.
+/// Decodes a path and removes a trailing slash. Returns nothing if the path is not absolute. Throws
+/// PlatformError if it is not UTF-8, since decoding would change it.
 std::optional<QString> absoluteFolder(const QByteArray& bytes);
