@@ -24,7 +24,7 @@ TEST_F(StaleFoldersTest, areClearedWhereTheirOwnerIsGone)
     home.write(root(u"Game/project.godot"_s));
     home.write(EngineManager().folder() + u"/godot"_s);
     clearLeftovers();
-    EXPECT_EQ(StaleFolders::putBackAndList(lock), QStringList());
+    EXPECT_EQ(StaleFolders::restoreAndList(lock), QStringList());
     EXPECT_EQ(home.names(root()), (QStringList{u"Engine"_s, u"Game"_s}));
     EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList{EngineManager::version()});
     EXPECT_TRUE(exists(u"Game/project.godot"_s));
@@ -76,7 +76,7 @@ TEST_F(StaleFoldersTest, stayWithoutTheClaimOrWhileAGameRuns)
     const auto staging = root(u"Game.new-"_s + uuid + u"/file"_s);
     home.write(staging);
     const InstallationLock unclaimed(home.path(u"another lock"_s));
-    EXPECT_EQ(StaleFolders::putBackAndList(unclaimed), QStringList());
+    EXPECT_EQ(StaleFolders::restoreAndList(unclaimed), QStringList());
     EXPECT_TRUE(home.exists(staging));
 
     ForkedProcess game([this] { InstallationLock::acquireAsGame(lock.descriptor()); });
@@ -95,21 +95,21 @@ TEST_F(StaleFoldersTest, stayForTheNextStartOnceItIsToStop)
     home.write(staging);
     home.write(temporaryFile);
     stop.request_stop();
-    StaleFolders::remove(StaleFolders::putBackAndList(lock), stop.get_token());
+    StaleFolders::remove(StaleFolders::restoreAndList(lock), stop.get_token());
     EXPECT_TRUE(home.exists(staging));
     EXPECT_TRUE(home.exists(temporaryFile));
 }
 
-TEST_F(StaleFoldersTest, arePutBackWhereTheyWereMovedAsideAndNothingCameInstead)
+TEST_F(StaleFoldersTest, areMovedBackIfTheirTargetIsMissing)
 {
-    const auto aside = root(u"Game.old-"_s + uuid);
-    home.write(aside + u"/project.godot"_s);
+    const auto backup = root(u"Game.old-"_s + uuid);
+    home.write(backup + u"/project.godot"_s);
     home.write(root(u"Game.new-"_s + uuid + u"/half"_s));
     clearLeftovers();
     EXPECT_TRUE(exists(u"Game/project.godot"_s));
     EXPECT_EQ(home.names(root()), QStringList{u"Game"_s});
 
-    home.write(aside + u"/project.godot"_s);
+    home.write(backup + u"/project.godot"_s);
     home.write(root(u"Game/newer"_s));
     clearLeftovers();
     EXPECT_TRUE(exists(u"Game/newer"_s));

@@ -66,7 +66,7 @@ QStringList InstallTest::leftovers() const
 
 void InstallTest::clearLeftovers()
 {
-    StaleFolders::remove(StaleFolders::putBackAndList(lock));
+    StaleFolders::remove(StaleFolders::restoreAndList(lock));
 }
 
 void InstallTest::installGame(const QByteArray& settings) const

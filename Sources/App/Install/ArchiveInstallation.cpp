@@ -12,8 +12,8 @@
 
 namespace {
 
-/// A new folder's path beside `target`. What is there at the end is removed, unless `stop` has been
-/// requested: that may take long, and a cancel must not wait for it.
+/// A new path beside `target`. The destructor removes the folder there, unless `stop` has been
+/// requested: a cancel must not wait for that.
 class StagingFolder final
 {
 public:
@@ -48,5 +48,5 @@ void installArchive(const ArchiveInstallation& what, const FileDownloader& downl
     const StagingFolder staging(what.target, stop);
     Unzipper::unzip(archive, staging.path(), log, stop, platform);
     what.finish(staging.path());
-    FileTree::replace(what.target, staging.path(), Paths::newAsideFolder(what.target), stop);
+    FileTree::replace(what.target, staging.path(), Paths::newBackupFolder(what.target), stop);
 }

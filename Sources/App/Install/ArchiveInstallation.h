@@ -13,27 +13,23 @@ class FileDownloader;
 class InputFile;
 class Platform;
 
-/// What the installation of the game and that of the engine do differently.
+/// The differences between installing the game and the engine.
 struct ArchiveInstallation
 {
-    /// What the log says before the download.
+    /// The log line before the download.
     QString announcement;
-    /// The address of the archive.
+    /// Returns the archive's URL.
     std::function<QUrl()> url;
-    /// The folder that the archive becomes.
+    /// The installed folder.
     QString target;
-    /// Looks at the archive before it is unpacked. What it throws refuses the archive.
+    /// Checks the archive before it is unpacked. Throws to refuse it.
     std::function<void(const InputFile& archive)> verify;
-    /// Looks at the unpacked folder before it is swapped in, and finishes it. What it throws
-    /// refuses the folder.
+    /// Checks and completes the unpacked folder before it replaces the target. Throws to refuse it.
     std::function<void(const QString& staging)> finish;
 };
 
-/// Downloads an archive, unpacks it beside its target and swaps it in. Until the swap, what is at
-/// the target stays untouched.
-///
-/// Throws AppError, PlatformError, or Cancelled if `stop` is requested before the swap. No
-/// temporary folder is left on any way out; a staging folder only after a cancel, for StaleFolders
-/// to clear. Blocks.
+/// Downloads an archive, unpacks it beside its target and then replaces the target. Until then the
+/// target is unchanged. Throws AppError, PlatformError, or Cancelled when `stop` is requested. A
+/// cancel may leave a staging folder, which StaleFolders removes. Blocks.
 void installArchive(const ArchiveInstallation& what, const FileDownloader& downloader,
                     const LogCallback& log, const std::stop_token& stop, const Platform& platform);

@@ -5,36 +5,13 @@
 #include "System/Errors.h"
 #include "System/Text.h"
 
-#include <QList>
 #include <QStringView>
-
-#include <algorithm>
 
 namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
 /// Real lists have some 100 entries.
 constexpr qint64 maxListSize = mebibyte;
-
-bool isBlank(QChar character)
-{
-    return character == u' ' || character == u'\t';
-}
-
-/// What stands between runs of spaces and tabs.
-QList<QStringView> fieldsOf(QStringView line)
-{
-    QList<QStringView> fields;
-    const auto* at = line.begin();
-    while (true) {
-        at = std::find_if_not(at, line.end(), isBlank);
-        if (at == line.end())
-            return fields;
-        const auto* const end = std::find_if(at, line.end(), isBlank);
-        fields.append(QStringView(at, end));
-        at = end;
-    }
-}
 
 QStringView withoutAsterisks(QStringView name)
 {
@@ -81,10 +58,10 @@ QByteArray ChecksumList::download(const QUrl& url, std::chrono::milliseconds sta
 
 std::optional<QString> ChecksumList::digestFor(const QByteArray& list, const QString& fileName)
 {
-    const auto text = Text::decodedUtf8(list);
+    const auto text = Text::decodedUtf8(list).replace(u'\t', u' ');
     std::optional<QString> digest;
     for (const auto line : QStringView(text).split(u'\n')) {
-        const auto fields = fieldsOf(line);
+        const auto fields = line.split(u' ', Qt::SkipEmptyParts);
         if (fields.size() >= 2 && withoutAsterisks(fields.last()) == fileName)
             digest = fields.first().toString().toLower();
     }

@@ -9,20 +9,18 @@
 #include <optional>
 #include <stop_token>
 
-/// The list of SHA-512 checksums that comes with a release: one file a line, the digest first and
-/// the name last.
+/// The SHA-512 checksum list of a release. Each line has a digest first and a file name last.
 namespace ChecksumList {
 
-/// Downloads the list at `url` into memory. Throws AppError for a status other than 200 or a list
-/// of more than 1 MiB, PlatformError for what the network reports, a silence of `stallTimeout`
-/// included, and Cancelled when `stop` is requested. Blocks.
+/// Downloads the list at `url` into memory. Throws AppError for an HTTP status other than 200 or a
+/// list of more than 1 MiB, PlatformError for a network error or after `stallTimeout` without data,
+/// and Cancelled when `stop` is requested. Blocks.
 QByteArray download(const QUrl& url, std::chrono::milliseconds stallTimeout,
                     const std::stop_token& stop);
 
-/// The lower-cased digest that `list` has for the file called `fileName`, which may have asterisks
-/// around it, the mark of a binary file. The last line that names the file counts. Names match
-/// exactly: a carriage return at the end of a line belongs to the name, so that such a line never
-/// matches.
+/// Returns the digest of the file `fileName` in lower case, from the last line that names it.
+/// Ignores asterisks around the name, which mark a binary file. A carriage return is part of the
+/// name.
 std::optional<QString> digestFor(const QByteArray& list, const QString& fileName);
 
 } // namespace ChecksumList

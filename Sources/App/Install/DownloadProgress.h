@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-/// How far a download has come.
+/// The progress of a download.
 struct DownloadProgress
 {
     Q_DECLARE_TR_FUNCTIONS(DownloadProgress)
@@ -14,16 +14,16 @@ struct DownloadProgress
 public:
     /// Bytes written to disk so far.
     qint64 received = 0;
-    /// Bytes expected in all, as the server announced; below 1 when unknown.
+    /// The size that the server announced; below 1 if unknown.
     qint64 total = -1;
-    /// The average since the transfer started; always finite.
+    /// The average rate since the start; always finite.
     double bytesPerSecond = 0;
 
-    /// The progress of a transfer that started `elapsed` ago. The rate of the first moment is
-    /// taken over a whole millisecond, so that it stays finite.
+    /// Returns the progress of a transfer that started `elapsed` ago. Computes the rate over at
+    /// least one millisecond, so that it is finite.
     static DownloadProgress after(std::chrono::nanoseconds elapsed, qint64 received, qint64 total);
 
-    /// E.g. "7.3 MB of 70.1 MB · 2.4 MB/s", without the total when that is unknown. A rate that is
-    /// not finite is a programming error and stops the program.
+    /// Returns e.g. "7.3 MB of 70.1 MB · 2.4 MB/s", without the total if it is unknown. Aborts if
+    /// the rate is not finite.
     [[nodiscard]] QString text() const;
 };

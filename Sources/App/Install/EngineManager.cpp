@@ -24,14 +24,14 @@ QString editionName(const EngineManager& manager)
     return EngineManager::version() + (manager.mono ? u"-mono"_s : QString());
 }
 
-/// The release archives should carry the execute bit, but an engine without it would be of no use.
+/// Sets the execute bit, which an archive may lack.
 void makeExecutable(const QString& program)
 {
     QFile::setPermissions(program, QFile::permissions(program) | QFileDevice::ExeOwner |
                                        QFileDevice::ExeGroup | QFileDevice::ExeOther);
 }
 
-/// Returns the published digest of the archive.
+/// Downloads the checksum list and returns the archive's digest.
 QString readChecksum(const QString& archiveName, std::chrono::milliseconds stallTimeout,
                      const LogCallback& log, const std::stop_token& stop)
 {
@@ -39,9 +39,8 @@ QString readChecksum(const QString& archiveName, std::chrono::milliseconds stall
     const auto url = EngineManager::releaseURL(u"SHA512-SUMS.txt"_s);
     const auto list = ChecksumList::download(url, stallTimeout, stop);
     const auto digest = ChecksumList::digestFor(list, archiveName);
-    if (!digest) {
+    if (!digest)
         throw AppError(AppError::tr("The checksum list has no entry for %1.").arg(archiveName));
-    }
     return *digest;
 }
 
@@ -56,8 +55,7 @@ void verify(const InputFile& archive, const QString& expected, const LogCallback
     log(u"Checksum OK."_s);
 }
 
-/// Clears the mark of a downloaded program. The tool's failure is no reason to give up: it only
-/// leaves a sentence in the log.
+/// Removes the quarantine attribute of a downloaded program. Only logs a failure of the tool.
 void clearQuarantine(const ToolCommand& tool, const LogCallback& log, const std::stop_token& stop)
 {
     log(u"Removing macOS's \"downloaded from the internet\" flag from the engine. It was just "

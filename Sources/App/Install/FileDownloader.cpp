@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A name that stays in the folder it is put into, whatever the URL says.
+/// Returns the URL's file name, or "download" if it is not a valid one.
 QString fileNameOf(const QUrl& url)
 {
     const auto name = url.fileName(QUrl::FullyDecoded);
@@ -29,12 +29,12 @@ QString fileNameOf(const QUrl& url)
     return isName ? name : u"download"_s;
 }
 
-/// Refuses a download that is larger than what is free in a folder, as soon as that is known.
-class RoomCheck final
+/// Stops a download that is larger than the free space.
+class SpaceCheck final
 {
 public:
-    /// `folder` is deleted after a failure, so that the sentences name the one that it lies in.
-    RoomCheck(const QUrl& url, const QString& folder, const OutputFile& file)
+    /// Messages name the parent of `folder`, since `folder` is deleted after a failure.
+    SpaceCheck(const QUrl& url, const QString& folder, const OutputFile& file)
         : m_url(url)
         , m_folder(QFileInfo(folder).path())
         , m_free(freeSpace(file.descriptor()))
@@ -51,7 +51,7 @@ public:
         }
     }
 
-    /// Without a length, a download may not take all that is free: others need room, too.
+    /// A download of unknown length must leave a reserve for other programs.
     void checkReceived(qint64 size) const
     {
         if (m_free && size > *m_free - std::min(reserve, *m_free / 2)) {
@@ -93,7 +93,7 @@ InputFile FileDownloader::start(const QUrl& url, const QString& into,
     const auto part = into + u"/.download-"_s + Paths::newUuid();
     auto removePart = qScopeGuard([&part] { FileTree::removeBestEffort(part); });
     OutputFile file(part);
-    const RoomCheck room(url, into, file);
+    const SpaceCheck space(url, into, file);
     const auto start = std::chrono::steady_clock::now();
     qint64 received = 0;
     qint64 total = -1;
@@ -106,14 +106,14 @@ InputFile FileDownloader::start(const QUrl& url, const QString& into,
                             .arg(QString::number(status), url.toString(QUrl::FullyEncoded)));
                 }
                 total = length;
-                room.checkLength(length);
+                space.checkLength(length);
             },
         .take =
             [&](QByteArrayView piece) {
                 file.write(piece);
                 received += piece.size();
                 if (total < 0)
-                    room.checkReceived(received);
+                    space.checkReceived(received);
                 m_onProgress(DownloadProgress::after(std::chrono::steady_clock::now() - start,
                                                      received, total));
             }};

@@ -12,27 +12,24 @@
 #include <functional>
 #include <stop_token>
 
-/// Downloads a file over HTTP into a folder of the caller's choice.
-///
-/// Only the final status 200 is a success. The file appears under its own name only when it is
-/// complete; after a failure the folder holds nothing of this download.
+/// Downloads a file over HTTP.
 class FileDownloader final
 {
 public:
     using ProgressCallback = std::function<void(const DownloadProgress&)>;
 
-    /// `onProgress` is called for every piece that arrives, on the thread that runs start(). A
-    /// transfer in which no byte arrives for `stallTimeout` fails.
+    /// start() calls `onProgress` for every chunk on its own thread, and fails after `stallTimeout`
+    /// without data.
     explicit FileDownloader(ProgressCallback onProgress,
                             std::chrono::milliseconds stallTimeout = Durations().stallTimeout);
 
-    /// Downloads `url` into the existing folder `into`, replacing a file of that name, and returns
-    /// the file, opened for reading: what is read through it is what was received, whatever
-    /// happens to its name. The file is named after the URL's last path component, or "download"
-    /// when that is empty or no name for a file.
+    /// Downloads `url` into the existing folder `into` and returns the complete file, open for
+    /// reading. Replaces a file of the same name, which is the last component of the URL's path, or
+    /// "download" if that is not a valid file name.
     ///
-    /// Throws AppError for a status other than 200, PlatformError for what the network or the file
-    /// system reports, and Cancelled when `stop` is requested. Blocks.
+    /// Throws AppError for an HTTP status other than 200, PlatformError for an error of the network
+    /// or the file system, and Cancelled when `stop` is requested; nothing is then left in `into`.
+    /// Blocks.
     [[nodiscard]] InputFile start(const QUrl& url, const QString& into,
                                   const std::stop_token& stop) const;
 

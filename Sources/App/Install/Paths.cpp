@@ -24,23 +24,23 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto stagingInfix = u".new-"_s;
-const auto asideInfix = u".old-"_s;
+const auto backupInfix = u".old-"_s;
 const auto temporaryPrefix = GameFacts::launcherName.toString().remove(u' ') + u'-';
 
-/// The system's temporary folder. Not QDir::tempPath(): for a TMPDIR that does not exist, that is
-/// the root folder.
+/// Returns the system's temporary folder. QDir::tempPath() would return the root folder for a
+/// TMPDIR that does not exist.
 QString temporaryFolder()
 {
-    const auto named = qEnvironmentVariable("TMPDIR");
+    const auto path = qEnvironmentVariable("TMPDIR");
     const auto isUsable =
-        named.startsWith(u'/') && QDir::cleanPath(named) != u"/"_s && QFileInfo::exists(named);
-    return isUsable ? QDir::cleanPath(named) : u"/tmp"_s;
+        path.startsWith(u'/') && QDir::cleanPath(path) != u"/"_s && QFileInfo::exists(path);
+    return isUsable ? QDir::cleanPath(path) : u"/tmp"_s;
 }
 
-/// As long as every random UUID in its text form.
 constexpr qsizetype uuidLength = 36;
 
-/// The folders in `parent`, links among them, that are named `prefix` and then one of our UUIDs.
+/// Returns the folders in `parent`, and links to folders, whose name is `prefix`, a regular
+/// expression, and a UUID.
 QStringList foldersNamed(const QString& parent, const QString& prefix)
 {
     const QRegularExpression name(QRegularExpression::anchoredPattern(
@@ -54,17 +54,17 @@ QStringList foldersNamed(const QString& parent, const QString& prefix)
     return found;
 }
 
-/// The folders beside the game and the engine builds that have `infix` and a UUID after their name.
-QStringList foldersBesideTargets(const QString& infix)
+/// Returns the folders beside the game and the engine builds with `infix` and a UUID in their name.
+QStringList foldersWithInfix(const QString& infix)
 {
     const auto prefix = u"[^/]+"_s + QRegularExpression::escape(infix);
     return foldersNamed(Paths::root(), prefix) + foldersNamed(Paths::engines(), prefix);
 }
 
-/// The bytes that a regular file takes on disk; 0 for anything else.
+/// Returns the bytes allocated for a regular file; 0 for anything else.
 qint64 allocatedSize(const DirectoryWalk::Entry& entry)
 {
-    constexpr qint64 blockSize = 512; // whatever the file system's own block size is
+    constexpr qint64 blockSize = 512; // the unit of st_blocks on every file system
     struct stat status = {};
     if (entry.kind != DirectoryWalk::Kind::regularFile ||
         ::fstatat(entry.folder, entry.name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
@@ -110,21 +110,21 @@ QString Paths::newStagingFolder(const QString& target)
     return target + stagingInfix + newUuid();
 }
 
-QString Paths::newAsideFolder(const QString& target)
+QString Paths::newBackupFolder(const QString& target)
 {
-    return target + asideInfix + newUuid();
+    return target + backupInfix + newUuid();
 }
 
 QStringList Paths::stagingFolders()
 {
-    return foldersBesideTargets(stagingInfix);
+    return foldersWithInfix(stagingInfix);
 }
 
-QList<std::pair<QString, QString>> Paths::asideFolders()
+QList<std::pair<QString, QString>> Paths::backupFolders()
 {
     QList<std::pair<QString, QString>> folders;
-    for (const auto& folder : foldersBesideTargets(asideInfix))
-        folders.append({folder, folder.chopped(asideInfix.size() + uuidLength)});
+    for (const auto& folder : foldersWithInfix(backupInfix))
+        folders.append({folder, folder.chopped(backupInfix.size() + uuidLength)});
     return folders;
 }
 
@@ -149,7 +149,7 @@ void Paths::ensure(const QString& path)
 
 qint64 Paths::size(const QString& path, const std::stop_token& stop)
 {
-    // Two threads, since the time goes into the calls of the system: one for each file.
+    // Two threads, since the time is spent in system calls, at least one per file.
     std::array<qint64, 2> sums = {};
     const auto addTo = [](qint64& sum) {
         return [&sum](const DirectoryWalk::Entry& entry) { sum += allocatedSize(entry); };

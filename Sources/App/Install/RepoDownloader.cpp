@@ -27,13 +27,13 @@ bool hasPlayableGame(const QString& game)
     return project && isPlayable(ProjectInspector::inspect(*project));
 }
 
-/// Throws what is wrong with the unpacked game, if anything is.
+/// Throws AppError or RefusedUpdate if the unpacked game must not replace the installed one.
 void check(const QString& staging, const QString& game)
 {
     const auto project = ProjectInspector::findProject(staging);
     if (!project)
         throw AppError(AppError::tr("The downloaded game does not contain a project.godot file."));
-    // A first installation goes on in any case, and the setup then says what is wrong.
+    // A first installation continues; the setup then reports the problem.
     auto info = ProjectInspector::inspect(*project);
     if (!isPlayable(info) && hasPlayableGame(game))
         throw RefusedUpdate(std::move(info), ProjectInspector::facts(*project, staging));

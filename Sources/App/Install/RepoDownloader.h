@@ -16,14 +16,13 @@
 
 class FileDownloader;
 
-/// Thrown in place of an update that could not be played, while a game that can be is installed:
-/// the installed one stays.
+/// Thrown if an update cannot be played but the installed game can. The installed game stays.
 class RefusedUpdate final : public std::exception
 {
 public:
     RefusedUpdate(std::optional<ProjectInfo> info, RepoFacts facts);
 
-    /// What is known of the refused game; nothing if its project file cannot be read.
+    /// The refused game's project; nothing if its project file cannot be read.
     [[nodiscard]] const std::optional<ProjectInfo>& info() const { return m_info; }
     [[nodiscard]] const RepoFacts& facts() const { return m_facts; }
     [[nodiscard]] const char* what() const noexcept override { return "Refused update."; }
@@ -33,18 +32,18 @@ private:
     RepoFacts m_facts;
 };
 
-/// Installs the game: downloads the branch archive of its repository and moves it to Paths::game().
+/// Installs the game from the branch archive of its repository.
 namespace RepoDownloader {
 
 inline constexpr QStringView branch = GameFacts::branch;
 
-/// The address of the archive. Throws AppError "Invalid game URL.".
+/// Returns the URL of the archive. Throws AppError "Invalid game URL.".
 QUrl zipURL();
 
-/// Downloads, unpacks and checks the game, swaps it in at Paths::game(), and returns the folder in
-/// it that holds `project.godot`. The work is done on the worker pool. Until the swap an installed
-/// game stays untouched. The future carries an AppError, a PlatformError, a RefusedUpdate, or
-/// Cancelled if `stop` is requested before the swap.
+/// Downloads, unpacks and checks the game, replaces Paths::game(), and returns the folder with
+/// `project.godot`. Until the replacement, the installed game is unchanged. Runs on the worker
+/// pool. The future may carry AppError, PlatformError, RefusedUpdate, or Cancelled when `stop` is
+/// requested.
 QFuture<QString> fetch(std::shared_ptr<const FileDownloader> downloader, LogCallback log,
                        std::stop_token stop);
 

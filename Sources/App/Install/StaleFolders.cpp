@@ -7,23 +7,19 @@
 #include "System/FileTree.h"
 #include "System/InstallationLock.h"
 
-#include <tuple>
-
-QStringList StaleFolders::putBackAndList(const InstallationLock& lock)
+QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
 {
     if (!lock.isHeld() || lock.isGameRunning())
         return {};
     try {
-        for (const auto& [aside, target] : Paths::asideFolders()) {
-            if (!FileTree::exists(target))
-                std::ignore = FileTree::rename(aside, target);
-        }
         auto folders = Paths::stagingFolders();
-        for (const auto& [aside, target] : Paths::asideFolders())
-            folders.append(aside);
+        for (const auto& [backup, target] : Paths::backupFolders()) {
+            if (FileTree::exists(target) || FileTree::rename(backup, target) != 0)
+                folders.append(backup);
+        }
         return folders;
     } catch (const PlatformError&) {
-        return {}; // Without a home there is no root.
+        return {}; // There is no home folder.
     }
 }
 

@@ -7,17 +7,16 @@
 
 class InstallationLock;
 
-/// What launchers that were killed, or that the player did not want to wait for, have left behind:
-/// folders that were being put together, replaced or deleted, and temporary folders.
+/// Staging, backup and temporary folders that a killed or cancelled launcher has left.
 namespace StaleFolders {
 
-/// Puts back what was moved aside in order to be replaced and has not been, and returns what else
-/// is left below the storage root. To be called while this program makes no such folders of its
-/// own. Nothing is touched unless `lock` is claimed and no game runs.
-QStringList putBackAndList(const InstallationLock& lock);
+/// Moves each backup folder without a target back to its target, and returns the other stale
+/// folders below the storage root. Does nothing unless `lock` is held and no game runs. No
+/// installation may run meanwhile.
+QStringList restoreAndList(const InstallationLock& lock);
 
-/// Removes the folders listed, and the temporary folders of this user whose owner is gone. What
-/// cannot be removed stays; the rest, too, once `stop` is requested. Blocks.
+/// Removes `folders`, and the temporary folders of this user whose owner has ended. Ignores errors.
+/// Returns early when `stop` is requested. Blocks.
 void remove(const QStringList& folders, const std::stop_token& stop = {});
 
 } // namespace StaleFolders

@@ -36,15 +36,6 @@ bool isRemoved(const FileDescriptor& folder)
     return ::fstat(folder.get(), &status) == 0 && status.st_nlink == 0;
 }
 
-/// Whether `folder` is still what stands at the path `name`.
-bool isAt(const QByteArray& name, const FileDescriptor& folder)
-{
-    struct stat opened = {};
-    struct stat found = {};
-    return ::fstat(folder.get(), &opened) == 0 && ::lstat(name.constData(), &found) == 0 &&
-           opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
-}
-
 } // namespace
 
 TemporaryFolder::TemporaryFolder(const QString& path)
@@ -57,9 +48,8 @@ TemporaryFolder::TemporaryFolder(const QString& path)
             throw PlatformError::fromErrno(
                 PlatformError::tr("create the temporary folder “%1”").arg(path), errno);
         m_lock = openFolder(name);
-        // Without locks of the file system the folder is usable still; it is then never cleared by
-        // others. A launcher that clears up may have found the folder before it was locked, and has
-        // removed it when the lock comes.
+        // Another launcher may remove the folder before it is locked. A failure to lock is ignored:
+        // other launchers then never remove the folder.
         ::flock(m_lock.get(), LOCK_EX);
     } while (isRemoved(m_lock) || !FileTree::exists(path));
 }
@@ -88,8 +78,7 @@ void TemporaryFolder::removeIfAbandoned(const QString& path) noexcept
     const auto folder = openFolder(name);
     if (!folder.isOpen() || !isOwnFolder(folder) || ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0)
         return;
-    // Before the lock, another launcher may have removed the folder, and its owner created it
-    // again.
-    if (isAt(name, folder))
+    // Its owner may have created the folder again before it was locked here.
+    if (isSameFile(folder, name.constData()))
         FileTree::removeBestEffort(path);
 }

@@ -5,10 +5,10 @@
 
 #include <QString>
 
-/// A temporary folder that is removed, with everything in it, in the destructor.
+/// A temporary folder. The destructor removes it with everything in it.
 ///
-/// The folder itself is locked (flock). The lock ends with the process, so a later start can tell a
-/// folder in use from a stale one.
+/// The folder is locked with flock(). The lock ends with the process, so that a later start
+/// recognises a stale folder.
 class TemporaryFolder final
 {
 public:
@@ -20,12 +20,12 @@ public:
     TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
     /// Removes the folder at `path` if it belongs to this user and its owner has ended. Does
-    /// nothing to a link, nor where folders cannot be locked. May block.
+    /// nothing to a link, or if the file system does not support locks. Blocks.
     static void removeIfAbandoned(const QString& path) noexcept;
 
     [[nodiscard]] const QString& path() const { return m_path; }
 
-    /// Removes the folder now, ignoring errors. May block; the destructor then has nothing to do.
+    /// Removes the folder before the destructor does. Ignores errors. Blocks.
     void remove() noexcept;
 
 private:

@@ -10,15 +10,13 @@
 
 class InputFile;
 
-/// Unpacks downloaded zip archives.
+/// Unpacks zip archives.
 namespace Unzipper {
 
-/// Unpacks `archive` into the folder `destination`, which is created with missing parents. Keeps
-/// symbolic links and the execute bit. What the tool has to say goes to `log`. Throws AppError
-/// "Unzipping failed (ditto exit code N)." when the archive is damaged or not to be trusted,
-/// PlatformError when the destination cannot be created or the tool not be started, and Cancelled
-/// when `stop` is requested. After a failure the destination holds what was unpacked so far; the
-/// caller deletes it. Blocks.
+/// Unpacks `archive` into the folder `destination`, which it creates with missing parents. Keeps
+/// symbolic links and the execute bit. Writes messages to `log`. Throws AppError if the archive is
+/// damaged or refused, PlatformError if the destination cannot be created or the tool cannot be
+/// started, and Cancelled when `stop` is requested. The caller then deletes `destination`. Blocks.
 void unzip(const InputFile& archive, const QString& destination, const LogCallback& log,
            const std::stop_token& stop, const Platform& platform = hostPlatform());
 

@@ -135,7 +135,7 @@ void AppModel::concludeRemoval(const QString& failure)
 /// that.
 void AppModel::clearStaleFolders()
 {
-    const auto folders = StaleFolders::putBackAndList(m_lock);
+    const auto folders = StaleFolders::restoreAndList(m_lock);
     m_deletion = offThread([folders, stop = m_backgroundStop.get_token()] {
         StaleFolders::remove(folders, stop);
         return QString();
