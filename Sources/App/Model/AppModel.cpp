@@ -170,7 +170,7 @@ void AppModel::updateSize()
     try {
         root = Paths::root();
     } catch (const PlatformError&) {
-        return; // Nothing can be installed where there is no home; the phase says so.
+        return; // There is no home folder; the phase shows that.
     }
     const auto measurement = ++m_sizesStarted;
     const auto size =
@@ -180,7 +180,7 @@ void AppModel::updateSize()
 
 void AppModel::applySize(int measurement, qint64 bytes)
 {
-    // Several measurements may be in flight; an older one must not overwrite a newer one's result.
+    // Measurements may overlap; an older one must not overwrite the result of a newer one.
     if (measurement < m_sizeShown)
         return;
     m_sizeShown = measurement;
@@ -193,9 +193,8 @@ void AppModel::applySize(int measurement, qint64 bytes)
 
 std::shared_ptr<const FileDownloader> AppModel::makeDownloader()
 {
-    // The former relay goes, and with it every report of the former download still on its way. The
-    // new one may serve by its address: a download reports nothing once its future has finished,
-    // and no flow goes on before that.
+    // Deleting the old relay drops its pending reports. A download may keep a plain pointer to its
+    // relay, since it reports nothing after its future has finished.
     m_progressRelay = std::make_unique<ProgressRelay>();
     connect(m_progressRelay.get(), &ProgressRelay::progressed, this, &AppModel::applyProgress);
     return std::make_shared<const FileDownloader>(
@@ -225,28 +224,12 @@ void AppModel::clearProgress()
     m_progressText.clear();
 }
 
-void AppModel::enterDownloading(const QString& stepText)
+void AppModel::enter(const Phase& phase, const QString& stepText)
 {
     clearProgress();
-    m_phase = Phase::downloading();
+    m_phase = phase;
     m_stepText = stepText;
-    Q_EMIT changed();
-}
-
-void AppModel::enterSettingUp(const QString& stepText)
-{
-    clearProgress();
-    m_phase = Phase::settingUp();
-    m_stepText = stepText;
-    Q_EMIT changed();
-}
-
-void AppModel::enterPlaying(const QString& stepText)
-{
-    clearProgress();
-    m_phase = Phase::playing();
-    m_stepText = stepText;
-    m_stillStarting = true;
+    m_stillStarting = phase == Phase::Kind::playing;
     Q_EMIT changed();
 }
 

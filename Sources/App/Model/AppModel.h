@@ -26,101 +26,97 @@ class PlayOutcome;
 class ProgressRelay;
 class InstallationLock;
 
-/// The launcher's state, and everything a player can do.
+/// The launcher's state, and all actions of the player.
 ///
-/// One object publishes all that the window shows and announces every change after it has
-/// happened. Its phase is derived from what is on disk and moves only through the operations below;
-/// it alone turns the errors of the layers under it into state. Everything runs on the main thread,
-/// which nothing here blocks: downloads, child processes and walks of folders report back to it.
+/// It publishes everything that the window shows and emits changed() after each change. It derives
+/// its phase from the files on disk, and is the only layer that turns errors into state. Everything
+/// here runs on the main thread and does not block it.
 ///
-/// A press of Play or a housekeeping action that does not end at once is a flow. One flow runs at a
-/// time.
+/// Play and the maintenance actions start a flow. One flow runs at a time.
 ///
-/// Five source files: AppModel.cpp holds the state, AppModelFlow.cpp what all flows have in common,
-/// AppModelSetup.cpp the four steps from nothing to the installed game, AppModelLaunch.cpp the
-/// supervision of the game, AppModelMaintenance.cpp the housekeeping.
+/// Five source files: AppModel.cpp holds the state, AppModelFlow.cpp the start and end of a flow,
+/// AppModelSetup.cpp the four steps of the setup, AppModelLaunch.cpp the run of the game,
+/// AppModelMaintenance.cpp the maintenance actions.
 class AppModel final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The program's one model, created on first use; it lives until the program ends. Defined by
-    /// the shell, which owns the desktop. Tests construct their own.
+    /// Returns the program's model, created on first use. It exists until the program ends. Defined
+    /// in Shell/; tests construct their own model.
     static AppModel& shared();
 
-    /// Reads the stored settings and derives the state from the disk. `desktop` and `lock` must
-    /// outlive the model.
+    /// Reads the settings and calls refreshState(). `desktop` and `lock` must outlive the model.
     AppModel(Desktop& desktop, InstallationLock& lock, const Durations& durations = {});
-    /// No flow may be running: see isFlowRunning().
+    /// No flow may be running.
     ~AppModel() override;
 
     [[nodiscard]] const Phase& phase() const { return m_phase; }
     /// The current setup step, e.g. "Step 1 of 4 · Downloading the game".
     [[nodiscard]] const QString& stepText() const { return m_stepText; }
-    /// How far the current download is, 0 to 1; nothing when that is not known.
+    /// The fraction of the current download, 0 to 1; nothing if the size is unknown.
     [[nodiscard]] std::optional<double> progress() const { return m_progress; }
-    /// The download's amounts and speed; empty outside downloads.
+    /// The amounts and the rate of the current download; else empty.
     [[nodiscard]] const QString& progressText() const { return m_progressText; }
-    /// The long report of the last failure.
+    /// The last failure with the last log lines.
     [[nodiscard]] const std::optional<QString>& failureText() const { return m_failureText; }
     [[nodiscard]] const std::optional<ProjectInfo>& info() const { return m_info; }
     [[nodiscard]] const RepoFacts& facts() const { return m_facts; }
     [[nodiscard]] bool showLog() const { return m_showLog; }
-    /// From the launch of the game until it has stayed open long enough to count as started.
+    /// True from the start of the game until the startup threshold has passed.
     [[nodiscard]] bool stillStarting() const { return m_stillStarting; }
-    /// The size of everything installed, in words; empty when nothing is, or not known.
+    /// The formatted size of the installation; empty if it is unknown or nothing is installed.
     [[nodiscard]] const QString& installedSize() const { return m_installedSize; }
     [[nodiscard]] bool fullscreen() const { return m_fullscreen; }
     [[nodiscard]] ResolutionChoice resolution() const { return m_resolution; }
-    /// The phase in a word or two, and in a sentence.
+    /// The phase as a title, and as a sentence.
     [[nodiscard]] QString statusTitle() const;
     [[nodiscard]] QString statusDetail() const;
 
-    /// The log of everything setup and play wrote; never replaced.
+    /// The log of setup and play. The same object for the life of the model.
     [[nodiscard]] LogStore& log() { return m_log; }
 
     void setShowLog(bool show);
-    /// Stores the value, also when it is the present one. The next start of the game uses it. Logs
-    /// a failure to store it.
+    /// Stores the value, even if it is unchanged, for the next start of the game. Logs a failure to
+    /// store it.
     void setFullscreen(bool fullscreen);
     void setResolution(ResolutionChoice resolution);
 
-    /// Whether Play and the maintenance actions are refused: a busy phase, a flow that is still
-    /// looking at what is already there, or a program that is about to quit.
+    /// Returns true if Play and the maintenance actions are refused: in a busy phase, while a flow
+    /// runs, and after endForQuit().
     [[nodiscard]] bool isBusy() const { return m_phase.isBusy() || isFlowRunning() || m_quitting; }
-    /// From the start of a flow until all that it started has ended.
+    /// Returns true until the flow, and everything that it started, has ended.
     [[nodiscard]] bool isFlowRunning() const { return m_flowRunning; }
 
-    /// Starts the setup flow, which skips what is done and ends with the game. Returns at once;
-    /// does nothing while busy.
+    /// Starts the setup flow, which skips completed steps and then runs the game. Returns at once.
+    /// Does nothing while busy.
     void play();
-    /// Ends the flow with "Cancelled.". Returns at once; flowEnded() follows.
+    /// Cancels the flow. Returns at once; flowEnded() follows.
     void cancelSetup();
-    /// Closes the running game as the player's own wish. Returns at once; flowEnded() follows.
+    /// Stops the running game; that is not a failure. Returns at once; flowEnded() follows.
     void stopGame();
 
-    /// Each asks first where it destroys something, and does nothing while busy.
+    /// Each asks the player for confirmation, then starts a flow. Does nothing while busy.
     void updateGame();
     void reinstall();
     void removeEverything();
 
-    /// The folder with the game's saves, if the game is known and has saved anything.
+    /// Returns the folder with the game's saves, if it exists.
     [[nodiscard]] std::optional<QString> savesFolder() const;
     void showSaves();
-    /// Shows the install folder in the file browser. One set of names and texts serves every
-    /// platform, so it is the Finder here too.
+    /// Shows the installation folder in the file browser of any platform.
     void revealInFinder();
     void copyFailure();
     void copyLog();
 
-    /// Whether the program may quit: asks while the game runs, and unless the player declines ends
-    /// what runs, as endForQuit() does.
+    /// Asks the player for confirmation if the game runs. Returns false if the player declines;
+    /// else calls endForQuit() and returns true.
     bool confirmQuit();
-    /// Closes the running game as the player's own wish, or cancels a setup, without asking. From
-    /// then on nothing new begins. The caller waits for flowEnded() while isFlowRunning().
+    /// Stops the game or cancels the flow, without confirmation. Afterwards no new flow starts. The
+    /// caller waits for flowEnded() while isFlowRunning().
     void endForQuit();
 
-    /// Derives info, facts and phase from the disk and clears the progress.
+    /// Derives info, facts and phase from the files on disk, and clears the progress.
     void refreshState();
     /// Measures the installed size in the background.
     void updateSize();
@@ -128,7 +124,7 @@ public:
 Q_SIGNALS:
     /// A published property has changed.
     void changed();
-    /// A flow has ended and nothing that it started is left running.
+    /// A flow, and everything that it started, has ended.
     void flowEnded();
 
 private:
@@ -139,12 +135,10 @@ private:
     std::shared_ptr<const FileDownloader> makeDownloader();
     void applyProgress(const DownloadProgress& progress);
     void clearProgress();
-    void enterDownloading(const QString& stepText);
-    void enterSettingUp(const QString& stepText);
-    void enterPlaying(const QString& stepText);
+    void enter(const Phase& phase, const QString& stepText);
     void markStarted();
 
-    // Flows: what a press of Play or a housekeeping action starts, one at a time.
+    // Flows.
     using Flow = QCoro::Task<> (AppModel::*)(std::stop_token);
     bool failIfGameRuns();
     bool failIfNotOwner();
@@ -173,7 +167,7 @@ private:
     QCoro::Task<> deleteAndSetUp(std::stop_token stop);
     QCoro::Task<> deleteEverything(std::stop_token stop);
     void clearStaleFolders();
-    QCoro::Task<> waitUntilCleared();
+    QCoro::Task<> waitForDeletion();
     void removeRoot();
     void concludeRemoval(const QString& failure);
 
@@ -203,12 +197,12 @@ private:
     bool m_userStopped = false;
     bool m_forceGameDownload = false;
     bool m_quitting = false;
-    /// The device of the storage root, or of where it would be, at the last look at the disk.
+    /// The device of the storage root, or of its nearest existing parent, when last checked.
     dev_t m_device = 0;
 
-    /// Stops the background work: measuring, deleting and clearing up.
+    /// Stops the measurements and deletions in the background.
     std::stop_source m_backgroundStop;
-    /// The deletion in the background. Its result is the failure to show; empty for none.
+    /// The deletion in the background. Its result is the failure's sentence; empty for success.
     QFuture<QString> m_deletion = QtFuture::makeReadyFuture(QString());
     int m_sizesStarted = 0;
     int m_sizeShown = 0;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What every flow has in common, be it a press of Play or a housekeeping action: that there is one
-// at a time, how it is ended, and how its end is told.
+// The start, the cancellation and the end of a flow.
 #include "Model/AppModel.h"
 
 #include "Install/Paths.h"
@@ -21,8 +20,8 @@ constexpr int reportedLogLines = 30;
 
 bool AppModel::failIfGameRuns()
 {
-    // It was left running by a launcher that was killed. Its files must not change under it, and a
-    // second one would write to the same saves.
+    // A killed launcher has left it running. Its files must not change, and a second game would
+    // write to the same saves.
     if (!m_lock.isGameRunning())
         return false;
     concludeFailed(tr("The game is still running from an earlier start. Close it first."));
@@ -40,8 +39,8 @@ bool AppModel::failIfNotOwner()
     }
 }
 
-/// To be called before anything is installed or removed. Throws AppError or PlatformError when the
-/// disk is another one than the player was told of, or when another launcher may use it.
+/// Acquires the lock before anything is installed or removed. Throws AppError if the storage root
+/// is on another disk than before, and PlatformError if the lock cannot be acquired.
 void AppModel::ensureOwner()
 {
     const auto root = Paths::root();
@@ -81,7 +80,7 @@ QCoro::Task<> AppModel::runFlow(Flow flow, std::stop_token stop)
 
 void AppModel::cancelSetup()
 {
-    // Before anything else is stopped: an error of the interrupted step is then taken for a cancel.
+    // First, so that runFlow() treats an error of the interrupted step as a cancellation.
     m_flowStop.request_stop();
     m_backgroundStop.request_stop(); // The flow may be waiting for a deletion.
     m_runner.terminateCurrent();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Starts the game and stays with it until it ends. A game that closes at once is the commonest way
-// for a launcher to look broken, so the first seconds are watched.
+// Runs the game. A game that closes within the startup threshold has failed to start.
 #include "Model/AppModel.h"
 
 #include "Install/EngineManager.h"
@@ -23,13 +22,13 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
 {
     const auto arguments = GameRunner::playArguments(project, m_fullscreen, m_resolution);
     m_log.append(u"Step 4 of 4 · Starting: Godot "_s + arguments.join(u' '));
-    // The next launcher looks for the game's lock in the file that is there now. A game is started
-    // without it, too.
+    // The next launcher looks for the game's lock in the current file. On failure the game starts
+    // without a lock.
     m_lock.tryAcquire();
-    // Before the phase is announced: a stop that is asked for in that moment reaches the game too.
+    // Set before enter(), since a handler of changed() may call stopGame().
     m_runner.process = std::make_shared<ManagedProcess>(
         ManagedProcess::Lifetime::mayOutliveLauncher, m_durations.killTimeout, m_lock.descriptor());
-    enterPlaying(tr("Step 4 of 4 · Play"));
+    enter(Phase::playing(), tr("Step 4 of 4 · Play"));
 
     const auto start = std::chrono::steady_clock::now();
     const auto status = co_await runGame(engine, arguments);
@@ -63,8 +62,8 @@ void AppModel::concludePlay(const PlayOutcome& outcome)
         refreshState();
         return;
     case PlayOutcome::Kind::closedTooSoon:
-        // The next Play imports once more. Always the name of the standard edition, deliberately:
-        // a C# game keeps its marker, and is not imported again because it closed at once.
+        // The next Play imports the assets again. Only in the standard edition: the marker of a C#
+        // game stays.
         if (m_lock.isHeld())
             QFile::remove(EngineManager{.mono = false}.markerFile());
         throw AppError(outcome.sentence());

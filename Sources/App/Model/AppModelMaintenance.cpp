@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The housekeeping a player can do besides playing. What destroys something asks first.
+// The player's maintenance actions, and quitting.
 #include "Model/AppModel.h"
 
 #include "Install/EngineManager.h"
@@ -22,9 +22,9 @@ namespace {
 
 constexpr int copiedLogLines = 2000;
 
-/// Renames the game and the engines, each in one step, so that no half-deleted folder stays at a
-/// final path. A folder that cannot be renamed is deleted where it is.
-void vacate(const std::stop_token& stop)
+/// Renames the game and the engines, so that a partly deleted folder is never at its final path.
+/// Deletes a folder that cannot be renamed.
+void moveAside(const std::stop_token& stop)
 {
     for (const auto& folder : {Paths::game(), Paths::engines()}) {
         const auto error = FileTree::rename(folder, Paths::newStagingFolder(folder));
@@ -38,7 +38,7 @@ void vacate(const std::stop_token& stop)
 bool AppModel::askToChange(const QString& title, const QString& message, const QString& button)
 {
     const auto isRefused = [this] { return isBusy() || failIfGameRuns() || failIfNotOwner(); };
-    // While a question stands the program goes on, and may have begun something else.
+    // The event loop runs while the question is open, so the state may have changed.
     return !isRefused() && m_desktop.confirm(title, message, button) && !isRefused();
 }
 
@@ -66,8 +66,8 @@ void AppModel::reinstall()
 
 QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 {
-    co_await waitUntilCleared();
-    const auto moving = offThread([stop] { vacate(stop); });
+    co_await waitForDeletion();
+    const auto moving = offThread([stop] { moveAside(stop); });
     co_await moving;
     throwIfCancelled(stop);
     clearStaleFolders();
@@ -90,10 +90,10 @@ void AppModel::removeEverything()
 
 QCoro::Task<> AppModel::deleteEverything(std::stop_token stop)
 {
-    co_await waitUntilCleared();
-    // Of a root that is a symbolic link only the link goes, as when a file browser removes it.
+    co_await waitForDeletion();
+    // If the root is a symbolic link, only the link is removed.
     if (!QFileInfo(Paths::root()).isSymLink()) {
-        const auto moving = offThread([stop] { vacate(stop); });
+        const auto moving = offThread([stop] { moveAside(stop); });
         co_await moving;
         throwIfCancelled(stop);
     }
@@ -109,7 +109,7 @@ void AppModel::removeRoot()
         } catch (const PlatformError& error) {
             return tr("Could not remove the files: %1").arg(error.message());
         } catch (const Cancelled&) {
-            // The next start goes on.
+            // The next start removes the rest.
         }
         return QString();
     });
@@ -119,10 +119,10 @@ void AppModel::removeRoot()
 void AppModel::concludeRemoval(const QString& failure)
 {
     m_deletion = QtFuture::makeReadyFuture(QString());
-    // Neither a cancelled removal nor a flow that has begun meanwhile loses its lines.
+    // The log is kept after a cancelled removal, and if a flow has started.
     if (failure.isEmpty() && !isFlowRunning() && !FileTree::exists(Paths::root()))
         m_log.clear();
-    // A flow that began meanwhile has waited for this, and tells the failure itself.
+    // A flow that has started gets the failure from waitForDeletion().
     if (isFlowRunning())
         updateSize();
     else if (failure.isEmpty())
@@ -131,8 +131,7 @@ void AppModel::concludeRemoval(const QString& failure)
         fail(failure);
 }
 
-/// Deletes stale folders in the background. Neither a cancel nor the first press of Play waits for
-/// that.
+/// Deletes stale folders in the background.
 void AppModel::clearStaleFolders()
 {
     const auto folders = StaleFolders::restoreAndList(m_lock);
@@ -146,8 +145,8 @@ void AppModel::clearStaleFolders()
     });
 }
 
-/// A deletion makes room for what is about to be downloaded.
-QCoro::Task<> AppModel::waitUntilCleared()
+/// Waits for the deletion in the background. Throws AppError if it has failed.
+QCoro::Task<> AppModel::waitForDeletion()
 {
     const auto deletion = m_deletion;
     const QString failure = co_await deletion;
@@ -175,7 +174,7 @@ void AppModel::revealInFinder()
         const auto root = Paths::root();
         m_desktop.revealFolder(QFileInfo::exists(root) ? root : QFileInfo(root).path());
     } catch (const PlatformError& error) {
-        fail(error.message()); // There is no home, and so nothing to show.
+        fail(error.message()); // There is no home folder.
     }
 }
 
@@ -198,13 +197,13 @@ bool AppModel::confirmQuit()
                                tr("Quit")))
             return false;
     }
-    endForQuit(); // Harmless when the game has ended while the question stood.
+    endForQuit();
     return true;
 }
 
 void AppModel::endForQuit()
 {
-    // An answer to a question that comes after this starts no flow.
+    // A question that is still open must not start a flow.
     m_quitting = true;
     if (m_phase == Phase::Kind::playing)
         stopGame();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// From nothing to the running game: the four steps of one press of Play. Each looks at what is
-// already done on disk and skips it, so the same flow serves the first run, an interrupted run and
-// every later one.
+// The four steps of Play. Each step checks the disk and is skipped if it is already complete.
 #include "Model/AppModel.h"
 
 #include "Install/EngineManager.h"
@@ -37,8 +35,8 @@ QFuture<int> countMissing(const QString& project, const std::stop_token& stop)
 }
 
 /// Writes the assets in the folder of `path` to the disk, then creates the marker `path`. Ignores a
-/// failure to create it: the next Play then imports once more. Blocks. Throws PlatformError when
-/// the assets could not be written, or Cancelled when `stop` is requested.
+/// failure to create it: the next Play then imports again. Throws PlatformError if the assets
+/// cannot be written, and Cancelled when `stop` is requested. Blocks.
 void createMarker(const QString& path, const std::stop_token& stop)
 {
     syncTree(QFileInfo(path).path(), stop);
@@ -80,8 +78,8 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
     throwIfCancelled(stop);
     ensureOwner();
     m_forceGameDownload = false;
-    enterDownloading(tr("Step 1 of 4 · Downloading the game"));
-    co_await waitUntilCleared();
+    enter(Phase::downloading(), tr("Step 1 of 4 · Downloading the game"));
+    co_await waitForDeletion();
     throwIfCancelled(stop);
     const auto fetching = RepoDownloader::fetch(makeDownloader(), m_log.callback(), stop);
     QString project;
@@ -104,7 +102,7 @@ QCoro::Task<ProjectInfo> AppModel::readProject(QString project)
     co_return *info;
 }
 
-/// Shows and logs what is known of the downloaded game. Throws AppError if it cannot be played.
+/// Publishes and logs the facts of the downloaded game. Throws AppError if it cannot be played.
 void AppModel::useProject(const std::optional<ProjectInfo>& info, const RepoFacts& facts)
 {
     if (!info)
@@ -129,8 +127,8 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
         throwIfCancelled(stop);
         ensureOwner();
         const auto edition = manager.mono ? u"-mono"_s : QString();
-        enterDownloading(tr("Step 2 of 4 · Downloading the Godot engine (%1%2)")
-                             .arg(EngineManager::version(), edition));
+        enter(Phase::downloading(), tr("Step 2 of 4 · Downloading the Godot engine (%1%2)")
+                                        .arg(EngineManager::version(), edition));
         const auto installing = manager.install(makeDownloader(), m_log.callback(), stop);
         engine = co_await installing;
     }
@@ -152,11 +150,11 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     }
     ensureOwner();
     QFile::remove(manager.markerFile());
-    enterSettingUp(tr("Step 3 of 4 · First-time setup, this can take a minute or more"));
-    // The sentence is fixed. The run is given no "--quit": its watcher ends it.
+    enter(Phase::settingUp(), tr("Step 3 of 4 · First-time setup, this can take a minute or more"));
+    // This text is fixed, although runImport() passes no --quit.
     m_log.append(u"Importing the game's assets (Godot 3 has no --headless flag; "
                  "using --editor --no-window --quit)."_s);
-    throwIfCancelled(stop); // A cancel may come while the phase is announced.
+    throwIfCancelled(stop); // A handler of changed() may have called cancelSetup().
     const auto log = m_log.callback();
     const auto status =
         co_await m_runner.runImport(engine, info.folder, m_durations.importTimeout, log);

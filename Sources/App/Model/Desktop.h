@@ -3,17 +3,17 @@
 
 #include <QString>
 
-/// What the model needs from the desktop. The shell implements it; tests replace it. Main thread.
+/// The model's interface to the desktop. Tests replace it. Main thread.
 class Desktop
 {
 public:
     virtual ~Desktop() = default;
 
-    /// Asks the player in a modal alert with the buttons `button` and "Cancel"; true exactly when
-    /// the player chose `button`.
+    /// Shows a modal alert with the buttons `button` and "Cancel". Returns true if the player chose
+    /// `button`.
     virtual bool confirm(const QString& title, const QString& message, const QString& button) = 0;
 
-    /// Puts `text` on the clipboard as plain text, in place of what is there.
+    /// Replaces the clipboard's content by the plain text `text`.
     virtual void copyText(const QString& text) = 0;
 
     /// Opens the folder in the file browser.

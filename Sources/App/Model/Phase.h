@@ -5,13 +5,12 @@
 
 #include <utility>
 
-/// The launcher's state. A value: two phases are equal when their kinds are equal and, for
-/// `needs`, their messages are.
+/// The launcher's phase, a value.
 class Phase final
 {
 public:
     enum class Kind {
-        /// Setup or play failed; message() says so.
+        /// Setup or play failed; see message().
         needs,
         /// The game or the engine is missing, or the first-time setup has not completed.
         notDownloaded,
@@ -33,12 +32,12 @@ public:
     static Phase playing() { return {Kind::playing, {}}; }
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    /// The sentence for the player in `needs`; empty in every other phase.
+    /// The failure's sentence in `needs`; else empty.
     [[nodiscard]] const QString& message() const { return m_message; }
 
-    /// `downloading`, `settingUp` and `playing`.
+    /// Returns true for `downloading`, `settingUp` and `playing`.
     [[nodiscard]] bool isBusy() const { return isSetup() || m_kind == Kind::playing; }
-    /// `downloading` and `settingUp`.
+    /// Returns true for `downloading` and `settingUp`.
     [[nodiscard]] bool isSetup() const
     {
         return m_kind == Kind::downloading || m_kind == Kind::settingUp;

@@ -6,28 +6,27 @@
 
 #include <chrono>
 
-/// How a play run ended. A pure value: it reads no clock.
+/// How a run of the game ended.
 class PlayOutcome final
 {
     Q_DECLARE_TR_FUNCTIONS(PlayOutcome)
 
 public:
     enum class Kind {
-        /// The player stopped the game; how it ended then does not matter.
+        /// The player stopped the game, which ended with any exit status.
         stoppedByPlayer,
-        /// The game did not stay open long enough to count as started, whatever its exit status.
+        /// The game ended before the startup threshold, with any exit status.
         closedTooSoon,
         closedNormally,
         stoppedUnexpectedly,
     };
 
-    /// `elapsed` is the time from the start of the run to its end; a run of exactly
-    /// `startupThreshold` counts as started.
+    /// `elapsed` is the duration of the run. A run of exactly `startupThreshold` counts as started.
     static PlayOutcome judge(bool userStopped, std::chrono::nanoseconds elapsed, int exitStatus,
                              std::chrono::nanoseconds startupThreshold);
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    /// Returns the log line for kinds that are no failure, else the failure, translated.
+    /// Returns the log line, or for a failure the translated sentence for the player.
     [[nodiscard]] QString sentence() const;
 
 private:

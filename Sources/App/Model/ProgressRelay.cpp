@@ -17,7 +17,7 @@ void ProgressRelay::report(const DownloadProgress& progress)
     {
         const std::scoped_lock guard(m_lock);
         if (std::exchange(m_waiting, progress))
-            return; // A delivery is on its way and takes this report along.
+            return; // The pending deliver() includes this report.
     }
     QMetaObject::invokeMethod(
         this, [this] { QTimer::singleShot(deliveryInterval, this, &ProgressRelay::deliver); },

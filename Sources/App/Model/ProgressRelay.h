@@ -8,11 +8,10 @@
 #include <mutex>
 #include <optional>
 
-/// Carries one download's progress from its worker thread to the thread the relay was made on.
+/// Passes the progress of a download from its worker thread to the thread of this object.
 ///
-/// A fast download reports thousands of times a second. The relay passes on the newest report, at
-/// most twenty times a second, so that the window stays smooth. Reports that are still waiting when
-/// the relay is deleted are dropped.
+/// A fast download reports thousands of times a second. The relay passes on only the newest report,
+/// at most twenty times a second. Its destructor drops a pending report.
 class ProgressRelay final : public QObject
 {
     Q_OBJECT

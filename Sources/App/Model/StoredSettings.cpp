@@ -24,7 +24,8 @@ bool isSectionLine(const QByteArray& line)
     return line.trimmed().compare(sectionLine, Qt::CaseInsensitive) == 0;
 }
 
-/// Sets the line of `key`. The last one counts, in any section of that name or before the first.
+/// Sets the last line of `key` in a [General] section, or before the first section. Adds a line if
+/// there is none.
 void setLine(QByteArrayList& lines, const QByteArray& key, const QByteArray& value)
 {
     const auto newLine = key + '=' + value;
@@ -50,7 +51,8 @@ void setLine(QByteArrayList& lines, const QByteArray& key, const QByteArray& val
     lines.insert(std::max<qsizetype>(sectionStart, 0) + 1, newLine);
 }
 
-/// The lines of the file at `path`. Throws PlatformError if it is there and cannot be read.
+/// Returns the lines of the file at `path`; one empty line if it does not exist. Throws
+/// PlatformError.
 QByteArrayList readLines(const QString& path)
 {
     const auto fail = [&path](const QString& reason) {
@@ -71,7 +73,7 @@ QByteArrayList readLines(const QString& path)
 void replaceFile(const QString& path, const QByteArray& contents)
 {
     const auto newPath = path + u".new"_s;
-    QFile::remove(newPath); // A launcher that was killed has left it.
+    QFile::remove(newPath); // A killed launcher may have left one.
     OutputFile file(newPath, 0600);
     const auto guard = qScopeGuard([&newPath] { QFile::remove(newPath); });
     file.write(contents);
@@ -89,7 +91,7 @@ QVariant StoredSettings::value(const QString& key)
         if (QFileInfo(path).isFile())
             return QSettings(path, QSettings::IniFormat).value(key);
     } catch (const PlatformError&) {
-        // Where no home is known, nothing is stored.
+        // There is no home folder, and so no file.
     }
     return {};
 }
@@ -98,7 +100,7 @@ void StoredSettings::setValue(const QString& key, const QString& value)
 {
     auto path = Paths::settingsFile();
     Paths::ensure(QFileInfo(path).path());
-    // A link to the file stays a link.
+    // A symbolic link stays a link.
     if (const auto target = QFileInfo(path).canonicalFilePath(); !target.isEmpty())
         path = target;
     auto lines = readLines(path);
