@@ -11,16 +11,16 @@
 #include <chrono>
 #include <functional>
 
-/// Runs the event loop until `condition` holds; a test failure and false when it never does.
+/// Runs the event loop until `condition` is true. Returns false and fails the test on timeout.
 inline bool waitUntil(const std::function<bool()>& condition,
-                      std::chrono::milliseconds limit = std::chrono::seconds{20})
+                      std::chrono::milliseconds timeout = std::chrono::seconds{20})
 {
-    const auto held = QTest::qWaitFor(condition, static_cast<int>(limit.count()));
+    const auto held = QTest::qWaitFor(condition, static_cast<int>(timeout.count()));
     EXPECT_TRUE(held) << "Timed out.";
     return held;
 }
 
-/// The result of `future`, with the event loop running meanwhile. Throws what the future does.
+/// Runs the event loop until `future` has finished. Returns its result or throws its exception.
 template<typename Result>
 Result await(QFuture<Result> future)
 {

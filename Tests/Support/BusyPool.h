@@ -5,8 +5,7 @@
 
 #include <QSemaphore>
 
-/// Keeps every thread of the program's pool busy for as long as it lives, so that what is handed to
-/// the pool meanwhile has to wait.
+/// Keeps every thread of the worker pool busy until its destructor, so that other work has to wait.
 class BusyPool final
 {
 public:

@@ -8,11 +8,11 @@
 #include <memory>
 #include <mutex>
 
-/// Collects, from any thread, the lines written to its callback.
+/// Collects the log lines passed to its callback. Thread-safe.
 class CollectedLines final
 {
 public:
-    /// What writes here. It may outlive this object.
+    /// The callback. It may outlive this object.
     [[nodiscard]] LogCallback callback() const
     {
         return [content = m_content](const QString& text) {

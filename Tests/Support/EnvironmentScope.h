@@ -5,11 +5,11 @@
 
 #include <optional>
 
-/// Sets or unsets an environment variable for the life of the object.
+/// Sets or unsets an environment variable. The destructor restores it.
 class EnvironmentScope final
 {
 public:
-    /// Nothing as the value unsets the variable.
+    /// Unsets the variable if there is no `value`.
     EnvironmentScope(const char* name, const std::optional<QByteArray>& value);
     ~EnvironmentScope();
 

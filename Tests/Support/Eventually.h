@@ -13,7 +13,7 @@
 #include <optional>
 #include <type_traits>
 
-/// How an operation ended: with a value, or with one of the three kinds of error.
+/// The result of an operation: a value, or one of the three kinds of error.
 template<typename Value>
 struct Outcome
 {
@@ -25,7 +25,7 @@ struct Outcome
     bool isCancelled = false;
 };
 
-/// Runs `work` and returns how it ended. Work without a value has the value "true".
+/// Runs `work` and returns its outcome. A void result becomes the value `true`.
 template<typename Work>
 auto outcomeOf(const Work& work)
 {
@@ -51,7 +51,7 @@ auto outcomeOf(const Work& work)
     return outcome;
 }
 
-/// Runs the event loop until `future` has ended; a test failure when that takes over 20 s.
+/// Runs the event loop until `future` has finished. Fails the test on timeout.
 template<typename Value>
 Outcome<Value> eventually(QFuture<Value> future)
 {
@@ -75,7 +75,7 @@ QCoro::Task<> settle(QCoro::Task<Value> task, std::shared_ptr<QPromise<Value>> p
 
 } // namespace Detail
 
-/// The same for a coroutine.
+/// Like eventually() for a future, for a coroutine.
 template<typename Value>
 Outcome<Value> eventually(QCoro::Task<Value> task)
 {

@@ -14,15 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the platform without a display says of calls that it has no use for.
-bool isOffscreenRemark(const QString& message)
+/// The offscreen platform's message about an unsupported call.
+bool isOffscreenMessage(const QString& message)
 {
     return message.startsWith("This plugin does not support "_L1);
 }
 
 void fail(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
-    if (type == QtDebugMsg || type == QtInfoMsg || isOffscreenRemark(message))
+    if (type == QtDebugMsg || type == QtInfoMsg || isOffscreenMessage(message))
         return;
     if (type == QtFatalMsg) {
         std::cerr << message.toStdString() << std::endl;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// From now on a warning of Qt's that no test expects (QTest::ignoreMessage) fails the test: it is
-/// a defect of ours.
+/// Makes a Qt warning fail the current test, unless the test expects it (QTest::ignoreMessage).
 void failTestsOnWarnings();

@@ -8,7 +8,7 @@
 
 #include <functional>
 
-/// A desktop that answers every question as told and remembers what it was asked.
+/// A desktop that answers questions with `answer` and records all calls.
 class FakeDesktop final : public Desktop
 {
 public:
@@ -31,7 +31,7 @@ public:
     void revealFolder(const QString& path) override { revealed.append(path); }
 
     bool answer = true;
-    /// Called while a question stands, for what happens meanwhile.
+    /// Called while a question is open.
     std::function<void()> whileAsking;
     QList<Question> questions;
     QStringList copied;

@@ -10,8 +10,8 @@
 #include <sys/prctl.h>
 #endif
 
-/// A copy of the test that does `work` and then waits to be killed, at the latest by this object or
-/// by the test's own end.
+/// A forked process that runs `work` and then waits. The destructor kills it, and so does the end
+/// of the test.
 class ForkedProcess final
 {
 public:
@@ -32,7 +32,7 @@ public:
     ForkedProcess(const ForkedProcess&) = delete;
     ForkedProcess& operator=(const ForkedProcess&) = delete;
 
-    /// Kills it and waits for its end.
+    /// Kills the process and waits for its end.
     void kill()
     {
         if (m_id <= 0)

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the client sends up to the empty line; shorter when it hangs up before.
+/// Reads the request up to the empty line, or less if the client closes the connection.
 QByteArray readHead(int socket)
 {
     QByteArray head;

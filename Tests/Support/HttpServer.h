@@ -14,12 +14,12 @@
 #include <thread>
 #include <vector>
 
-/// A real HTTP server on the loopback interface that answers as badly as a test needs. Each
-/// connection serves one request on a thread of its own and is then closed.
+/// An HTTP server on the loopback interface, which can also send invalid responses. Each connection
+/// has its own thread, serves one request and is then closed.
 class HttpServer final
 {
 public:
-    /// The answering end of one connection.
+    /// The server's end of a connection.
     class Connection final
     {
     public:
@@ -28,9 +28,9 @@ public:
         {
         }
 
-        /// Sends all of `bytes`. Returns false once the client has gone.
+        /// Sends all of `bytes`. Returns false if the client has closed the connection.
         bool send(QByteArrayView bytes) const;
-        /// Stays silent until the client hangs up.
+        /// Blocks until the client closes the connection.
         void waitForHangUp() const;
 
     private:
@@ -44,20 +44,20 @@ public:
     HttpServer(const HttpServer&) = delete;
     HttpServer& operator=(const HttpServer&) = delete;
 
-    /// As a path: every path that has no handler of its own.
+    /// Matches every path without a handler.
     static const QString anyPath;
 
-    /// Answers the requests of `path` with what `handler` sends. Others get a 404.
+    /// Calls `handler` for the requests of `path`. A path without a handler gets a 404.
     void on(const QString& path, Handler handler);
 
-    /// An answer with a length and a body.
+    /// A response with Content-Length and a body.
     static Handler reply(int status, const QByteArray& body, const QByteArray& headers = {});
-    /// An answer whose body ends with the connection, and has no length.
+    /// A response without Content-Length. The body ends with the connection.
     static Handler replyWithoutLength(const QByteArray& body);
     static Handler redirect(int status, const QUrl& to);
-    /// An answer that never begins.
+    /// No response; the connection stays open.
     static Handler silence();
-    /// A status line and headers, each given line ended by a line feed, and the empty line.
+    /// A status line, `headers`, of which each ends with a line feed, and the empty line.
     static QByteArray head(int status, const QByteArray& headers);
 
     /// "http://127.0.0.1:<port>".
@@ -66,7 +66,7 @@ public:
 
     /// The heads of all requests so far.
     [[nodiscard]] QList<QByteArray> requests() const;
-    /// Waits until `count` requests have come. Returns false after 20 s.
+    /// Waits until `count` requests have arrived. Returns false after 20 s.
     [[nodiscard]] bool waitForRequests(int count) const;
 
 private:

@@ -9,10 +9,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Does `work` in a copy of the test that ends with it, as for what changes the whole process: its
-/// user, its signals, its system calls. Returns the status that `work` returns, or below zero the
-/// signal that ended the copy; an exception ends it by SIGABRT. A failed expectation inside `work`
-/// goes unheard, and what it writes to variables is lost.
+/// Runs `work` in a forked process, for changes to the whole process: its user, its signals, its
+/// system calls. Returns the result of `work`, or the negative number of the signal that ended the
+/// process; an exception ends it by SIGABRT. Failed expectations inside `work` are not reported,
+/// and changes to variables are lost.
 inline int inAnotherProcess(const std::function<int()>& work)
 {
     const auto child = ::fork();
@@ -20,7 +20,7 @@ inline int inAnotherProcess(const std::function<int()>& work)
         try {
             ::_exit(work());
         } catch (...) {
-            std::abort(); // The copy must not go on to the next test.
+            std::abort(); // The child must not run the next test.
         }
     }
     int status = -1;

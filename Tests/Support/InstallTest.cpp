@@ -19,20 +19,11 @@ InstallTest::InstallTest()
 
 LogCallback InstallTest::log()
 {
-    return [this](const QString& line) {
-        {
-            const std::lock_guard guard(m_mutex);
-            m_lines += line.split(u'\n');
-        }
+    return [this, collect = m_lines.callback()](const QString& line) {
+        collect(line);
         if (m_atLine && line.contains(m_lineText))
             m_atLine();
     };
-}
-
-QStringList InstallTest::lines()
-{
-    const std::lock_guard guard(m_mutex);
-    return m_lines;
 }
 
 void InstallTest::atLine(const QString& text, std::function<void()> action)

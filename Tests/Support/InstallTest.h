@@ -3,6 +3,7 @@
 
 #include "Install/EngineManager.h"
 #include "Install/FileDownloader.h"
+#include "Support/CollectedLines.h"
 #include "Support/EnvironmentScope.h"
 #include "Support/HttpServer.h"
 #include "Support/TestFolder.h"
@@ -13,21 +14,20 @@
 
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <stop_token>
 
 using namespace Qt::StringLiterals;
 
-/// A home, a web host and a log of its own: what is installed there, and what the host serves.
+/// A test with its own home folder, web server and log.
 class InstallTest : public testing::Test
 {
 protected:
     InstallTest();
 
     LogCallback log();
-    /// Everything logged so far.
-    QStringList lines();
-    /// Does `action` when a line that contains `text` is logged, on the thread that logs it.
+    /// All log lines so far.
+    [[nodiscard]] QStringList lines() const { return m_lines.lines(); }
+    /// Calls `action` when a line that contains `text` is logged, on the thread that logs it.
     void atLine(const QString& text, std::function<void()> action);
     /// Requests the stop when a line that contains `text` is logged.
     void stopAtLine(const QString& text);
@@ -35,25 +35,25 @@ protected:
     /// The path of `relative` below the storage root.
     [[nodiscard]] QString root(const QString& relative = {}) const;
     [[nodiscard]] bool exists(const QString& relative) const { return home.exists(root(relative)); }
-    /// The names in the temporary folder, and of the staging folders.
+    /// The names of the temporary, staging and backup folders.
     [[nodiscard]] QStringList stagingFolders() const;
-    /// The same once all work in the background has ended.
+    /// Waits until the worker pool is idle, then returns stagingFolders().
     [[nodiscard]] QStringList leftovers() const;
-    /// Clears away what a cancelled installation has left.
+    /// Removes the folders that a cancelled installation has left.
     void clearLeftovers();
 
-    /// Writes a game of the standard edition with one asset, which is imported. `settings` are
-    /// further lines of its project file.
+    /// Writes a game of the standard edition with one imported asset. `settings` are more lines for
+    /// its project file.
     void installGame(const QByteArray& settings = {}) const;
-    /// Adds so many files to the game that deleting it takes a while.
+    /// Adds 20,000 files to the game, so that deleting it takes time.
     void installManyFiles() const;
-    /// Writes an engine that is the shell script `body`; "$@" are its arguments.
+    /// Writes the shell script `body` as the engine.
     void installEngine(const QByteArray& body, const EngineManager& engine = {}) const;
     void writeMarker(const EngineManager& engine = {}) const;
     [[nodiscard]] static bool hasMarker(const EngineManager& engine = {});
 
     static QString gamePath();
-    /// The path of a file of the engine's release.
+    /// The URL path of a file of the engine's release.
     static QString releasePath(const QString& name);
     static QString listPath() { return releasePath(u"SHA512-SUMS.txt"_s); }
     static QString enginePath(const EngineManager& engine = {});
@@ -74,8 +74,7 @@ private:
     EnvironmentScope m_data{"XDG_DATA_HOME", home.makeFolder(u"data"_s).toUtf8()};
     EnvironmentScope m_temporary{"TMPDIR", home.makeFolder(u"temporary"_s).toUtf8()};
     WebHostScope m_host{server.host()};
-    std::mutex m_mutex;
-    QStringList m_lines;
+    CollectedLines m_lines;
     QString m_lineText;
     std::function<void()> m_atLine;
 };

@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-/// The names directly in `folder`, in the order in which the system lists them.
+/// Returns the names in `folder`, in the file system's order.
 inline QStringList listing(const QString& folder)
 {
     QStringList names;

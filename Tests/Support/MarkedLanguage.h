@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-/// A language in which every text is the English one between marks, spoken while this lives.
+/// Installs a translation of every text "x" to "<x>" until the destructor.
 class MarkedLanguage final : public QTranslator
 {
 public:

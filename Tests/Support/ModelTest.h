@@ -7,34 +7,32 @@
 
 #include <memory>
 
-/// A model with an installation and settings of its own. The spans of time that decide something
-/// are short.
+/// A test with its own model, installation and settings, and with short time limits.
 class ModelTest : public InstallTest
 {
 protected:
     ModelTest();
     ~ModelTest() override;
 
-    /// Creates a new model, as a start of the program does.
+    /// Creates a new model, like a start of the program.
     AppModel& startModel();
-    /// The same with everything installed. `engine` is the engine's script.
+    /// Installs everything, with `engine` as the engine's script, and creates a new model.
     AppModel& startReady(const QByteArray& engine = "exit 0");
     AppModel& model() { return *m_model; }
 
-    /// Brings the model into a phase as a player would. What runs before is ended. In
-    /// `downloading` it waits for the engine's server, in `settingUp` and `playing` for the engine,
-    /// and `needs` is a refused game.
+    /// Ends the current flow and brings the model into a phase: `downloading` waits for the server,
+    /// `settingUp` and `playing` run the engine, and `needs` is a refused game.
     void enter(Phase::Kind kind);
-    /// Enters `downloading` and waits until so much of the engine's archive has come.
+    /// Enters `downloading` and waits until that much of the engine's archive is received.
     void enterDownload(qint64 received, qint64 total);
 
-    /// Waits until the flow has ended; a test failure when it does not.
+    /// Waits until the flow has ended. Fails the test on timeout.
     void waitForFlow();
-    /// Waits until the flow and the deletion that it has left to the background have ended.
+    /// Waits until the flow and its deletion in the background have ended.
     void waitForDeletion();
-    /// Waits until the model has the phase; a test failure when it does not.
+    /// Waits until the model has the phase. Fails the test on timeout.
     void waitForPhase(Phase::Kind kind);
-    /// Everything logged so far.
+    /// All log lines so far.
     [[nodiscard]] QStringList logged();
 
     FakeDesktop desktop;

@@ -15,8 +15,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Another process, a copy of this one: it does `work`, which gets a descriptor to answer to and
-/// one that ends with this object, and then exits with the status that `work` returns.
+/// A forked process that runs `work` and exits with its result. `work` gets a pipe to write answers
+/// to and a pipe to read orders from, which is closed when this object ends.
 class OtherProcess final
 {
 public:
@@ -43,7 +43,7 @@ public:
     OtherProcess(const OtherProcess&) = delete;
     OtherProcess& operator=(const OtherProcess&) = delete;
 
-    /// Waits for the next answer, a line.
+    /// Waits for the next answer, one line.
     QByteArray answer()
     {
         QByteArray line;
@@ -56,7 +56,7 @@ public:
     void kill() { ::kill(m_id, SIGKILL); }
     void order() { EXPECT_EQ(::write(m_orders.get(), "\n", 1), 1); }
 
-    /// Waits for its end and returns its status, negative when it was killed.
+    /// Waits for the end and returns the exit status; negative if the process was killed.
     int end()
     {
         m_orders.close();

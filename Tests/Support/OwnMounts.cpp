@@ -18,7 +18,7 @@ bool write(const char* path, const std::string& text)
     return ::write(file.get(), text.data(), text.size()) == static_cast<ssize_t>(text.size());
 }
 
-/// Makes an ordinary user the administrator of a namespace in which only this user exists.
+/// Makes the user root in a new user namespace.
 bool becomeAdministrator()
 {
     const auto user = "0 " + std::to_string(::geteuid()) + " 1";
@@ -27,8 +27,8 @@ bool becomeAdministrator()
            write("/proc/self/uid_map", user) && write("/proc/self/gid_map", group);
 }
 
-/// Only a mount point can be made private, and in a chroot only the root outside of it need be one:
-/// this process goes there and comes back.
+/// Makes all mounts private. In a chroot, the root folder need not be a mount point: setns() leaves
+/// the chroot for the call.
 bool makeMountsPrivate()
 {
     const FileDescriptor root(::open("/", O_PATH | O_CLOEXEC));

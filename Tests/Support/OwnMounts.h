@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The exit status of a process that could not have mounts of its own.
+/// The exit status of a test process if separateMounts() failed.
 constexpr auto noOwnMounts = 77;
 
-/// Gives the calling process, which has a single thread, mounts of its own: what it mounts is seen
-/// by it and its children only. Returns false where the system refuses that. Linux only.
+/// Moves the calling process, which must have a single thread, to a new mount namespace with
+/// private mounts. Returns false if the system does not allow it. Linux only.
 [[nodiscard]] bool separateMounts();

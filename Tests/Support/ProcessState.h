@@ -3,5 +3,5 @@
 
 #include <QtGlobal>
 
-/// Whether the process `id` runs. A zombie does not.
+/// Returns true if the process `id` exists and is not a zombie.
 bool processRuns(qint64 id);

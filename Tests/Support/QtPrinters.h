@@ -8,7 +8,7 @@
 
 #include <ostream>
 
-// Let assertions print Qt's texts, which to GoogleTest are containers of numbers.
+// GoogleTest would print QString and QByteArray as containers of numbers.
 
 inline std::ostream& operator<<(std::ostream& stream, const QString& text)
 {

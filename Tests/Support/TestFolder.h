@@ -7,14 +7,14 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A real temporary folder for one test, removed with everything in it afterwards.
+/// A temporary folder for one test. The destructor removes it.
 class TestFolder final
 {
 public:
     TestFolder();
 
     [[nodiscard]] QString path() const { return m_folder.path(); }
-    /// The path of `relative` in the folder. An absolute path stays as it is, here and below.
+    /// The path of `relative` in the folder. All functions also take an absolute path.
     [[nodiscard]] QString path(const QString& relative) const;
 
     /// Writes a file, creating missing folders, and returns its path.
@@ -24,10 +24,10 @@ public:
     /// Creates a folder with its parents and returns its path.
     QString makeFolder(const QString& relative) const;
 
-    /// The contents of a file; a test failure when it cannot be read.
+    /// Returns the contents of a file. Fails the test if it cannot be read.
     [[nodiscard]] QByteArray read(const QString& relative) const;
     [[nodiscard]] bool exists(const QString& relative) const;
-    /// The names in a folder, hidden ones included, sorted.
+    /// Returns the names in a folder, including hidden ones, sorted.
     [[nodiscard]] QStringList names(const QString& relative = {}) const;
 
 private:

@@ -5,8 +5,8 @@
 
 #include <QString>
 
-/// Makes a file or folder immutable, for the administrator too, while this lives,
-/// also when a folder above is moved. Only the administrator can make one, and not on every system.
+/// Sets the immutable flag of a file or folder until the destructor, even if a parent folder is
+/// moved. It also stops root. Only root can set it, and not on every file system.
 class UnchangeableScope final
 {
 public:
@@ -16,7 +16,7 @@ public:
     UnchangeableScope(const UnchangeableScope&) = delete;
     UnchangeableScope& operator=(const UnchangeableScope&) = delete;
 
-    /// Whether the system let it be made so.
+    /// Returns true if the flag could be set.
     [[nodiscard]] bool isInForce() const { return m_isInForce; }
 
 private:

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Makes webHost() answer with another scheme and host for the life of the object. Outside of one,
-/// tests have a host on which nothing listens.
+/// Makes webHost() return another scheme and host until the destructor. The default for tests is a
+/// port on which no server listens.
 class WebHostScope final
 {
 public:

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Support/WithoutSystemCall.h"
 
+#include "Support/OtherProcess.h"
 #include "System/Errors.h"
-
-#include <gtest/gtest.h>
-
-#include <QFile>
 
 #include <array>
 #include <cstddef>
@@ -13,12 +10,11 @@
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
-/// From here on, has the system refuse one of its calls to this process with the given error.
+/// Makes a system call of this process fail with the given error (seccomp).
 bool forbid(unsigned systemCall, unsigned error)
 {
     std::array filter{
@@ -36,27 +32,19 @@ bool forbid(unsigned systemCall, unsigned error)
 
 QString sentenceWithout(unsigned systemCall, unsigned error, const std::function<void()>& action)
 {
-    std::array<int, 2> pipe = {};
-    EXPECT_EQ(::pipe(pipe.data()), 0);
-    const auto child = ::fork();
-    if (child == 0) {
+    OtherProcess process([&](int answer, int) {
+        if (!forbid(systemCall, error))
+            return 1;
         try {
-            if (!forbid(systemCall, error))
-                ::_exit(1);
             action();
         } catch (const PlatformError& thrown) {
             const auto sentence = thrown.message().toUtf8();
             const auto size = static_cast<std::size_t>(sentence.size());
-            ::_exit(::write(pipe[1], sentence.constData(), size) == sentence.size() ? 0 : 2);
+            return ::write(answer, sentence.constData(), size) == sentence.size() ? 0 : 2;
         }
-        ::_exit(0);
-    }
-    ::close(pipe[1]);
-    QFile output;
-    EXPECT_TRUE(output.open(pipe[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
-    const auto sentence = QString::fromUtf8(output.readAll());
-    int status = -1;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+        return 0;
+    });
+    const auto sentence = QString::fromUtf8(process.answer());
+    EXPECT_EQ(process.end(), 0);
     return sentence;
 }

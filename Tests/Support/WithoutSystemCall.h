@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// Does `action` in a process of its own, to which the system refuses the call `systemCall` with
-/// the error number `error`, and returns the sentence of the PlatformError that `action` throws. It
-/// is empty when it throws nothing. Linux only.
+/// Runs `action` in a forked process in which `systemCall` fails with the error number `error`.
+/// Returns the sentence of the PlatformError that `action` throws; empty if it throws none. Linux
+/// only.
 QString sentenceWithout(unsigned systemCall, unsigned error, const std::function<void()>& action);

@@ -38,7 +38,7 @@ quint32 checksumOf(const QByteArray& data)
 
 QByteArray deflated(const QByteArray& data)
 {
-    // qCompress puts its own length and the stream's header in front, and a checksum behind.
+    // Removes the length and the zlib header and checksum that qCompress adds.
     return qCompress(data).sliced(6).chopped(4);
 }
 
@@ -78,7 +78,7 @@ QByteArray ZipWriter::archive() const
            number32(directory.size()) + number32(m_bytes.size()) + number16(0);
 }
 
-/// From the version to the length of the name: what both headers of an entry have in common.
+/// The fields from the version to the length of the name, which both headers share.
 QByteArray ZipWriter::commonHeader(const Written& written, const QByteArray& name)
 {
     const auto& entry = written.entry;

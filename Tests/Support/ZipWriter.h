@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-/// Writes zip archives, also such as no honest tool would write: every field of a header is free.
+/// Writes zip archives, also invalid ones: every header field can be set.
 class ZipWriter final
 {
 public:
@@ -16,19 +16,19 @@ public:
     {
         QByteArray name;
         QByteArray data = {};
-        /// The Unix mode; 0 for an archive of a system without modes.
+        /// The Unix mode; 0 for an archive without Unix modes.
         quint32 mode = S_IFREG | 0644;
         bool deflated = false;
         bool zip64 = false;
         /// Bit 0: encrypted; bit 11: the name is UTF-8.
         quint16 flags = 0;
-        /// In place of the method that belongs to the data.
+        /// Replaces the compression method in the headers.
         std::optional<quint16> method = std::nullopt;
-        /// In place of the name, in the header before the data.
+        /// Replaces the name in the local header.
         std::optional<QByteArray> localName = std::nullopt;
-        /// The entry is only in the directory, and its header is at this place in another's data.
+        /// Writes the entry only to the central directory, with this offset of its local header.
         std::optional<qint64> offset = std::nullopt;
-        /// In place of the true checksum and size.
+        /// Replace the checksum and the size.
         std::optional<quint32> checksum = std::nullopt;
         std::optional<quint32> size = std::nullopt;
     };
@@ -37,9 +37,9 @@ public:
     ZipWriter& addFile(const QByteArray& name, const QByteArray& data = {});
     ZipWriter& addLink(const QByteArray& name, const QByteArray& target);
 
-    /// The whole archive, with its directory.
+    /// The whole archive, with the central directory.
     [[nodiscard]] QByteArray archive() const;
-    /// What comes before the directory.
+    /// The archive before the central directory.
     [[nodiscard]] const QByteArray& localPart() const { return m_bytes; }
 
 private:

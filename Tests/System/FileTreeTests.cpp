@@ -36,7 +36,7 @@ protected:
         m_folder.write(u"Game/old"_s);
         m_folder.write(u"Game.new/new"_s);
     }
-    void replace() const { FileTree::replace(m_target, m_staging, m_aside); }
+    void replace() const { FileTree::replace(m_target, m_staging, m_backup); }
     void expectUntouched() const
     {
         EXPECT_EQ(m_folder.names(), (QStringList{u"Game"_s, u"Game.new"_s}));
@@ -53,7 +53,7 @@ protected:
     TestFolder m_folder;
     const QString m_target = m_folder.path(u"Game"_s);
     const QString m_staging = m_folder.path(u"Game.new"_s);
-    const QString m_aside = m_folder.path(u"Game.old"_s);
+    const QString m_backup = m_folder.path(u"Game.old"_s);
 };
 
 TEST_F(FileTreeTest, seesADanglingLink)
@@ -139,7 +139,7 @@ TEST_F(FileTreeTest, replacesNothingWhenCancelled)
     writeBoth();
     std::stop_source stop;
     stop.request_stop();
-    EXPECT_THROW(FileTree::replace(m_target, m_staging, m_aside, stop.get_token()), Cancelled);
+    EXPECT_THROW(FileTree::replace(m_target, m_staging, m_backup, stop.get_token()), Cancelled);
     expectUntouched();
 }
 
@@ -148,7 +148,7 @@ TEST_F(FileTreeTest, reportsAReplacementThatFailsAndKeepsTheStagingFolder)
     m_folder.write(u"Game.new/new"_s);
     const auto target = m_folder.path(u"no such folder/Game"_s);
     try {
-        FileTree::replace(target, m_staging, m_aside);
+        FileTree::replace(target, m_staging, m_backup);
         FAIL() << "It succeeded.";
     } catch (const PlatformError& error) {
         EXPECT_EQ(error.message(), u"Could not move “%1” to “%2”: No such file or directory."_s.arg(
@@ -183,7 +183,7 @@ TEST_F(FileTreeTest, putsTheOldFolderBackWhenTheNewOneCannotBeMoved)
     // No system moves a folder that is named so.
     const auto immovable = m_staging + u"/."_s;
     const auto sentence =
-        sentenceWithoutExchange([&] { FileTree::replace(m_target, immovable, m_aside); });
+        sentenceWithoutExchange([&] { FileTree::replace(m_target, immovable, m_backup); });
     EXPECT_TRUE(sentence.startsWith(u"Could not move “%1” to “%2”: "_s.arg(immovable, m_target)))
         << sentence;
     expectUntouched();
