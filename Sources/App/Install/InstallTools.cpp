@@ -9,8 +9,8 @@ namespace {
 
 const InstallTools& load()
 {
-    // Never unloaded: a thread that was left behind may still run its code. The system looks for
-    // the name in the run path of this program.
+    // Never unloaded, since an abandoned thread may still run its code. dlopen() searches the run
+    // path of this program.
     auto* const module = ::dlopen(CAVERNYX_INSTALL_MODULE, RTLD_NOW | RTLD_LOCAL);
     const auto* const tools = module ? ::dlsym(module, "cavernyxInstallTools") : nullptr;
     if (!tools) {

@@ -7,8 +7,8 @@
 
 /// The functions of an installation that need further libraries: libcurl, libzip and libcrypto.
 ///
-/// They are compiled into a module, which is loaded at first use. Linked with the program, its
-/// libraries (about 30) would take a fifth of the time of every start, and a seventh of the memory.
+/// They are in a module that is loaded on first use. Linking its 30 libraries with the program
+/// would take a fifth of the time of every start, and a seventh of the memory.
 struct InstallTools
 {
     decltype(&::httpGet) httpGet;

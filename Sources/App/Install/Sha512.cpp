@@ -50,11 +50,10 @@ private:
 
 QString sha512(const InputFile& file, const std::stop_token& stop)
 {
-    // Small enough to be hashed from the processor's own cache: pieces of megabytes, which have
-    // left it by then, take a fifth more time.
+    // Fits into the processor's cache. With pieces of megabytes, hashing takes a fifth longer.
     constexpr std::size_t pieceSize = 65'536;
-    // The library keeps a record for each thread, which it would free when the thread has ended;
-    // a pool thread may end so late that the program has already left.
+    // OpenSSL frees its thread-local data when the thread ends, which for a pool thread may be
+    // after the end of main().
     const auto releaseThread = qScopeGuard(&OPENSSL_thread_stop);
     Hash hash;
     const auto buffer = std::make_unique_for_overwrite<char[]>(pieceSize);
