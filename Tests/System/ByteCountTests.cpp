@@ -3,6 +3,9 @@
 
 #include "Support/QtPrinters.h"
 
+#include <QLocale>
+#include <QScopeGuard>
+
 #include <cstdlib>
 #include <ostream>
 #include <string>
@@ -46,5 +49,16 @@ INSTANTIATE_TEST_SUITE_P(
                     Example{999'999, u"1 MB"}, Example{999'999'999, u"1 GB"},
                     Example{-2'000, u"-2 KB"}),
     nameOf);
+
+TEST(LocalizedByteCount, hasTheDigitsAndTheSeparatorOfThePlayersLocale)
+{
+    const auto guard = qScopeGuard([former = QLocale()] { QLocale::setDefault(former); });
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(formattedByteCount(7'300'000), u"7,3 MB");
+    EXPECT_EQ(formattedByteCount(1'234'567'898), u"1,23 GB");
+    EXPECT_EQ(formattedByteCount(9'000'000'000'000'000'000), u"9000 PB");
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    EXPECT_EQ(formattedByteCount(7'300'000), u"٧٫٣ MB");
+}
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "System/ByteCount.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <array>
 
@@ -20,6 +21,7 @@ public:
 };
 
 constexpr std::array units{
+    //: Kilobytes: 1000 bytes, as the desktop's file manager writes it.
     Unit{1'000, 0, QT_TRANSLATE_NOOP("Unit", "%1 KB")},
     Unit{1'000'000, 1, QT_TRANSLATE_NOOP("Unit", "%1 MB")},
     Unit{1'000'000'000, 2, QT_TRANSLATE_NOOP("Unit", "%1 GB")},
@@ -44,6 +46,16 @@ QString inUnit(qint64 bytes, const Unit& unit)
     return withoutTrailingZeros(QString::number(amount, 'f', unit.decimals));
 }
 
+/// Returns a number such as "7.3" as it is written in the player's locale.
+QString localized(const QString& number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const auto point = number.indexOf(u'.');
+    const auto decimals = point < 0 ? 0 : number.size() - point - 1;
+    return locale.toString(number.toDouble(), 'f', static_cast<int>(decimals));
+}
+
 } // namespace
 
 QString formattedByteCount(qint64 bytes)
@@ -53,7 +65,7 @@ QString formattedByteCount(qint64 bytes)
     if (bytes == 1)
         return Unit::tr("1 byte");
     if (bytes > -1'000 && bytes < 1'000)
-        return Unit::tr("%1 bytes").arg(bytes);
+        return Unit::tr("%n bytes", nullptr, static_cast<int>(bytes));
     const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
     std::size_t index = 0;
     while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
@@ -62,5 +74,5 @@ QString formattedByteCount(qint64 bytes)
     auto number = inUnit(bytes, units[index]);
     if (index + 1 < units.size() && (number == "1000"_L1 || number == "-1000"_L1))
         number = inUnit(bytes, units[++index]);
-    return Unit::tr(units[index].pattern).arg(number);
+    return Unit::tr(units[index].pattern).arg(localized(number));
 }
