@@ -16,7 +16,7 @@ class DownloadAnswerTest : public FileDownloaderTest
 protected:
     [[nodiscard]] QString noAnswer() const
     {
-        return u"The download of “%1” stalled: 127.0.0.1 did not answer within 0.4 "
+        return u"The download of “%1” stalled: 127.0.0.1 did not answer within 1 "
                "seconds. Check the internet connection and try again."_s.arg(
                    server.url(u"/file.zip"_s).toString());
     }
@@ -137,7 +137,7 @@ TEST_F(DownloadAnswerTest, namesAProxyThatHangsUpOrStaysSilent)
     server.on(HttpServer::anyPath, HttpServer::silence());
     EXPECT_EQ(download(secure, 400ms).sentence,
               u"The download of “https://github.com/x” stalled: the proxy “%1” did not answer "
-              "within 0.4 seconds. Check the proxy settings and try again."_s.arg(name));
+              "within 1 seconds. Check the proxy settings and try again."_s.arg(name));
 }
 
 TEST_F(DownloadAnswerTest, tellsAFailureBehindARedirectByWhatFailed)

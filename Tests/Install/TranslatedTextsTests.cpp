@@ -35,8 +35,8 @@ TEST_F(TranslatedTexts, areFailuresOfTheSystem)
         FileTree::replace(path + u"/Game"_s, home.makeFolder(u"new"_s), path + u"/old"_s);
         FAIL() << "It succeeded.";
     } catch (const PlatformError& error) {
-        EXPECT_TRUE(error.message().startsWith(u"<Could not <exchange “"_s)) << error.message();
-        EXPECT_TRUE(error.message().contains(u"a %1 file/Game”>: "_s)) << error.message();
+        EXPECT_TRUE(error.message().startsWith(u"<<Could not exchange “"_s)) << error.message();
+        EXPECT_TRUE(error.message().contains(u"a %1 file/Game”>: <"_s)) << error.message();
     }
 }
 

@@ -31,6 +31,7 @@ QSize Sheet::sizeHint() const
 
 void Sheet::setContent(int spacing, const QList<StackItem>& children)
 {
+    //: The button that closes a sheet.
     auto* const done = new BorderedButton(tr("Done"), [this] { accept(); });
     done->setDefault(true);
     stackVertically(*this, {.spacing = spacing, .padding = 20},

@@ -75,7 +75,8 @@ void moveInto(const QString& destination, const QString& part)
 {
     FileTree::remove(destination);
     if (const auto error = FileTree::rename(part, destination); error != 0)
-        throw PlatformError::fromErrno(PlatformError::tr("save “%1”").arg(destination), error);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not save “%1”").arg(destination),
+                                       error);
 }
 
 } // namespace

@@ -143,8 +143,8 @@ void Paths::ensure(const QString& path)
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     if (error)
-        throw PlatformError::fromErrno(PlatformError::tr("create the folder “%1”").arg(path),
-                                       error.value());
+        throw PlatformError::fromErrno(
+            PlatformError::tr("Could not create the folder “%1”").arg(path), error.value());
 }
 
 qint64 Paths::size(const QString& path, const std::stop_token& stop)

@@ -46,7 +46,7 @@ TemporaryFolder::TemporaryFolder(const QString& path)
     do {
         if (::mkdir(name.constData(), S_IRWXU) != 0)
             throw PlatformError::fromErrno(
-                PlatformError::tr("create the temporary folder “%1”").arg(path), errno);
+                PlatformError::tr("Could not create the temporary folder “%1”").arg(path), errno);
         m_lock = openFolder(name);
         // Another launcher may remove the folder before it is locked. A failure to lock is ignored:
         // other launchers then never remove the folder.

@@ -15,6 +15,7 @@ void Unzipper::unzip(const InputFile& archive, const QString& destination, const
     const auto status = tool ? runTool(tool->program, tool->arguments, log, stop)
                              : installTools().extractZip(archive, destination, log, stop);
     if (status != 0) {
+        //: Where there is no program named ditto, a translation speaks of unpacking only.
         throw AppError(AppError::tr("Unzipping failed (ditto exit code %1).").arg(status));
     }
 }

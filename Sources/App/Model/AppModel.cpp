@@ -59,16 +59,22 @@ QString AppModel::statusTitle() const
 {
     switch (m_phase.kind()) {
     case Phase::Kind::needs:
+        //: The status after a failure: the player has to do something. The next line says what.
         return tr("Needs something");
     case Phase::Kind::notDownloaded:
+        //: The status: the game is not downloaded yet.
         return tr("Not downloaded");
     case Phase::Kind::downloading:
+        //: The status: the launcher is downloading the game or its engine.
         return tr("Downloading");
     case Phase::Kind::settingUp:
+        //: The status: the launcher is preparing the game for its first start.
         return tr("Setting up");
     case Phase::Kind::ready:
+        //: The status: the game can be played.
         return tr("Ready");
     case Phase::Kind::playing:
+        //: The status: the game is starting, or it is running.
         return m_stillStarting ? tr("Starting…") : tr("Playing");
     }
     Q_UNREACHABLE();

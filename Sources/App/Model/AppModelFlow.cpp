@@ -103,6 +103,7 @@ void AppModel::concludeFailed(const QString& description)
 
 void AppModel::fail(const QString& message)
 {
+    //: %1 is a whole sentence, and %2 are lines of the log, most of them in English.
     m_failureText = tr("What happened: %1\n\nLast log lines:\n%2")
                         .arg(message, m_log.newest(reportedLogLines).join(u'\n'));
     clearProgress();

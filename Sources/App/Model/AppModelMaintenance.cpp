@@ -46,6 +46,7 @@ void AppModel::updateGame()
 {
     if (!askToChange(tr("Update the game?"),
                      tr("The game is downloaded again from GitHub. Your save files are kept."),
+                     //: The button that answers the question.
                      tr("Update")))
         return;
     m_forceGameDownload = true;
@@ -60,6 +61,7 @@ void AppModel::reinstall()
             tr("Reinstall everything?"),
             tr("The game and the engine are deleted and downloaded again. Your save files are "
                "kept."),
+            //: The button that answers the question.
             tr("Reinstall")))
         startFlow(&AppModel::deleteAndSetUp);
 }
@@ -78,13 +80,16 @@ QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 
 void AppModel::removeEverything()
 {
-    const auto size = m_installedSize.isEmpty() ? tr("all downloaded files") : m_installedSize;
-    if (askToChange(
-            tr("Remove everything?"),
-            tr("This deletes the downloaded game and engine and frees %1. Your save files in "
-               "Godot's folder are not touched.")
-                .arg(size),
-            tr("Remove")))
+    const auto consequence =
+        m_installedSize.isEmpty()
+            ? tr("This deletes the downloaded game and engine and frees all downloaded files. Your "
+                 "save files in Godot's folder are not touched.")
+            //: %1 is an amount, such as "70.1 MB".
+            : tr("This deletes the downloaded game and engine and frees %1. Your save files in "
+                 "Godot's folder are not touched.")
+                  .arg(m_installedSize);
+    //: "Remove" is the button that answers the question.
+    if (askToChange(tr("Remove everything?"), consequence, tr("Remove")))
         startFlow(&AppModel::deleteEverything);
 }
 
@@ -107,6 +112,7 @@ void AppModel::removeRoot()
         try {
             FileTree::remove(root, stop);
         } catch (const PlatformError& error) {
+            //: %1 is a whole sentence, such as "Could not remove “file”: Permission denied."
             return tr("Could not remove the files: %1").arg(error.message());
         } catch (const Cancelled&) {
             // The next start removes the rest.
@@ -194,6 +200,7 @@ bool AppModel::confirmQuit()
     if (m_phase == Phase::Kind::playing) {
         if (!m_desktop.confirm(tr("Quit and close the game?"),
                                tr("The game is still running. Quitting will close it."),
+                               //: The button that answers the question.
                                tr("Quit")))
             return false;
     }

@@ -78,6 +78,7 @@ QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
     throwIfCancelled(stop);
     ensureOwner();
     m_forceGameDownload = false;
+    //: The name of a step, shown below the title "Downloading".
     enter(Phase::downloading(), tr("Step 1 of 4 · Downloading the game"));
     co_await waitForDeletion();
     throwIfCancelled(stop);
@@ -127,8 +128,9 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
         throwIfCancelled(stop);
         ensureOwner();
         const auto edition = manager.mono ? u"-mono"_s : QString();
-        enter(Phase::downloading(), tr("Step 2 of 4 · Downloading the Godot engine (%1%2)")
-                                        .arg(EngineManager::version(), edition));
+        //: %1 is a version, such as "3.5.3-stable-mono".
+        enter(Phase::downloading(), tr("Step 2 of 4 · Downloading the Godot engine (%1)")
+                                        .arg(EngineManager::version() + edition));
         const auto installing = manager.install(makeDownloader(), m_log.callback(), stop);
         engine = co_await installing;
     }
@@ -163,9 +165,9 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     const auto after = co_await secondCount;
     throwIfCancelled(stop);
     if (after >= 1) {
-        throw AppError(tr("The first-time setup did not finish: %1 game assets were "
-                          "not imported (engine exit code %2).")
-                           .arg(after)
+        throw AppError(tr("The first-time setup did not finish: %n game assets were "
+                          "not imported (engine exit code %1).",
+                          nullptr, after)
                            .arg(status));
     }
     const auto marking =

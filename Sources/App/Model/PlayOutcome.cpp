@@ -19,9 +19,9 @@ QString PlayOutcome::sentence() const
     case Kind::stoppedByPlayer:
         return u"Game stopped by you."_s;
     case Kind::closedTooSoon:
-        return tr("The game closed after %1 seconds (exit code %2), so it did not "
-                  "start properly.")
-            .arg(m_elapsed.count())
+        return tr("The game closed after %n seconds (exit code %1), so it did not "
+                  "start properly.",
+                  nullptr, static_cast<int>(m_elapsed.count()))
             .arg(m_exitStatus);
     case Kind::closedNormally:
         return u"Game closed normally."_s;

@@ -56,7 +56,8 @@ void setLine(QByteArrayList& lines, const QByteArray& key, const QByteArray& val
 QByteArrayList readLines(const QString& path)
 {
     const auto fail = [&path](const QString& reason) {
-        return PlatformError::fromReason(PlatformError::tr("change “%1”").arg(path), reason);
+        return PlatformError::fromReason(PlatformError::tr("Could not change “%1”").arg(path),
+                                         reason);
     };
     if (!FileTree::exists(path))
         return {QByteArray()};
@@ -79,7 +80,8 @@ void replaceFile(const QString& path, const QByteArray& contents)
     file.write(contents);
     file.close();
     if (const auto error = FileTree::rename(newPath, path); error != 0)
-        throw PlatformError::fromErrno(PlatformError::tr("replace “%1”").arg(path), error);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not replace “%1”").arg(path),
+                                       error);
 }
 
 } // namespace

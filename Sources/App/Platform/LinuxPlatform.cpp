@@ -87,6 +87,7 @@ QString LinuxPlatform::engineArchiveSuffix(bool mono) const
         return mono ? u"mono_x11_64.zip"_s : u"x11.64.zip"_s;
     if (m_processor == "i386"_L1)
         return mono ? u"mono_x11_32.zip"_s : u"x11.32.zip"_s;
+    //: %1 is a kind of processor, such as "arm64".
     throw AppError(AppError::tr("The Godot 3 engine is not available for this computer's "
                                 "processor (%1).")
                        .arg(m_processor));

@@ -25,7 +25,8 @@ namespace {
 
 PlatformError startError(const ChildProcess::Command& command, int error)
 {
-    return PlatformError::fromErrno(PlatformError::tr("start “%1”").arg(command.program), error);
+    return PlatformError::fromErrno(PlatformError::tr("Could not start “%1”").arg(command.program),
+                                    error);
 }
 
 // The next functions run in the child between fork and exec, where a program with several threads

@@ -30,7 +30,7 @@ Pipe makePipe()
 {
     auto pipe = Pipe::make();
     if (!pipe)
-        throw PlatformError::fromErrno(PlatformError::tr("create a pipe"), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not create a pipe"), errno);
     return std::move(*pipe);
 }
 

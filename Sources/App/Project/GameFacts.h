@@ -48,6 +48,7 @@ inline constexpr QStringView author = u"Quennet (Brindlework)";
 
 // Texts of the window, to be shown by translated().
 
+//: Below the game's name. "2D": seen from the side, with no depth.
 inline constexpr auto tagline = QT_TRANSLATE_NOOP("GameFacts", "A 2D grappling-hook adventure");
 
 /// One row of the game's controls.
@@ -57,14 +58,22 @@ struct Control
     const char* input;
 };
 inline constexpr std::array controls{
+    //: What a player of the game does; the keys and buttons for it follow.
     Control{QT_TRANSLATE_NOOP("GameFacts", "Move"),
+            //: A and D are keys of the keyboard, the stick is one of a game controller.
             QT_TRANSLATE_NOOP("GameFacts", "A / D, or the left stick")},
+    //: What a player of the game does.
     Control{QT_TRANSLATE_NOOP("GameFacts", "Jump"),
+            //: Space and W are keys of the keyboard, A is a button of a game controller.
             QT_TRANSLATE_NOOP("GameFacts", "Space or W, or the A button")},
+    //: A hook on a rope, with which the player swings and pulls.
     Control{QT_TRANSLATE_NOOP("GameFacts", "Grappling hook"),
+            //: The shoulder buttons of a game controller are those behind its front.
             QT_TRANSLATE_NOOP("GameFacts", "Left mouse button, or a shoulder button")},
+    //: What a player of the game does.
     Control{QT_TRANSLATE_NOOP("GameFacts", "Aim"),
             QT_TRANSLATE_NOOP("GameFacts", "Hold F, or use the right stick")},
+    //: What a player of the game does: begin again.
     Control{QT_TRANSLATE_NOOP("GameFacts", "Restart"), QT_TRANSLATE_NOOP("GameFacts", "Alt + R")},
 };
 inline constexpr auto controlsSource =

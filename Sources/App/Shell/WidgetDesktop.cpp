@@ -91,6 +91,7 @@ void WidgetDesktop::openFolder(const QString& path)
         return;
     auto* const alert =
         new Alert(tr("The folder could not be opened."),
+                  //: %1 is the path of a folder.
                   tr("This desktop has no file browser. The folder is “%1”.").arg(path));
     alert->setAttribute(Qt::WA_DeleteOnClose);
     alert->addButton(tr("OK"), QMessageBox::AcceptRole);

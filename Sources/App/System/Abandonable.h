@@ -37,7 +37,8 @@ auto runAbandonable(Work work, std::chrono::milliseconds timeout, const std::sto
             shared->ended.notify_all();
         }).detach();
     } catch (const std::system_error& error) {
-        throw PlatformError::fromErrno(PlatformError::tr("start a thread"), error.code().value());
+        throw PlatformError::fromErrno(PlatformError::tr("Could not start a thread"),
+                                       error.code().value());
     }
     std::unique_lock lock(shared->mutex);
     shared->ended.wait_for(lock, stop, timeout, [&shared] { return shared->result.has_value(); });

@@ -9,15 +9,18 @@ PlatformError::PlatformError(const QString& sentence)
 {
 }
 
-PlatformError PlatformError::fromErrno(const QString& action, int errorNumber)
+PlatformError PlatformError::fromErrno(const QString& failure, int errorNumber)
 {
     if (errorNumber == ENOSPC || errorNumber == EDQUOT)
-        return fromReason(action, tr("The disk is full. Make room on it and try again."));
-    return fromReason(action, qt_error_string(errorNumber));
+        return fromReason(failure, tr("The disk is full. Make room on it and try again."));
+    return fromReason(failure, qt_error_string(errorNumber));
 }
 
-PlatformError PlatformError::fromReason(const QString& action, const QString& reason)
+PlatformError PlatformError::fromReason(const QString& failure, const QString& reason)
 {
-    const auto full = reason.endsWith(u'.') ? reason : reason + u'.';
-    return PlatformError(tr("Could not %1: %2").arg(action, full));
+    const auto isSentence = reason.endsWith(u'.') || reason.endsWith(u'。');
+    //: Makes a sentence of a reason in the system's own words, such as "Permission denied".
+    const auto sentence = isSentence ? reason : tr("%1.").arg(reason);
+    //: What failed, such as "Could not open “the file”", and the sentence that says why.
+    return PlatformError(tr("%1: %2").arg(failure, sentence));
 }

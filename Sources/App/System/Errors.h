@@ -25,8 +25,8 @@ public:
 };
 
 /// An error that the operating system or the network reported, with one whole sentence for the
-/// player: the action, the file or host, and the system's reason. `action` below is a translated
-/// part of that sentence, e.g. PlatformError::tr("open “%1”").
+/// player: the action, the file or host, and the system's reason. `failure` below is the translated
+/// part before the reason, e.g. PlatformError::tr("Could not open “%1”").
 class PlatformError final : public std::runtime_error
 {
     Q_DECLARE_TR_FUNCTIONS(PlatformError)
@@ -34,11 +34,11 @@ class PlatformError final : public std::runtime_error
 public:
     explicit PlatformError(const QString& sentence);
 
-    /// "Could not <action>: <the system's text for errorNumber>."
-    static PlatformError fromErrno(const QString& action, int errorNumber);
+    /// "<failure>: <the system's text for errorNumber>."
+    static PlatformError fromErrno(const QString& failure, int errorNumber);
 
-    /// "Could not <action>: <reason>." Adds the full stop only if `reason` has none.
-    static PlatformError fromReason(const QString& action, const QString& reason);
+    /// "<failure>: <reason>." Adds the full stop only if `reason` has none.
+    static PlatformError fromReason(const QString& failure, const QString& reason);
 
     [[nodiscard]] QString message() const { return QString::fromUtf8(what()); }
 };

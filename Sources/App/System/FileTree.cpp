@@ -41,14 +41,15 @@ bool exchangePaths(const QString& first, const QString& second)
     // Two separate renames may still succeed.
     if (error == ENOENT || error == EXDEV || isUnsupported(error))
         return false;
-    throw PlatformError::fromErrno(PlatformError::tr("exchange “%1” and “%2”").arg(first, second),
-                                   error);
+    throw PlatformError::fromErrno(
+        PlatformError::tr("Could not exchange “%1” and “%2”").arg(first, second), error);
 }
 
 void throwIfNotMoved(int error, const QString& from, const QString& to)
 {
     if (error != 0)
-        throw PlatformError::fromErrno(PlatformError::tr("move “%1” to “%2”").arg(from, to), error);
+        throw PlatformError::fromErrno(
+            PlatformError::tr("Could not move “%1” to “%2”").arg(from, to), error);
 }
 
 /// Renames the old folder. Deletes it on EXDEV: overlayfs cannot rename a folder of its lower
@@ -99,8 +100,8 @@ void FileTree::remove(const QString& path, const std::stop_token& stop)
     const auto failure = TreeRemoval::remove(path, stop);
     throwIfCancelled(stop);
     if (failure)
-        throw PlatformError::fromReason(PlatformError::tr("remove “%1”").arg(failure->path),
-                                        failure->reason);
+        throw PlatformError::fromReason(
+            PlatformError::tr("Could not remove “%1”").arg(failure->path), failure->reason);
 }
 
 void FileTree::removeBestEffort(const QString& path, const std::stop_token& stop) noexcept

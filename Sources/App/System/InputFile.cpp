@@ -17,7 +17,7 @@ InputFile::InputFile(const QString& path)
                 FileDescriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC)))
 {
     if (!m_descriptor.isOpen())
-        throw PlatformError::fromErrno(PlatformError::tr("open “%1”").arg(path), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not open “%1”").arg(path), errno);
 }
 
 InputFile::InputFile(QString path, FileDescriptor descriptor)
@@ -30,7 +30,7 @@ qint64 InputFile::size() const
 {
     struct stat status = {};
     if (::fstat(m_descriptor.get(), &status) != 0)
-        throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(m_path), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not read “%1”").arg(m_path), errno);
     return status.st_size;
 }
 
@@ -41,6 +41,7 @@ std::size_t InputFile::readAt(qint64 offset, char* buffer, std::size_t size) con
         if (count >= 0)
             return static_cast<std::size_t>(count);
         if (errno != EINTR)
-            throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(m_path), errno);
+            throw PlatformError::fromErrno(PlatformError::tr("Could not read “%1”").arg(m_path),
+                                           errno);
     }
 }

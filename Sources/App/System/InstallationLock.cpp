@@ -96,7 +96,8 @@ void InstallationLock::acquire()
         throw PlatformError(
             PlatformError::tr("The launcher is running a second time. Close the other one first."));
     throw PlatformError::fromErrno(
-        PlatformError::tr("lock “%1”, without which nothing is installed or removed").arg(m_path),
+        PlatformError::tr("Could not lock “%1”, without which nothing is installed or removed")
+            .arg(m_path),
         m_error);
 }
 

@@ -20,7 +20,8 @@ OutputFile::OutputFile(int folder, const QByteArray& name, mode_t mode)
                             O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode))
 {
     if (!m_descriptor.isOpen())
-        throw PlatformError::fromErrno(PlatformError::tr("create “%1”").arg(shownName()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not create “%1”").arg(shownName()),
+                                       errno);
 }
 
 void OutputFile::write(QByteArrayView bytes)
@@ -31,7 +32,8 @@ void OutputFile::write(QByteArrayView bytes)
         if (written >= 0)
             bytes = bytes.sliced(written);
         else if (errno != EINTR)
-            throw PlatformError::fromErrno(PlatformError::tr("write “%1”").arg(shownName()), errno);
+            throw PlatformError::fromErrno(
+                PlatformError::tr("Could not write “%1”").arg(shownName()), errno);
     }
 }
 
@@ -39,14 +41,16 @@ void OutputFile::close()
 {
     // A close() that fails, also with EINTR, has released the descriptor.
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
-        throw PlatformError::fromErrno(PlatformError::tr("write “%1”").arg(shownName()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not write “%1”").arg(shownName()),
+                                       errno);
 }
 
 FileDescriptor OutputFile::closeForReading()
 {
     FileDescriptor reading(::fcntl(m_descriptor.get(), F_DUPFD_CLOEXEC, 0));
     if (!reading.isOpen())
-        throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(shownName()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not read “%1”").arg(shownName()),
+                                       errno);
     close();
     return reading;
 }

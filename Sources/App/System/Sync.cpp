@@ -17,7 +17,8 @@ namespace {
 
 [[noreturn]] void throwNotWritten(const QString& path, int error)
 {
-    throw PlatformError::fromErrno(PlatformError::tr("write “%1” to the disk").arg(path), error);
+    throw PlatformError::fromErrno(PlatformError::tr("Could not write “%1” to the disk").arg(path),
+                                   error);
 }
 
 /// Calls fsync() and returns the error number; 0 also if the file system does not support it.

@@ -60,6 +60,7 @@ ContentView::ContentView(AppModel& model)
         if (!QApplication::activeModalWidget())
             (new SettingsView(m_model, this))->open();
     });
+    //: The button that opens the sheet about the launcher and its game.
     auto* const about = new BorderedButton(tr("About"), [this] {
         if (!QApplication::activeModalWidget())
             (new AboutView(this))->open();
@@ -94,6 +95,7 @@ ContentView::ContentView(AppModel& model)
 
 QWidget* ContentView::controlsBlock()
 {
+    //: The title above the keys and buttons that the game is played with.
     QList<StackItem> rows{new TextLabel(TextStyle::headline, tr("Controls"))};
     for (const auto& [action, input] : GameFacts::controls)
         rows.append(controlRow(GameFacts::translated(action), GameFacts::translated(input)));

@@ -17,9 +17,11 @@ FailureReport::FailureReport(AppModel& model)
 
 void FailureReport::build()
 {
+    //: What a screen reader calls the box with the text of a failure.
     m_box = new TextBox(tr("Failure report"), 170, [](const QPalette& palette) {
         return SystemColors::withOpacity(SystemColors::red(palette), 0.08);
     });
+    //: The button that copies the text of a failure.
     auto* const copy = new BorderedButton(tr("Copy"), [this] { m_model.copyFailure(); });
     stackVertically(*this, {.spacing = 6}, {m_box, {copy, Qt::AlignLeading}});
     // Widgets made later come last in the tab order otherwise.

@@ -15,6 +15,7 @@ LogView::LogView(AppModel& model)
     : m_copy(new BorderedButton(tr("Copy log"), [&model] { model.copyLog(); }))
 {
     auto* const box = new TextBox(
+        //: What a screen reader calls the box with the lines of the log.
         tr("Log"), 180, [](const QPalette&) { return SystemColors::withOpacity(Qt::black, 0.06); });
     m_edit = &box->edit();
     stackVertically(*this, {.spacing = 6}, {box, {m_copy, Qt::AlignLeading}});

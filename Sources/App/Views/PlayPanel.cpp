@@ -43,11 +43,15 @@ PlayPanel::PlayPanel(AppModel& model)
     , m_dot(new StatusDot(statusColor(model)))
     , m_title(new TextLabel(TextStyle::headline))
     , m_detail(new TextLabel(TextStyle::callout, {}, TextTone::secondary))
+    //: What a screen reader calls the progress bar.
     , m_progress(new ProgressBar(tr("Progress")))
     , m_progressText(new TextLabel(TextStyle::caption, {}, TextTone::secondary))
     , m_progressBlock(verticalStack({}, {m_progress, m_progressText}))
+    //: The button that installs the game, if need be, and starts it.
     , m_play(new PlayButton(tr("Play"), [this] { m_model.play(); }))
+    //: The button that ends the running game.
     , m_stop(new BorderedButton(tr("Stop"), [this] { m_model.stopGame(); }))
+    //: The button that cancels the download or the setup.
     , m_cancel(new BorderedButton(tr("Cancel"), [this] { m_model.cancelSetup(); }))
     , m_showLog(new DisclosureButton(tr("Show log")))
     , m_logBlock(verticalStack({.spacing = 0}, {{m_showLog, Qt::AlignLeading}}))
@@ -80,6 +84,7 @@ void PlayPanel::refreshStatus()
 {
     const auto title = m_model.statusTitle();
     const auto detail = m_model.statusDetail();
+    //: What a screen reader says of the coloured dot: a status, and a sentence about it.
     m_dot->setStatus(statusColor(m_model), tr("Status: %1 \u2013 %2").arg(title, detail));
     m_title->setText(title);
     m_detail->setText(detail);

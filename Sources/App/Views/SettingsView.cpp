@@ -23,6 +23,7 @@ constexpr auto spacing = 14;
 QString title(ResolutionChoice choice)
 {
     if (choice == ResolutionChoice::gameDefault)
+        //: Among resolutions: the one that the game comes with.
         return SettingsView::tr("Game default");
     return rawValue(choice).replace(u'x', u" \u00d7 "_s);
 }
@@ -46,12 +47,15 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     m_update =
         new BorderedButton(tr("Update the game"), [this] { closeAfter(&AppModel::updateGame); });
     m_reinstall = new BorderedButton(tr("Reinstall"), [this] { closeAfter(&AppModel::reinstall); });
+    //: Opens the folder in which the game keeps its saves.
     m_showSaves = new BorderedButton(tr("Show saves"), [this] {
         m_model.showSaves();
         refresh(); // The folder may be gone.
     });
     m_remove = new DestructiveButton(QString(), [this] { m_model.removeEverything(); });
     auto* const reveal =
+        //: Opens the file browser at the installed files. The Finder is that of one system only;
+        //: a translation speaks of the file manager.
         new BorderedButton(tr("Reveal in Finder"), [this] { m_model.revealInFinder(); });
 
     setContent(
@@ -82,6 +86,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
 
 QWidget* SettingsView::displayPickers()
 {
+    //: Whether the game runs in a window or on the whole screen.
     m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
     connect(m_window, &SegmentedPicker::currentChanged, this,
             [this](int index) { m_model.setFullscreen(index == 1); });
@@ -131,6 +136,7 @@ void SettingsView::refresh()
     m_reinstall->setEnabled(!busy);
     m_showSaves->setEnabled(hasSaves);
     m_noSaves->setVisible(!hasSaves);
+    //: %1 is an amount, such as "70.1 MB".
     m_remove->setText(size.isEmpty() ? tr("Remove everything")
                                      : tr("Remove everything (frees %1)").arg(size));
     m_remove->setEnabled(!busy);

@@ -115,7 +115,7 @@ QString reason(const FailedRequest& request)
 PlatformError transferError(const FailedRequest& request)
 {
     return PlatformError::fromReason(
-        PlatformError::tr("download “%1”").arg(request.download.toDisplayString()),
+        PlatformError::tr("Could not download “%1”").arg(request.download.toDisplayString()),
         reason(request));
 }
 
@@ -123,16 +123,19 @@ PlatformError stallError(const FailedRequest& request, bool hasAnswered,
                          std::chrono::milliseconds timeout)
 {
     const auto isProxySilent = !hasAnswered && failedAtProxy(request);
+    const auto seconds = static_cast<int>(std::chrono::ceil<std::chrono::seconds>(timeout).count());
     const auto sentence =
         isProxySilent
             ? PlatformError::tr("The download of “%1” stalled: the proxy “%2” did not answer "
-                                "within %3 seconds. Check the proxy settings and try again.")
+                                "within %n seconds. Check the proxy settings and try again.",
+                                nullptr, seconds)
         : hasAnswered
-            ? PlatformError::tr("The download of “%1” stalled: %2 sent nothing for %3 seconds. "
-                                "Check the internet connection and try again.")
-            : PlatformError::tr("The download of “%1” stalled: %2 did not answer within %3 "
-                                "seconds. Check the internet connection and try again.");
-    return PlatformError(sentence.arg(
-        request.download.toDisplayString(), isProxySilent ? request.proxy : request.host,
-        QString::number(std::chrono::duration<double>(timeout).count())));
+            ? PlatformError::tr("The download of “%1” stalled: %2 sent nothing for %n seconds. "
+                                "Check the internet connection and try again.",
+                                nullptr, seconds)
+            : PlatformError::tr("The download of “%1” stalled: %2 did not answer within %n "
+                                "seconds. Check the internet connection and try again.",
+                                nullptr, seconds);
+    return PlatformError(sentence.arg(request.download.toDisplayString(),
+                                      isProxySilent ? request.proxy : request.host));
 }

@@ -38,7 +38,7 @@ ZipError damaged(const QString& shownName)
 {
     if (zip_error_system_type(&error) == ZIP_ET_SYS) {
         throw PlatformError::fromErrno(
-            PlatformError::tr("read the archive entry “%1”").arg(shownName),
+            PlatformError::tr("Could not read the archive entry “%1”").arg(shownName),
             zip_error_code_system(&error));
     }
     throw damaged(shownName);
@@ -52,7 +52,8 @@ QString openFailure(int error, const InputFile& file)
     case ZIP_ER_READ:
     case ZIP_ER_SEEK:
     case ZIP_ER_TELL:
-        throw PlatformError::fromErrno(PlatformError::tr("read “%1”").arg(file.path()), errno);
+        throw PlatformError::fromErrno(PlatformError::tr("Could not read “%1”").arg(file.path()),
+                                       errno);
     case ZIP_ER_MEMORY:
         return u"there is not enough memory"_s;
     case ZIP_ER_INCONS:

@@ -24,8 +24,8 @@ ZipTree::ZipTree(const QString& destination)
     : m_folder(openFolder(destination))
 {
     if (!m_folder.isOpen())
-        throw PlatformError::fromErrno(PlatformError::tr("open the folder “%1”").arg(destination),
-                                       errno);
+        throw PlatformError::fromErrno(
+            PlatformError::tr("Could not open the folder “%1”").arg(destination), errno);
 }
 
 void ZipTree::makeFolder(const std::string& path)
@@ -38,9 +38,9 @@ void ZipTree::makeFolder(const std::string& path)
     if (::mkdirat(m_folder.get(), path.c_str(), executableMode) != 0) {
         const auto reason = errno;
         if (reason != EEXIST || !isFolder(m_folder.get(), path)) {
-            throw PlatformError::fromErrno(
-                PlatformError::tr("create the folder “%1”").arg(QString::fromStdString(path)),
-                reason);
+            throw PlatformError::fromErrno(PlatformError::tr("Could not create the folder “%1”")
+                                               .arg(QString::fromStdString(path)),
+                                           reason);
         }
     }
     m_made.insert(path);
@@ -63,8 +63,9 @@ void ZipTree::makeLinks(const std::stop_token& stop)
         throwIfCancelled(stop);
         makeFolderAbove(link.path);
         if (::symlinkat(link.target.constData(), m_folder.get(), link.path.constData()) != 0) {
-            throw PlatformError::fromErrno(
-                PlatformError::tr("create the link “%1”").arg(QFile::decodeName(link.path)), errno);
+            throw PlatformError::fromErrno(PlatformError::tr("Could not create the link “%1”")
+                                               .arg(QFile::decodeName(link.path)),
+                                           errno);
         }
     }
 }
