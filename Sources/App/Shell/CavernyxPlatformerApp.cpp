@@ -19,13 +19,11 @@
 
 #include <QIcon>
 #include <QImageReader>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScopeGuard>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -115,6 +113,12 @@ void releaseLock()
     installationLock().release();
 }
 
+QString translationsFolder()
+{
+    return u"%1/../share/%2/translations"_s.arg(QCoreApplication::applicationDirPath(),
+                                                GameFacts::programName);
+}
+
 } // namespace
 
 AppModel& AppModel::shared()
@@ -129,12 +133,12 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
     : m_arguments{programName, nullptr}
     , m_activationToken(activationToken())
     , m_application(makeApplication(m_argumentCount, m_arguments))
+    , m_translation(translationsFolder(), QLocale().uiLanguages())
 {
     // A blinking cursor in the read-only texts would wake the processor for nothing.
     QApplication::setCursorFlashTime(0);
     // The delegate decides when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
-    loadTranslation();
     QApplication::setWindowIcon(programIcon());
 }
 
@@ -212,21 +216,4 @@ void CavernyxPlatformerApp::warn(const QString& sentence)
 {
     std::fputs(qPrintable(sentence + u'\n'), stderr);
     QMessageBox::warning(nullptr, QCoreApplication::applicationName(), sentence);
-}
-
-void CavernyxPlatformerApp::loadTranslation()
-{
-    const auto program = GameFacts::programName.toString();
-    const auto folder =
-        u"%1/../share/%2/translations"_s.arg(QCoreApplication::applicationDirPath(), program);
-    // Qt's own texts, such as the context menu of a selectable text, follow our language.
-    if (installTranslation(program, folder))
-        installTranslation(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-}
-
-bool CavernyxPlatformerApp::installTranslation(const QString& name, const QString& folder)
-{
-    auto* const translator = new QTranslator(&m_application);
-    return translator->load(QLocale(), name, u"_"_s, folder) &&
-           QCoreApplication::installTranslator(translator);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Shell/SingleInstance.h"
+#include "Shell/Translation.h"
 
 #include <QApplication>
 
@@ -26,12 +27,11 @@ private:
     SingleInstance::Start start(SingleInstance& instance);
     int runFirst(SingleInstance& instance);
     static void warn(const QString& sentence);
-    void loadTranslation();
-    bool installTranslation(const QString& name, const QString& folder);
 
     int m_argumentCount = 1;
     char* m_arguments[2];
     /// The desktop's permission for a window of this start to come to the front.
     QByteArray m_activationToken;
     QApplication m_application;
+    Translation m_translation;
 };

@@ -36,6 +36,10 @@ class Launcher(Program):
         subprocess.run(["xdotool", "mousemove", x, y,
                         "click", "--repeat", "2", "--delay", "250", "1"], check=True)
 
+    def is_left_of(self, name: str, other: str) -> bool:
+        """Whether the right end of one button is further left than that of another."""
+        return self._controls.right_end(name) < self._controls.right_end(other)
+
     def is_enabled(self, name: str) -> bool:
         return bool(self._controls.button(name))
 
