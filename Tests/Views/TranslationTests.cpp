@@ -6,6 +6,7 @@
 #include "Controls/LinkLabel.h"
 
 #include <QComboBox>
+#include <QScopeGuard>
 
 namespace {
 
@@ -91,6 +92,15 @@ TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
     model().updateSize();
     EXPECT_TRUE(
         waitUntil([&] { return button(sheet, u"<Remove everything (frees <3 MB>)>") != nullptr; }));
+}
+
+TEST_F(TranslationTest, keepsTheWidthBeforeTheHeightInALineFromTheRight)
+{
+    const auto guard =
+        qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto& sheet = open<SettingsView>(u"<Settings\u2026>");
+    EXPECT_EQ(only<QComboBox>(sheet).itemText(1), u"\u200e1280 \u00d7 720"_s);
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheAboutSheet)

@@ -20,12 +20,14 @@ namespace {
 
 constexpr auto spacing = 14;
 
-QString title(ResolutionChoice choice)
+QString title(ResolutionChoice choice, Qt::LayoutDirection direction)
 {
     if (choice == ResolutionChoice::gameDefault)
         //: Among resolutions: the one that the game comes with.
         return SettingsView::tr("Game default");
-    return rawValue(choice).replace(u'x', u" \u00d7 "_s);
+    const auto size = rawValue(choice).replace(u'x', u" \u00d7 "_s);
+    // The width comes first also in a line that is read from the right.
+    return direction == Qt::RightToLeft ? u'\u200e' + size : size;
 }
 
 /// Adds a control that fills its row, with its label before it.
@@ -96,7 +98,7 @@ QWidget* SettingsView::displayPickers()
     m_resolution->setFocusPolicy(Qt::StrongFocus); // By default the wheel moves the focus there.
     forwardReturnKey(*m_resolution);
     for (const auto choice : allResolutionChoices)
-        m_resolution->addItem(title(choice));
+        m_resolution->addItem(title(choice, layoutDirection()));
     connect(m_resolution, &QComboBox::currentIndexChanged, this, [this](int index) {
         m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
     });
