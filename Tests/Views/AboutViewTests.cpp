@@ -3,7 +3,6 @@
 
 #include "Controls/LinkLabel.h"
 
-#include <QLayout>
 #include <QPointer>
 #include <QTest>
 
@@ -14,7 +13,6 @@ using AboutViewTest = ViewTest;
 TEST_F(AboutViewTest, is440WideWithItsTextsInOrder)
 {
     EXPECT_EQ(about().width(), 440);
-    EXPECT_EQ(about().layout()->spacing(), 10);
     expectTexts(
         about(),
         {
@@ -32,6 +30,10 @@ TEST_F(AboutViewTest, is440WideWithItsTextsInOrder)
              u"engine from GitHub releases).",
              12, QFont::Normal, true},
         });
+    EXPECT_EQ(gapBelow(*label(about(), u"Nothing is sent anywhere except the two downloads (the "
+                                       u"game from GitHub and the engine from GitHub releases)."),
+                       *button(about(), u"Done")),
+              10);
 }
 
 TEST_F(AboutViewTest, showsTheAddressItselfAsALink)

@@ -143,6 +143,15 @@ TEST_F(ContentViewTest, shortensAFactThatIsFarTooLong)
     EXPECT_TRUE(label(QString(2000, u'x') + u'\u2026'));
 }
 
+TEST_F(ContentViewTest, cutsAFactBetweenCharactersOnly)
+{
+    const QString before(1999, u'x');
+    for (const auto& character : {u"e\u0301\u0323"_s, u"\U0001F409"_s, u"\u0915\u093F"_s}) {
+        showGameWith("#+DESCRIPTION: " + (before + character + u"the rest"_s).toUtf8(), {});
+        EXPECT_TRUE(label(before + u'\u2026')) << character;
+    }
+}
+
 TEST_F(ContentViewTest, listsTheFiveControlsInOrder)
 {
     expectTexts(window(), {{u"Controls", 13, QFont::Bold}});

@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QDir>
-#include <QLayout>
 #include <QPointer>
 #include <QTest>
 #include <QWheelEvent>
@@ -25,8 +24,12 @@ protected:
 TEST_F(SettingsViewTest, is440WideAndPaddedBy20)
 {
     EXPECT_EQ(settings().width(), 440);
-    EXPECT_EQ(settings().layout()->contentsMargins(), QMargins(20, 20, 20, 20));
-    EXPECT_EQ(settings().layout()->spacing(), 14);
+    EXPECT_EQ(rectOf(*label(settings(), u"Settings")).topLeft(), QPoint(20, 20));
+    EXPECT_EQ(gapBelow(*button(settings(), u"Reinstall"),
+                       *label(settings(), u"Updating downloads the game again. Save files are "
+                                          u"kept; they live in Godot's own folder.")),
+              14);
+    EXPECT_EQ(gapBelow(removal(), control(u"Done")), 14);
     EXPECT_EQ(rectOf(control(u"Done")).right(), 440 - 20 - 1);
     EXPECT_EQ(rectOf(control(u"Done")).bottom(), settings().height() - 20 - 1);
 }

@@ -58,10 +58,10 @@ void ViewTest::showAllBlocks()
     enter(Phase::Kind::needs);
 }
 
-void ViewTest::enlargeFont()
+void ViewTest::enlargeFont(double factor)
 {
     auto larger = QApplication::font();
-    larger.setPointSizeF(larger.pointSizeF() * 4 / 3);
+    larger.setPointSizeF(larger.pointSizeF() * factor);
     QApplication::setFont(larger);
     settle();
 }

@@ -47,7 +47,7 @@ protected:
     void install(const QByteArray& engine);
     /// Shows everything that the window has: a failure report and the log.
     void showAllBlocks();
-    static void enlargeFont();
+    static void enlargeFont(double factor = 4 / 3.0);
 
     /// The button with this text below `parent`, or null.
     static QAbstractButton* button(const QWidget& parent, QStringView text);

@@ -61,6 +61,21 @@ BorderedButton::BorderedButton(const QString& title, const std::function<void()>
     setAutoDefault(false);
     setFocusPolicy(Qt::TabFocus);
     forwardReturnKey(*this);
+    auto policy = sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Maximum);
+    policy.setVerticalPolicy(QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QSize BorderedButton::minimumSizeHint() const
+{
+    return {ControlPainter::minTitleWidth(text(), font()), sizeHint().height()};
+}
+
+int BorderedButton::heightForWidth(int width) const
+{
+    return std::max(ControlPainter::titleHeight(text(), font(), width), sizeHint().height());
 }
 
 void DestructiveButton::initStyleOption(QStyleOptionButton* option) const

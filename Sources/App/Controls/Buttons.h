@@ -9,14 +9,17 @@
 /// some desktops they press whatever has the focus otherwise.
 void forwardReturnKey(QWidget& control);
 
-/// An ordinary push button. The space bar presses it, Return does not; a click does not move the
-/// focus.
+/// An ordinary push button, whose title wraps where there is no room for it on one line. The space
+/// bar presses it, Return does not; a click does not move the focus.
 class BorderedButton : public QPushButton
 {
     Q_OBJECT
 
 public:
     explicit BorderedButton(const QString& title, const std::function<void()>& action = {});
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
 };
 
 /// A bordered button with a red title, for an action that cannot be undone.

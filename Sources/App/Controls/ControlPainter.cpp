@@ -3,6 +3,7 @@
 
 #include "Controls/Glyphs.h"
 #include "Controls/SystemColors.h"
+#include "Controls/WrappedText.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -27,12 +28,40 @@ QColor inState(const QColor& color, QStyle::State state, const QColor& overlay)
     return color;
 }
 
+/// The width that a title has in a control of `width`.
+int titleWidth(const QString& title, const QFont& font, int width)
+{
+    // The size hint rounds the title's width, so it gets a pixel more on each side.
+    const auto usual = width - 2 * (horizontalPadding - 1);
+    return WrappedText::widestWord(title, font) <= usual ? usual : width - 2 * minHorizontalPadding;
+}
+
 QPen roundPen(const QColor& color, double width)
 {
     return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 } // namespace
+
+int minTitleWidth(const QString& title, const QFont& font)
+{
+    return WrappedText::widestWord(title, font) + 2 * minHorizontalPadding;
+}
+
+int titleHeight(const QString& title, const QFont& font, int width)
+{
+    const auto text = WrappedText::height(title, font, titleWidth(title, font, width));
+    return std::max(text + 2 * verticalPadding, minHeight);
+}
+
+void paintTitle(QPainter& painter, const QRect& rect, Qt::LayoutDirection direction,
+                const QString& title, const QColor& color)
+{
+    const auto padding = rect.width() - titleWidth(title, painter.font(), rect.width());
+    painter.setPen(color);
+    WrappedText::paint(painter, rect.adjusted(padding / 2, 0, -(padding - padding / 2), 0),
+                       Qt::AlignCenter, direction, title);
+}
 
 void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, const QPen& pen,
                       const QBrush& brush)

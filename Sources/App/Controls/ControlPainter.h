@@ -16,14 +16,24 @@ class QStyleOptionSlider;
 /// scroll bars. Rectangles are in device-independent pixels.
 namespace ControlPainter {
 
-/// Sizes of a control of ordinary size: its corners, the room around its title, its height.
+/// Sizes of a control of ordinary size: its corners, the room around its title, and the least of it
+/// where space is short, its height.
 inline constexpr auto cornerRadius = 6.0;
 inline constexpr auto horizontalPadding = 14;
+inline constexpr auto minHorizontalPadding = 6;
 inline constexpr auto verticalPadding = 5;
 inline constexpr auto minHeight = 26;
 
 inline constexpr auto scrollBarWidth = 12;
 inline constexpr auto minScrollBarSlider = 28;
+
+/// The smallest width of a control whose title wraps between its words, and its height at a width.
+[[nodiscard]] int minTitleWidth(const QString& title, const QFont& font);
+[[nodiscard]] int titleHeight(const QString& title, const QFont& font, int width);
+
+/// The title of a control of ordinary size in the centre of `rect`.
+void paintTitle(QPainter& painter, const QRect& rect, Qt::LayoutDirection direction,
+                const QString& title, const QColor& color);
 
 /// A rounded rectangle, antialiased.
 void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, const QPen& pen,

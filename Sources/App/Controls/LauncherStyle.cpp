@@ -59,16 +59,6 @@ void LauncherStyle::polish(QWidget* widget)
         widget->setAttribute(Qt::WA_StyledBackground);
 }
 
-void LauncherStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
-                                 const QPalette& palette, bool enabled, const QString& text,
-                                 QPalette::ColorRole role) const
-{
-    auto colors = palette;
-    if (role == QPalette::PlaceholderText)
-        colors.setColor(role, SystemColors::secondaryText(palette));
-    QProxyStyle::drawItemText(painter, rect, flags, colors, enabled, text, role);
-}
-
 void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                   QPainter* painter, const QWidget* widget) const
 {
@@ -119,11 +109,16 @@ void LauncherStyle::drawControl(ControlElement element, const QStyleOption* opti
         }
         break;
     case CE_PushButtonLabel:
-        if (isDefaultButton(*option)) {
-            auto label = *qstyleoption_cast<const QStyleOptionButton*>(option);
-            label.palette.setColor(QPalette::ButtonText,
-                                   ControlPainter::prominentText(option->state, option->palette));
-            QProxyStyle::drawControl(element, &label, painter, widget);
+        if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            auto label = *button;
+            if (isDefaultButton(*option))
+                label.palette.setColor(QPalette::ButtonText, ControlPainter::prominentText(
+                                                                 option->state, option->palette));
+            if (widget && widget->hasHeightForWidth())
+                ControlPainter::paintTitle(*painter, widget->rect(), label.direction, label.text,
+                                           label.palette.color(QPalette::ButtonText));
+            else
+                QProxyStyle::drawControl(element, &label, painter, widget);
             return;
         }
         break;

@@ -21,9 +21,6 @@ public:
     /// Sheets and alerts get an edge of their own: not every desktop draws one around them.
     void polish(QWidget* widget) override;
 
-    /// Text in the role PlaceholderText is drawn in the secondary text colour.
-    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
-                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

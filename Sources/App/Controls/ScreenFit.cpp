@@ -5,13 +5,13 @@
 #include <QWidget>
 #include <QWindow>
 
-ScreenFit::ScreenFit(QWidget& window, QSize minSize)
+ScreenFit::ScreenFit(QWidget& window, const std::function<void(QSize)>& fit)
     : QObject(&window)
     , m_window(window)
-    , m_minSize(minSize)
+    , m_fit(fit)
 {
     window.installEventFilter(this);
-    fit();
+    this->fit();
 }
 
 bool ScreenFit::eventFilter(QObject*, QEvent* event)
@@ -39,13 +39,9 @@ void ScreenFit::setScreen(QScreen* screen)
 
 void ScreenFit::fit()
 {
-    const auto* const handle = m_window.windowHandle();
+    // A sheet that has no frame yet gets one like that of the window below it.
+    const auto* const framed = m_window.windowHandle() ? &m_window : m_window.parentWidget();
+    const auto* const handle = framed ? framed->windowHandle() : nullptr;
     const auto frame = handle ? handle->frameMargins() : QMargins();
-    const auto minSize = m_minSize.boundedTo(m_window.screen()->availableSize().shrunkBy(frame));
-    if (minSize == m_window.minimumSize())
-        return;
-    const auto isMinimal = m_window.size() == m_window.minimumSize();
-    m_window.setMinimumSize(minSize);
-    if (isMinimal)
-        m_window.resize(minSize);
+    m_fit(m_window.screen()->availableSize().shrunkBy(frame));
 }

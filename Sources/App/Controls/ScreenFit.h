@@ -6,18 +6,19 @@
 #include <QScreen>
 #include <QSize>
 
+#include <functional>
+
 class QWidget;
 
-/// Sets the minimum size of a window: the wanted one, or as much of it as fits on the window's
-/// screen between the desktop's panels and inside the window's frame. Follows the window to other
-/// screens. A window that has its minimum size keeps it when that changes.
+/// Tells a window how large it can be on its screen, between the desktop's panels and inside its
+/// frame. Follows the window to other screens.
 class ScreenFit final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to `window`.
-    ScreenFit(QWidget& window, QSize minSize);
+    /// Belongs to `window`. Calls `fit` with that size, now and whenever it may have changed.
+    ScreenFit(QWidget& window, const std::function<void(QSize)>& fit);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -27,6 +28,6 @@ private:
     void fit();
 
     QWidget& m_window;
-    QSize m_minSize;
+    std::function<void(QSize)> m_fit;
     QPointer<QScreen> m_screen;
 };

@@ -11,8 +11,6 @@
 #include <QRadioButton>
 #include <QStyleOptionButton>
 
-#include <algorithm>
-
 namespace {
 
 /// A radio button that looks like a raised plate while it is checked.
@@ -22,18 +20,26 @@ public:
     explicit Segment(const QString& title)
         : QRadioButton(title)
     {
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
         forwardReturnKey(*this);
     }
 
     [[nodiscard]] QSize sizeHint() const override
     {
         const auto label = fontMetrics().size(Qt::TextSingleLine, text());
-        const auto height = label.height() + 2 * ControlPainter::verticalPadding;
-        return {label.width() + 2 * ControlPainter::horizontalPadding,
-                std::max(height, ControlPainter::minHeight)};
+        const auto width = label.width() + 2 * ControlPainter::horizontalPadding;
+        return {width, heightForWidth(width)};
     }
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {ControlPainter::minTitleWidth(text(), font()), sizeHint().height()};
+    }
+    [[nodiscard]] int heightForWidth(int width) const override
+    {
+        return ControlPainter::titleHeight(text(), font(), width);
+    }
 
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
@@ -55,8 +61,8 @@ protected:
                 painter, plate, radius, Qt::NoPen,
                 SystemColors::withOpacity(textColor, isDown() ? 0.12 : 0.06));
         }
-        painter.setPen(isChecked() ? QColor(Qt::white) : textColor);
-        painter.drawText(rect(), Qt::AlignCenter, text());
+        ControlPainter::paintTitle(painter, rect(), layoutDirection(), text(),
+                                   isChecked() ? QColor(Qt::white) : textColor);
         if (!ControlPainter::showsFocus(option.state))
             return;
         if (isChecked())
@@ -72,6 +78,7 @@ protected:
 SegmentedPicker::SegmentedPicker(const QString& name, const QStringList& titles)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     setAccessibleName(name);
     auto* const row = new QHBoxLayout(this);
     row->setSpacing(0);

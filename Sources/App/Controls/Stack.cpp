@@ -12,9 +12,11 @@ void fill(QBoxLayout& box, StackLayout layout, const QList<StackItem>& children)
 {
     box.setSpacing(layout.spacing);
     box.setContentsMargins(layout.padding, layout.padding, layout.padding, layout.padding);
+    const auto isRow = box.direction() != QBoxLayout::TopToBottom;
     for (const auto& child : children) {
+        const auto fallback = isRow ? Qt::AlignVCenter : Qt::Alignment();
         if (child.widget)
-            box.addWidget(child.widget, 0, child.alignment);
+            box.addWidget(child.widget, 0, child.alignment ? child.alignment : fallback);
         else
             box.addStretch();
     }

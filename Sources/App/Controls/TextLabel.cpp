@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/TextLabel.h"
 
+#include "Controls/SystemColors.h"
+#include "Controls/WrappedText.h"
+
+#include <QPainter>
+
 #include <algorithm>
 
 TextLabel::TextLabel(const std::function<QFont()>& font, const QString& text, TextTone tone)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    // LauncherStyle draws the placeholder role in the secondary text colour.
     setForegroundRole(tone == TextTone::secondary ? QPalette::PlaceholderText
                                                   : QPalette::WindowText);
     followFont(*this, font);
@@ -23,7 +27,7 @@ TextLabel::Sizes& TextLabel::sizes() const
 {
     if (m_sizes.text != text() || m_sizes.font != font()) {
         const QSize oneLine(fontMetrics().size(0, text()).width(),
-                            QLabel::heightForWidth(QWIDGETSIZE_MAX));
+                            WrappedText::height(text(), font(), QWIDGETSIZE_MAX));
         m_sizes = {text(), font(), oneLine, {}};
     }
     return m_sizes;
@@ -49,6 +53,19 @@ int TextLabel::heightForWidth(int width) const
         return known.oneLine.height();
     const auto [height, isNew] = known.heights.try_emplace(width);
     if (isNew)
-        height->second = QLabel::heightForWidth(width);
+        height->second = WrappedText::height(text(), font(), width);
     return height->second;
+}
+
+void TextLabel::paintEvent(QPaintEvent* event)
+{
+    if (!wordWrap()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(foregroundRole() == QPalette::PlaceholderText
+                       ? SystemColors::secondaryText(palette())
+                       : palette().color(foregroundRole()));
+    WrappedText::paint(painter, contentsRect(), alignment(), layoutDirection(), text());
 }

@@ -11,7 +11,8 @@
 /// The two strengths of the window's text.
 enum class TextTone { primary, secondary };
 
-/// A text in one of the window's styles, which wraps to as many lines as it needs.
+/// A text in one of the window's styles, which wraps to as many lines as it needs; inside a word
+/// only if that is wider than the label.
 ///
 /// Plain text only: nothing that a repository or a server says is taken for markup. It follows the
 /// application's font and palette.
@@ -30,6 +31,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     /// The sizes of `text` in `font`. Kept because layouts ask for them again and again: without

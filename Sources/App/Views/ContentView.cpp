@@ -8,6 +8,7 @@
 #include "Controls/ScreenFit.h"
 #include "Controls/Stack.h"
 #include "Controls/TextLabel.h"
+#include "Controls/WrappedText.h"
 #include "Model/AppModel.h"
 #include "Project/GameFacts.h"
 #include "Views/AboutView.h"
@@ -19,7 +20,10 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QTextBoundaryFinder>
 #include <QTimer>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -27,22 +31,19 @@ namespace {
 
 constexpr auto padding = 20;
 
-/// An action and its keys or buttons. Both have the same font size, so their baselines meet when
-/// both are at the top.
-QWidget* controlRow(const QString& action, const QString& binding)
-{
-    auto* const left =
-        new TextLabel([] { return textFont(TextStyle::body, QFont::Medium); }, action);
-    auto* const right = new TextLabel(TextStyle::body, binding, TextTone::secondary);
-    left->setFixedWidth(120);
-    return horizontalStack({}, {{left, Qt::AlignTop}, {right, Qt::AlignTop}});
-}
-
-/// A label lays out all of its text at once, and a fact comes from a file of any length.
+/// A label lays out all of its text at once, and a fact comes from a file of any length. It is cut
+/// where a character ends as a reader sees it, which may be several code points.
 QString shortened(const QString& fact)
 {
     constexpr auto maxLength = 2000;
-    return fact.size() <= maxLength ? fact : fact.left(maxLength) + u'\u2026';
+    if (fact.size() <= maxLength)
+        return fact;
+    const auto beginning = fact.left(maxLength + 1);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, beginning);
+    finder.setPosition(maxLength);
+    if (!finder.isAtBoundary())
+        finder.toPreviousBoundary();
+    return beginning.left(finder.position()) + u'\u2026';
 }
 
 } // namespace
@@ -65,29 +66,22 @@ ContentView::ContentView(AppModel& model)
         if (!QApplication::activeModalWidget())
             (new AboutView(this))->open();
     });
-    auto* const column = new QWidget;
-    stackVertically(*column, {.spacing = 16, .padding = padding},
-                    {
-                        new HeaderArt,
-                        verticalStack({.spacing = 6}, {m_summary, m_credits}),
-                        controlsBlock(),
-                        m_panel,
-                        horizontalStack({}, {settings, about, spacer}),
-                        spacer,
-                    });
-
-    setWidget(column);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
+    setColumn(16, {padding, padding, padding, padding},
+              {
+                  new HeaderArt,
+                  verticalStack({.spacing = 6}, {m_summary, m_credits}),
+                  controlsBlock(),
+                  m_panel,
+                  horizontalStack({}, {settings, about, spacer}),
+                  spacer,
+              });
     setWindowTitle(GameFacts::launcherName.toString());
-    new ScreenFit(*this, minSize);
+    new ScreenFit(*this, [this](QSize available) { fit(available); });
     new Dimmer(*this);
     new RepeatedPressFilter(*this);
     m_panel->playButton().setFocus();
 
-    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            &ContentView::reserveScrollBarSpace);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ContentView::keepPlayInView);
     connect(m_panel, &PlayPanel::disclosed, this, &ContentView::scrollTo);
     connect(&m_model, &AppModel::changed, this, &ContentView::refreshFacts);
     refreshFacts();
@@ -97,11 +91,28 @@ QWidget* ContentView::controlsBlock()
 {
     //: The title above the keys and buttons that the game is played with.
     QList<StackItem> rows{new TextLabel(TextStyle::headline, tr("Controls"))};
-    for (const auto& [action, input] : GameFacts::controls)
-        rows.append(controlRow(GameFacts::translated(action), GameFacts::translated(input)));
+    for (const auto& [action, input] : GameFacts::controls) {
+        // Both have the same font size, so their baselines meet when both are at the top.
+        auto* const left = new TextLabel([] { return textFont(TextStyle::body, QFont::Medium); },
+                                         GameFacts::translated(action));
+        auto* const right =
+            new TextLabel(TextStyle::body, GameFacts::translated(input), TextTone::secondary);
+        m_actions.append(left);
+        rows.append(horizontalStack({}, {{left, Qt::AlignTop}, {right, Qt::AlignTop}}));
+    }
+    fitActions();
     rows.append(new TextLabel(TextStyle::caption, GameFacts::translated(GameFacts::controlsSource),
                               TextTone::secondary));
     return verticalStack({.spacing = 4}, rows);
+}
+
+void ContentView::fitActions()
+{
+    auto width = 120;
+    for (const auto* const action : m_actions)
+        width = std::max(width, WrappedText::widestWord(action->text(), action->font()));
+    for (auto* const action : m_actions)
+        action->setFixedWidth(width);
 }
 
 void ContentView::refreshFacts()
@@ -120,40 +131,45 @@ void ContentView::scrollTo(QWidget* disclosed)
     });
 }
 
-void ContentView::reserveScrollBarSpace()
+void ContentView::fit(QSize available)
 {
-    const auto& bar = *verticalScrollBar();
-    const auto width = bar.maximum() > bar.minimum() ? bar.sizeHint().width() : 0;
-    auto margins = QMargins(padding, padding, padding, padding);
-    if (isRightToLeft())
-        margins.setLeft(padding - width);
-    else
-        margins.setRight(padding - width);
-    widget()->layout()->setContentsMargins(margins);
+    const auto fitting = minSize.boundedTo(available);
+    if (fitting == minimumSize())
+        return;
+    const auto isMinimal = size() == minimumSize();
+    setMinimumSize(fitting);
+    if (isMinimal)
+        resize(fitting);
+}
+
+void ContentView::keepPlayInView()
+{
+    auto& bar = *verticalScrollBar();
+    if (bar.value() != m_startPosition)
+        return;
+    const auto& play = m_panel->playButton();
+    const auto bottom = play.mapTo(widget(), play.rect().bottomLeft()).y() + 1 + padding;
+    bar.setValue(bottom - viewport()->height());
+    m_startPosition = bar.value();
 }
 
 bool ContentView::event(QEvent* event)
 {
     propagateFontChange(*this, *event);
-    return QScrollArea::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        fitActions();
+    const auto handled = ScrollColumn::event(event);
+    // What is not visible yet has not been laid out.
+    if (event->type() == QEvent::Show)
+        keepPlayInView();
+    return handled;
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)
 {
     // Keys that the control under the focus has not used.
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat() && !(event->modifiers() & ~Qt::KeypadModifier))
-            m_panel->playButton().click();
-        return;
-    case Qt::Key_Home:
-        verticalScrollBar()->triggerAction(QScrollBar::SliderToMinimum);
-        return;
-    case Qt::Key_End:
-        verticalScrollBar()->triggerAction(QScrollBar::SliderToMaximum);
-        return;
-    default:
-        QScrollArea::keyPressEvent(event);
-    }
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        ScrollColumn::keyPressEvent(event);
+    else if (!event->isAutoRepeat() && !(event->modifiers() & ~Qt::KeypadModifier))
+        m_panel->playButton().click();
 }

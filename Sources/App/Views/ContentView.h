@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QScrollArea>
+#include "Controls/ScrollColumn.h"
 
 class AppModel;
 class PlayPanel;
@@ -9,7 +9,7 @@ class TextLabel;
 
 /// The root of the main window: a scrolling column with the banner, the game's description and
 /// controls, the play panel, and the buttons that open the two sheets.
-class ContentView final : public QScrollArea
+class ContentView final : public ScrollColumn
 {
     Q_OBJECT
 
@@ -27,15 +27,22 @@ protected:
 
 private:
     [[nodiscard]] QWidget* controlsBlock();
+    /// Makes the column of actions wide enough for the widest word in a large font.
+    void fitActions();
     void refreshFacts();
     /// Scrolls just as far as makes `disclosed` visible.
     void scrollTo(QWidget* disclosed);
-    /// Takes the scroll bar's width from the padding, so that no text wraps differently when it
-    /// comes and goes.
-    void reserveScrollBarSpace();
+    /// Sets the minimum size, or as much of it as is available. A window that has its minimum size
+    /// keeps it.
+    void fit(QSize available);
+    /// Scrolls just as far as brings Play into view, unless the player has scrolled.
+    void keepPlayInView();
 
     AppModel& m_model;
     TextLabel* m_summary;
     TextLabel* m_credits;
     PlayPanel* m_panel;
+    QList<TextLabel*> m_actions;
+    /// Where keepPlayInView() has scrolled to. Elsewhere the player has scrolled.
+    int m_startPosition = 0;
 };

@@ -6,8 +6,9 @@
 #include "Controls/TextLabel.h"
 #include "Model/AppModel.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
-#include <QGridLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -28,16 +29,6 @@ QString title(ResolutionChoice choice, Qt::LayoutDirection direction)
     const auto size = rawValue(choice).replace(u'x', u" \u00d7 "_s);
     // The width comes first also in a line that is read from the right.
     return direction == Qt::RightToLeft ? u'\u200e' + size : size;
-}
-
-/// Adds a control that fills its row, with its label before it.
-void addRow(QGridLayout& grid, int row, const QString& text, QWidget* control)
-{
-    auto* const label = new QLabel(text);
-    label->setBuddy(control);
-    control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    grid.addWidget(label, row, 0);
-    grid.addWidget(control, row, 1);
 }
 
 } // namespace
@@ -95,6 +86,7 @@ QWidget* SettingsView::displayPickers()
 
     m_resolution = new QComboBox;
     m_resolution->setAccessibleName(tr("Resolution"));
+    m_resolution->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_resolution->setFocusPolicy(Qt::StrongFocus); // By default the wheel moves the focus there.
     forwardReturnKey(*m_resolution);
     for (const auto choice : allResolutionChoices)
@@ -103,14 +95,46 @@ QWidget* SettingsView::displayPickers()
         m_model.setResolution(allResolutionChoices.at(static_cast<size_t>(index)));
     });
 
-    auto* const pickers = new QWidget;
-    auto* const grid = new QGridLayout(pickers);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(defaultSpacing);
-    grid->setVerticalSpacing(spacing);
-    addRow(*grid, 0, tr("Window"), m_window);
-    addRow(*grid, 1, tr("Resolution"), m_resolution);
+    auto* const pickers =
+        verticalStack({.spacing = spacing}, {pickerRow(tr("Window"), m_window),
+                                             pickerRow(tr("Resolution"), m_resolution)});
+    arrangePickers();
     return pickers;
+}
+
+QWidget* SettingsView::pickerRow(const QString& text, QWidget* control)
+{
+    auto* const label = new QLabel(text);
+    label->setBuddy(control);
+    auto* const row = horizontalStack({}, {});
+    auto* const box = static_cast<QBoxLayout*>(row->layout());
+    box->addWidget(label);
+    box->addWidget(control);
+    m_pickerRows.append({box, label, control});
+    return row;
+}
+
+void SettingsView::arrangePickers()
+{
+    auto labels = 0;
+    auto controls = 0;
+    for (const auto& row : m_pickerRows) {
+        labels = std::max(labels, row.label->sizeHint().width());
+        controls = std::max(controls, row.control->sizeHint().width());
+    }
+    const auto fits = labels + defaultSpacing + controls <= contentWidth;
+    for (const auto& row : m_pickerRows) {
+        row.box->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+        row.label->setMinimumWidth(fits ? labels : 0);
+    }
+}
+
+bool SettingsView::event(QEvent* event)
+{
+    const auto handled = Sheet::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        arrangePickers();
+    return handled;
 }
 
 void SettingsView::closeAfter(void (AppModel::*action)())

@@ -4,7 +4,9 @@
 #include "Controls/Sheet.h"
 
 class AppModel;
+class QBoxLayout;
 class QComboBox;
+class QLabel;
 class QPushButton;
 class SegmentedPicker;
 class TextLabel;
@@ -19,12 +21,26 @@ public:
     /// `model` must outlive the sheet.
     SettingsView(AppModel& model, QWidget* parent);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    struct PickerRow
+    {
+        QBoxLayout* box;
+        QLabel* label;
+        QWidget* control;
+    };
+
     [[nodiscard]] QWidget* displayPickers();
+    [[nodiscard]] QWidget* pickerRow(const QString& text, QWidget* control);
+    /// Puts the labels before the controls, or above them where there is no room for that.
+    void arrangePickers();
     void closeAfter(void (AppModel::*action)());
     void refresh();
 
     AppModel& m_model;
+    QList<PickerRow> m_pickerRows;
     SegmentedPicker* m_window = nullptr;
     QComboBox* m_resolution = nullptr;
     QPushButton* m_update = nullptr;
