@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Controls/LauncherStyle.h"
 #include "Controls/ProgressBar.h"
 #include "Controls/SystemColors.h"
 
@@ -77,6 +78,19 @@ TEST_F(ProgressBarTest, isAnimatedOnlyWhileItIsIndeterminateAndVisible)
     bar.setFraction(0.25);
     bar.setFraction({});
     EXPECT_FALSE(isAnimating());
+}
+
+TEST_F(ProgressBarTest, standsStillInItsMiddleWithoutMotion)
+{
+    auto& style = *static_cast<LauncherStyle*>(QApplication::style());
+    style.setReducesMotion(true);
+    EXPECT_FALSE(isAnimating());
+    EXPECT_TRUE(!isFilledAt(0.3) && isFilledAt(0.5) && !isFilledAt(0.7));
+    bar.hide();
+    bar.show();
+    EXPECT_FALSE(isAnimating());
+    style.setReducesMotion(false);
+    EXPECT_TRUE(isAnimating());
 }
 
 } // namespace

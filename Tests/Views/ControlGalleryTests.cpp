@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -164,6 +165,51 @@ TEST_P(ControlGallery, takesALargerFont)
     settings().reject();
     settle();
     save(about(), "larger-font-about");
+}
+
+TEST_P(ControlGallery, takesTwiceTheFontSize)
+{
+    enlargeFont(2);
+    home.write(root(u"more"_s), QByteArray(312'400'000, 'x'));
+    showAllBlocks();
+    showAll();
+    save(window(), "double-font");
+    settings();
+    ASSERT_TRUE(waitUntil([this] { return model().installedSize() == u"312.4 MB"_s; }));
+    save(settings(), "double-font-settings");
+    settings().reject();
+    settle();
+    save(about(), "double-font-about");
+}
+
+TEST_P(ControlGallery, takesASheetHigherThanTheScreen)
+{
+    enlargeFont(2.5);
+    window().windowHandle()->setScreen(QGuiApplication::screens().constLast());
+    settle();
+    save(window(), "small-screen-start");
+    save(about(), "small-screen-about");
+}
+
+TEST_P(ControlGallery, takesHighContrast)
+{
+    QApplication::setPalette(GetParam() == Theme::dark ? Palettes::highContrastDark()
+                                                       : Palettes::highContrastLight());
+    showAllBlocks();
+    showAll();
+    save(window(), "high-contrast");
+    auto stops = focusStops(window());
+    stops += focusStops(settings());
+    save(settings(), "high-contrast-settings");
+    settings().reject();
+    settle();
+    save(about(), "high-contrast-about");
+    about().reject();
+    settle();
+    save(stops, "high-contrast-focus");
+    showDownload();
+    showAll();
+    save(window(), "high-contrast-download");
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, ControlGallery, testing::Values(Theme::light, Theme::dark));

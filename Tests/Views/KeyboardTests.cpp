@@ -6,11 +6,23 @@
 #include <QAccessible>
 #include <QTest>
 
+#include <tuple>
+
 namespace {
 
-class KeyboardTest : public ViewTest
+/// Where the keyboard has to do: the size of the font, as a factor, and the colours.
+using Surroundings = std::tuple<double, QPalette (*)()>;
+
+class KeyboardTest : public ViewTest, public testing::WithParamInterface<Surroundings>
 {
 protected:
+    KeyboardTest()
+    {
+        enlargeFont(std::get<double>(GetParam()));
+        QApplication::setPalette(std::get<QPalette (*)()>(GetParam())());
+        settle();
+    }
+
     /// What `key` moves the focus to, from what has it until that has it again.
     static QList<QWidget*> stops(QWidget& visited, Qt::Key key = Qt::Key_Tab)
     {
@@ -51,7 +63,7 @@ protected:
     }
 };
 
-TEST_F(KeyboardTest, goesThroughTheWindowFromTopToBottom)
+TEST_P(KeyboardTest, goesThroughTheWindowFromTopToBottom)
 {
     showAllBlocks();
     EXPECT_EQ(stopNames(window()),
@@ -59,7 +71,7 @@ TEST_F(KeyboardTest, goesThroughTheWindowFromTopToBottom)
                            u"Copy log"_s, u"Settings\u2026"_s, u"About"_s}));
 }
 
-TEST_F(KeyboardTest, keepsTheOrderWhenTheLogIsOpenedBeforeAFailure)
+TEST_P(KeyboardTest, keepsTheOrderWhenTheLogIsOpenedBeforeAFailure)
 {
     model().setShowLog(true);
     showAllBlocks();
@@ -72,7 +84,7 @@ TEST_F(KeyboardTest, keepsTheOrderWhenTheLogIsOpenedBeforeAFailure)
     EXPECT_EQ(order.last(), u"About"_s);
 }
 
-TEST_F(KeyboardTest, goesFromStopToTheLog)
+TEST_P(KeyboardTest, goesFromStopToTheLog)
 {
     enter(Phase::Kind::playing);
     stop().setFocus();
@@ -80,7 +92,7 @@ TEST_F(KeyboardTest, goesFromStopToTheLog)
               (QStringList{u"Stop"_s, u"Show log"_s, u"Settings\u2026"_s, u"About"_s}));
 }
 
-TEST_F(KeyboardTest, goesBackToTheDisclosureWhenTheLogCloses)
+TEST_P(KeyboardTest, goesBackToTheDisclosureWhenTheLogCloses)
 {
     model().setShowLog(true);
     settle();
@@ -89,7 +101,7 @@ TEST_F(KeyboardTest, goesBackToTheDisclosureWhenTheLogCloses)
     EXPECT_TRUE(disclosure().hasFocus());
 }
 
-TEST_F(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
+TEST_P(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
 {
     enter(Phase::Kind::ready);
     // The name of the resolutions is the choice.
@@ -99,13 +111,13 @@ TEST_F(KeyboardTest, goesThroughTheSettingsFromTopToBottom)
                            only<DestructiveButton>(settings()).text()}));
 }
 
-TEST_F(KeyboardTest, stopsOnceAtTheLink)
+TEST_P(KeyboardTest, stopsOnceAtTheLink)
 {
     EXPECT_EQ(stops(about()).size(), 2);
     EXPECT_EQ(stops(about(), Qt::Key_Backtab).at(1), &only<LinkLabel>(about()));
 }
 
-TEST_F(KeyboardTest, drawsARingAroundWhateverHasTheFocus)
+TEST_P(KeyboardTest, drawsARingAroundWhateverHasTheFocus)
 {
     showAllBlocks();
     expectARingAtEachStop(window());
@@ -114,5 +126,11 @@ TEST_F(KeyboardTest, drawsARingAroundWhateverHasTheFocus)
     settle();
     expectARingAtEachStop(about());
 }
+
+INSTANTIATE_TEST_SUITE_P(Surroundings, KeyboardTest,
+                         testing::Combine(testing::Values(1, 2),
+                                          testing::Values(Palettes::light,
+                                                          Palettes::highContrastLight,
+                                                          Palettes::highContrastDark)));
 
 } // namespace

@@ -26,7 +26,7 @@ RoundedBox::RoundedBox(double radius, Tint tint)
 void RoundedBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    ControlPainter::paintRoundedRect(painter, rect(), m_radius, Qt::NoPen, m_tint(palette()));
+    ControlPainter::paintTintedBox(painter, rect(), m_radius, m_tint(palette()), palette());
 }
 
 TextBox::TextBox(const QString& name, int height, Tint tint)
@@ -67,8 +67,9 @@ void TextBox::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const auto& colors = palette();
     if (m_edit->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        ControlPainter::paintFocusRing(painter, rect(), cornerRadius, SystemColors::blue(colors));
-    } else if (SystemColors::isDark(colors)) {
+        ControlPainter::paintFocusRing(painter, rect(), cornerRadius,
+                                       SystemColors::focusRing(colors));
+    } else if (SystemColors::isDark(colors) && !SystemColors::isHighContrast(colors)) {
         // The tint is hardly visible in dark mode, so the box gets an outline there.
         ControlPainter::paintRoundedRect(
             painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,

@@ -86,7 +86,9 @@ void DestructiveButton::initStyleOption(QStyleOptionButton* option) const
     const auto red = SystemColors::readable(SystemColors::red(colors), face, colors);
     colors.setColor(QPalette::Active, QPalette::ButtonText, red);
     colors.setColor(QPalette::Inactive, QPalette::ButtonText, red);
-    colors.setColor(QPalette::Disabled, QPalette::ButtonText, SystemColors::withOpacity(red, 0.45));
+    colors.setColor(QPalette::Disabled, QPalette::ButtonText,
+                    SystemColors::isHighContrast(colors) ? SystemColors::disabledText(colors)
+                                                         : SystemColors::withOpacity(red, 0.45));
 }
 
 DisclosureButton::DisclosureButton(const QString& title)
@@ -126,7 +128,7 @@ void DisclosureButton::paintEvent(QPaintEvent*)
     painter.drawText(QStyle::visualRect(layoutDirection(), rect(), title),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), text());
     if (ControlPainter::showsFocus(option.state))
-        ControlPainter::paintFocusRing(painter, rect(), 4, SystemColors::blue(palette()));
+        ControlPainter::paintFocusRing(painter, rect(), 4, SystemColors::focusRing(palette()));
 }
 
 PlayButton::PlayButton(const QString& title, const std::function<void()>& action)
@@ -163,9 +165,11 @@ void PlayButton::paintEvent(QPaintEvent*)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Text as large and bold as this needs no darker accent colour.
-    ControlPainter::paintProminentBezel(painter, rect(), option.state, palette(),
-                                        SystemColors::blue(palette()), 9);
+    // Text as large and bold as this needs a darker accent colour in high contrast only.
+    const auto accent = SystemColors::isHighContrast(palette())
+                            ? SystemColors::accentUnderText(palette())
+                            : SystemColors::blue(palette());
+    ControlPainter::paintProminentBezel(painter, rect(), option.state, palette(), accent, 9);
     const auto color = ControlPainter::prominentText(option.state, palette());
     painter.fillPath(Glyphs::play(symbol), color);
     painter.setPen(color);

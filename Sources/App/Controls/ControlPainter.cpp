@@ -74,26 +74,37 @@ void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, cons
     painter.restore();
 }
 
+void paintTintedBox(QPainter& painter, const QRectF& rect, double radius, const QColor& tint,
+                    const QPalette& palette, bool isEnabled)
+{
+    if (!SystemColors::isHighContrast(palette)) {
+        paintRoundedRect(painter, rect, radius, Qt::NoPen, tint);
+        return;
+    }
+    const auto edge = isEnabled ? SystemColors::edge(palette) : SystemColors::disabledEdge(palette);
+    paintRoundedRect(painter, rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, edge, tint);
+}
+
 void paintBezel(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette)
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
     const auto isEnabled = state.testFlag(QStyle::State_Enabled);
-    const auto edge =
-        isEnabled ? SystemColors::edge(palette) : SystemColors::withOpacity(text, 0.12);
+    const auto edge = isEnabled ? SystemColors::edge(palette) : SystemColors::disabledEdge(palette);
     const auto face = inState(palette.color(QPalette::Active, QPalette::Button), state, text);
     paintRoundedRect(painter, rect.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, edge, face);
     if (showsFocus(state))
-        paintFocusRing(painter, rect, cornerRadius, SystemColors::blue(palette));
+        paintFocusRing(painter, rect, cornerRadius, SystemColors::focusRing(palette));
 }
 
 void paintProminentBezel(QPainter& painter, const QRectF& rect, QStyle::State state,
                          const QPalette& palette, const QColor& accent, double radius)
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    const auto isEnabled = state.testFlag(QStyle::State_Enabled);
     // Hovering darkens it in dark mode too, since its title is white.
-    const auto face = state.testFlag(QStyle::State_Enabled) ? inState(accent, state, Qt::black)
-                                                            : SystemColors::withOpacity(text, 0.12);
-    paintRoundedRect(painter, rect, radius, Qt::NoPen, face);
+    const auto face =
+        isEnabled ? inState(accent, state, Qt::black) : SystemColors::withOpacity(text, 0.12);
+    paintTintedBox(painter, rect, radius, face, palette, isEnabled);
     if (showsFocus(state))
         paintFocusRing(painter, rect.adjusted(2, 2, -2, -2), radius - 2, Qt::white);
 }
@@ -102,7 +113,7 @@ QColor prominentText(QStyle::State state, const QPalette& palette)
 {
     if (state.testFlag(QStyle::State_Enabled))
         return Qt::white;
-    return SystemColors::withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.38);
+    return SystemColors::disabledText(palette);
 }
 
 bool showsFocus(QStyle::State state)
@@ -214,8 +225,9 @@ void paintScrollBar(QPainter& painter, const QStyleOptionSlider& option)
     const auto text = option.palette.color(QPalette::WindowText);
     const auto slider = QRectF(scrollBarPart(option, QStyle::SC_ScrollBarSlider));
     const auto shape = slider.adjusted(3, 3, -3, -3);
+    const auto opacity = SystemColors::isHighContrast(option.palette) ? 1 : isActive ? 0.5 : 0.3;
     paintRoundedRect(painter, shape, std::min(shape.width(), shape.height()) / 2, Qt::NoPen,
-                     SystemColors::withOpacity(text, isActive ? 0.5 : 0.3));
+                     SystemColors::withOpacity(text, opacity));
 }
 
 } // namespace ControlPainter

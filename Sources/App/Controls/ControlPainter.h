@@ -39,6 +39,10 @@ void paintTitle(QPainter& painter, const QRect& rect, Qt::LayoutDirection direct
 void paintRoundedRect(QPainter& painter, const QRectF& rect, double radius, const QPen& pen,
                       const QBrush& brush);
 
+/// A box that its tint sets off from what is behind it, and in high contrast an edge as well.
+void paintTintedBox(QPainter& painter, const QRectF& rect, double radius, const QColor& tint,
+                    const QPalette& palette, bool isEnabled = true);
+
 /// A bezel in the palette's button colour, with a focus ring if the keyboard is on it.
 void paintBezel(QPainter& painter, const QRectF& rect, QStyle::State state,
                 const QPalette& palette);

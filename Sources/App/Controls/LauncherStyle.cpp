@@ -5,18 +5,22 @@
 #include "Controls/Palettes.h"
 #include "Controls/SystemColors.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto popUpArrowsWidth = 26;
+constexpr auto animationDuration = 200;
 
 /// Whether this is the button that Return presses, which is filled with the accent colour.
 bool isDefaultButton(const QStyleOption& option)
@@ -80,7 +84,8 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         // A button's bezel has a ring of its own.
         if (!qstyleoption_cast<const QStyleOptionButton*>(option) &&
             !(widget && widget->inherits("QPushButton")))
-            ControlPainter::paintFocusRing(*painter, option->rect, 4, SystemColors::blue(palette));
+            ControlPainter::paintFocusRing(*painter, option->rect, 4,
+                                           SystemColors::focusRing(palette));
         return;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -93,7 +98,7 @@ void LauncherStyle::drawControl(ControlElement element, const QStyleOption* opti
     switch (element) {
     case CE_FocusFrame:
         ControlPainter::paintFocusRing(*painter, option->rect, ControlPainter::cornerRadius,
-                                       SystemColors::blue(option->palette));
+                                       SystemColors::focusRing(option->palette));
         return;
     case CE_MenuItem:
         if (const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
@@ -144,6 +149,17 @@ void LauncherStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void LauncherStyle::setReducesMotion(bool reduces)
+{
+    if (std::exchange(m_reducesMotion, reduces) == reduces)
+        return;
+    const auto widgets = QApplication::allWidgets();
+    for (auto* const widget : widgets) {
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
 }
 
 QRect LauncherStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
@@ -206,5 +222,7 @@ int LauncherStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText ||
         hint == SH_ComboBox_AllowWheelScrolling)
         return 0;
+    if (hint == SH_Widget_Animation_Duration)
+        return m_reducesMotion ? 0 : animationDuration;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -14,6 +14,9 @@ class LauncherStyle final : public QProxyStyle
 public:
     LauncherStyle();
 
+    /// Without motion, whatever is animated stands still. Widgets hear of it as a change of style.
+    void setReducesMotion(bool reduces);
+
     /// Light or dark as the platform's own theme has it.
     [[nodiscard]] QPalette standardPalette() const override;
 
@@ -36,4 +39,7 @@ public:
                                   const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* returnData) const override;
+
+private:
+    bool m_reducesMotion = false;
 };

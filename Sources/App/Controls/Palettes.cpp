@@ -34,7 +34,7 @@ QPalette makePalette(const Colors& colors)
     palette.setColor(QPalette::ToolTipText, colors.text);
     palette.setColor(QPalette::Highlight, SystemColors::accentUnderText(palette));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    const auto faint = SystemColors::withOpacity(colors.text, 0.38);
+    const auto faint = SystemColors::disabledText(palette);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faint);
     const auto link = SystemColors::readable(SystemColors::blue(palette), colors.window, palette);
@@ -73,14 +73,29 @@ QPalette dark()
                         .text = QColor(240, 240, 243)});
 }
 
-void apply(ColorScheme::Preference preference)
+QPalette highContrastLight()
 {
-    if (preference == ColorScheme::Preference::none) {
-        applyThemePalette();
-        return;
-    }
-    const auto wantsDark = preference == ColorScheme::Preference::dark;
-    if (SystemColors::isDark(QApplication::palette()) != wantsDark)
+    return makePalette(
+        {.window = Qt::white, .base = Qt::white, .button = Qt::white, .text = Qt::black});
+}
+
+QPalette highContrastDark()
+{
+    return makePalette(
+        {.window = Qt::black, .base = Qt::black, .button = Qt::black, .text = Qt::white});
+}
+
+void apply(const Appearance& wanted)
+{
+    applyThemePalette();
+    const auto theme = QApplication::palette();
+    const auto isDark = SystemColors::isDark(theme);
+    const auto wantsDark = wanted.scheme == Appearance::Scheme::none
+                               ? isDark
+                               : wanted.scheme == Appearance::Scheme::dark;
+    if (wanted.highContrast && (isDark != wantsDark || !SystemColors::isHighContrast(theme)))
+        QApplication::setPalette(wantsDark ? highContrastDark() : highContrastLight());
+    else if (isDark != wantsDark)
         QApplication::setPalette(wantsDark ? dark() : light());
 }
 

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Platform/ColorScheme.h"
+#include "Platform/Appearance.h"
 
 #include <QPalette>
 
-/// The light and the dark palette of the launcher, for platforms that bring none of their own.
+/// The palettes of the launcher, for platforms that bring none of their own.
 namespace Palettes {
 
 [[nodiscard]] QPalette light();
 [[nodiscard]] QPalette dark();
+[[nodiscard]] QPalette highContrastLight();
+[[nodiscard]] QPalette highContrastDark();
 
-/// Sets the application's palette for `preference`. Without a preference it is the platform
-/// theme's own palette, or ours where the theme has none.
-void apply(ColorScheme::Preference preference);
+/// Sets the application's palette: the platform theme's own where that is as wanted, otherwise, or
+/// where the theme has none, one of ours.
+void apply(const Appearance& wanted);
 
 } // namespace Palettes

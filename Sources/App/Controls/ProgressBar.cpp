@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/ProgressBar.h"
 
+#include "Controls/ControlPainter.h"
 #include "Controls/Drawing.h"
 #include "Controls/SystemColors.h"
 
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -70,7 +72,10 @@ void ProgressBar::paintEvent(QPaintEvent*)
     if (isRightToLeft())
         mirror(painter, width());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(track, SystemColors::line(palette()));
+    if (SystemColors::isHighContrast(palette()))
+        ControlPainter::paintTintedBox(painter, bar, radius, Qt::transparent, palette());
+    else
+        painter.fillPath(track, SystemColors::line(palette()));
     if (to > from)
         painter.fillPath(track.intersected(filled), SystemColors::blue(palette()));
 }
@@ -78,7 +83,8 @@ void ProgressBar::paintEvent(QPaintEvent*)
 bool ProgressBar::event(QEvent* event)
 {
     const auto handled = QProgressBar::event(event);
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide ||
+        event->type() == QEvent::StyleChange)
         updateAnimation();
     return handled;
 }
@@ -87,13 +93,18 @@ std::pair<double, double> ProgressBar::filledPart() const
 {
     if (!isIndeterminate())
         return {0, static_cast<double>(value()) / maximum()};
-    const auto start = m_travel->currentValue().toDouble();
+    const auto start = isAnimated() ? m_travel->currentValue().toDouble() : (1 - pieceLength) / 2;
     return {std::max(0.0, start), std::min(1.0, start + pieceLength)};
+}
+
+bool ProgressBar::isAnimated() const
+{
+    return style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
 }
 
 void ProgressBar::updateAnimation()
 {
-    if (isIndeterminate() && isVisible())
+    if (isIndeterminate() && isVisible() && isAnimated())
         m_travel->start();
     else
         m_travel->stop();

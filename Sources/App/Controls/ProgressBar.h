@@ -8,8 +8,8 @@
 
 class QVariantAnimation;
 
-/// A thin linear progress bar. When indeterminate, a short piece travels along it; that animation
-/// runs only while the bar is visible.
+/// A thin linear progress bar. When indeterminate, a short piece travels along it, or stands in its
+/// middle if the style has no animations. The animation runs only while the bar is visible.
 class ProgressBar final : public QProgressBar
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ private:
     [[nodiscard]] bool isIndeterminate() const { return minimum() == maximum(); }
     /// The start and the end of the filled part, 0 to 1 along the bar.
     [[nodiscard]] std::pair<double, double> filledPart() const;
+    [[nodiscard]] bool isAnimated() const;
     void updateAnimation();
 
     /// Of the start of the travelling piece.

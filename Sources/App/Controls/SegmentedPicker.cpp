@@ -69,7 +69,8 @@ protected:
             ControlPainter::paintFocusRing(painter, plate.adjusted(1.5, 1.5, -1.5, -1.5),
                                            radius - 1.5, Qt::white);
         else
-            ControlPainter::paintFocusRing(painter, plate, radius, SystemColors::blue(palette()));
+            ControlPainter::paintFocusRing(painter, plate, radius,
+                                           SystemColors::focusRing(palette()));
     }
 };
 
@@ -77,8 +78,8 @@ protected:
 
 SegmentedPicker::SegmentedPicker(const QString& name, const QStringList& titles)
 {
-    setAccessibleRole(*this, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(name);
     auto* const row = new QHBoxLayout(this);
     row->setSpacing(0);

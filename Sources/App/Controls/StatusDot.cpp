@@ -2,6 +2,7 @@
 #include "Controls/StatusDot.h"
 
 #include "Controls/Accessibility.h"
+#include "Controls/ControlPainter.h"
 
 #include <QPainter>
 
@@ -34,8 +35,5 @@ void StatusDot::setStatus(Color status, const QString& meaning)
 void StatusDot::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color());
-    painter.drawEllipse(rect());
+    ControlPainter::paintTintedBox(painter, rect(), width() / 2.0, color(), palette());
 }

@@ -8,8 +8,14 @@ namespace SystemColors {
 
 namespace {
 
-/// The minimum contrast of text of ordinary size in the accessibility guidelines.
-constexpr auto minContrast = 4.5;
+/// The minimum contrast of text of ordinary size in the accessibility guidelines, and of enhanced
+/// contrast there.
+double minContrast(const QPalette& palette)
+{
+    // A little more than 7, since colours are rounded.
+    return isHighContrast(palette) ? 7.1 : 4.5;
+}
+
 constexpr auto panelOpacity = 0.08;
 
 double linear(double component)
@@ -23,15 +29,32 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
-/// Returns `color` mixed with just enough of `admixture` for the minimum contrast to `other`.
-QColor mixed(const QColor& color, const QColor& admixture, const QColor& other)
+/// Returns `color` mixed with just enough of `admixture` for that contrast to `other`.
+QColor mixed(const QColor& color, const QColor& admixture, const QColor& other, double wanted)
 {
     for (auto percent = 0; percent < 100; percent += 2) {
         const auto candidate = blended(withOpacity(admixture, percent / 100.0), color);
-        if (contrast(candidate, other) >= minContrast)
+        if (contrast(candidate, other) >= wanted)
             return candidate;
     }
     return admixture;
+}
+
+/// The window's text at the lowest opacity, from `minPercent` on, that is readable on the window
+/// and on its panels.
+QColor fadedText(const QPalette& palette, int minPercent)
+{
+    const auto window = palette.color(QPalette::Window);
+    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    for (auto percent = minPercent; percent < 100; ++percent) {
+        const auto opacity = percent / 100.0;
+        const auto candidate = withOpacity(text, opacity);
+        const auto panel = blended(withOpacity(text, opacity * panelOpacity), window);
+        if (contrast(blended(candidate, panel), panel) >= minContrast(palette) &&
+            contrast(blended(candidate, window), window) >= minContrast(palette))
+            return candidate;
+    }
+    return text;
 }
 
 } // namespace
@@ -39,6 +62,12 @@ QColor mixed(const QColor& color, const QColor& admixture, const QColor& other)
 bool isDark(const QPalette& palette)
 {
     return palette.color(QPalette::Window).lightness() < 128;
+}
+
+bool isHighContrast(const QPalette& palette)
+{
+    return contrast(palette.color(QPalette::Active, QPalette::WindowText),
+                    palette.color(QPalette::Active, QPalette::Window)) > 20;
 }
 
 QColor blue(const QPalette& palette)
@@ -68,17 +97,14 @@ QColor gray(const QPalette& palette)
 
 QColor secondaryText(const QPalette& palette)
 {
-    const auto window = palette.color(QPalette::Window);
-    const auto text = palette.color(QPalette::WindowText);
-    for (auto percent = 55; percent < 100; ++percent) {
-        const auto opacity = percent / 100.0;
-        const auto candidate = withOpacity(text, opacity);
-        const auto panel = blended(withOpacity(text, opacity * panelOpacity), window);
-        if (contrast(blended(candidate, panel), panel) >= minContrast &&
-            contrast(blended(candidate, window), window) >= minContrast)
-            return candidate;
-    }
-    return text;
+    return fadedText(palette, isHighContrast(palette) ? 85 : 55);
+}
+
+QColor disabledText(const QPalette& palette)
+{
+    return isHighContrast(palette)
+               ? fadedText(palette, 55)
+               : withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.38);
 }
 
 QColor panel(const QPalette& palette)
@@ -89,12 +115,28 @@ QColor panel(const QPalette& palette)
 
 QColor edge(const QPalette& palette)
 {
-    return withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.22);
+    const auto text = palette.color(QPalette::Active, QPalette::WindowText);
+    return isHighContrast(palette) ? text : withOpacity(text, 0.22);
+}
+
+QColor disabledEdge(const QPalette& palette)
+{
+    return isHighContrast(palette)
+               ? disabledText(palette)
+               : withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.12);
+}
+
+QColor focusRing(const QPalette& palette)
+{
+    return isHighContrast(palette)
+               ? readable(blue(palette), palette.color(QPalette::Window), palette)
+               : blue(palette);
 }
 
 QColor line(const QPalette& palette)
 {
-    return withOpacity(palette.color(QPalette::WindowText), 0.14);
+    const auto text = palette.color(QPalette::WindowText);
+    return isHighContrast(palette) ? text : withOpacity(text, 0.14);
 }
 
 QColor withOpacity(const QColor& color, double opacity)
@@ -122,12 +164,12 @@ double contrast(const QColor& one, const QColor& other)
 
 QColor readable(const QColor& color, const QColor& background, const QPalette& palette)
 {
-    return mixed(color, palette.color(QPalette::WindowText), background);
+    return mixed(color, palette.color(QPalette::WindowText), background, minContrast(palette));
 }
 
 QColor accentUnderText(const QPalette& palette)
 {
-    return mixed(blue(palette), Qt::black, Qt::white);
+    return mixed(blue(palette), Qt::black, Qt::white, minContrast(palette));
 }
 
 } // namespace SystemColors

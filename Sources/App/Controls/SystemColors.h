@@ -10,6 +10,10 @@ namespace SystemColors {
 
 [[nodiscard]] bool isDark(const QPalette& palette);
 
+/// Whether the palette is one for players who ask for contrast: all but black and white. Every edge
+/// is then as strong as the text, and text has a contrast of at least 7.
+[[nodiscard]] bool isHighContrast(const QPalette& palette);
+
 [[nodiscard]] QColor blue(const QPalette& palette);
 [[nodiscard]] QColor green(const QPalette& palette);
 [[nodiscard]] QColor orange(const QPalette& palette);
@@ -20,11 +24,18 @@ namespace SystemColors {
 /// its panels.
 [[nodiscard]] QColor secondaryText(const QPalette& palette);
 
+[[nodiscard]] QColor disabledText(const QPalette& palette);
+
 /// The background of a panel: the secondary colour at an opacity of 8 %.
 [[nodiscard]] QColor panel(const QPalette& palette);
 
 /// The line around a control, a menu or a dialog.
 [[nodiscard]] QColor edge(const QPalette& palette);
+/// The line around a disabled control.
+[[nodiscard]] QColor disabledEdge(const QPalette& palette);
+
+/// The ring around the control that has the focus.
+[[nodiscard]] QColor focusRing(const QPalette& palette);
 
 /// A dividing line, and the track of a progress bar.
 [[nodiscard]] QColor line(const QPalette& palette);

@@ -5,7 +5,7 @@
 #include "Controls/Palettes.h"
 #include "Install/Paths.h"
 #include "Model/AppModel.h"
-#include "Platform/ColorScheme.h"
+#include "Platform/Appearance.h"
 #include "Platform/FontConfiguration.h"
 #include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
@@ -75,6 +75,13 @@ QApplication makeApplication(int& argumentCount, char** arguments)
     prepare();
     const FontConfiguration fonts; // Read while Qt connects to the display.
     return QApplication(argumentCount, arguments);
+}
+
+/// Makes every window look as the player wants it.
+void setAppearance(const Appearance& appearance)
+{
+    Palettes::apply(appearance);
+    static_cast<LauncherStyle*>(QApplication::style())->setReducesMotion(appearance.reducedMotion);
 }
 
 /// The icon in the sizes that the window and its alerts show. The desktop uses the installed ones.
@@ -193,14 +200,14 @@ SingleInstance::Start CavernyxPlatformerApp::start(SingleInstance& instance)
 int CavernyxPlatformerApp::runFirst(SingleInstance& instance)
 {
     auto& model = AppModel::shared();
-    Palettes::apply(ColorScheme::Preference::none);
-    const ColorScheme colorScheme;
+    Palettes::apply({});
+    const AppearancePortal portal;
     ContentView window(model);
     AppDelegate delegate(model, window);
     const SetupMonitor setupMonitor(model, window);
     const TerminationSignals terminationSignals;
 
-    QObject::connect(&colorScheme, &ColorScheme::preferenceReceived, &Palettes::apply);
+    QObject::connect(&portal, &AppearancePortal::changed, &setAppearance);
     QObject::connect(&instance, &SingleInstance::activated, &delegate, &AppDelegate::activate);
     QObject::connect(&setupMonitor, &SetupMonitor::activated, &delegate, &AppDelegate::activate);
     QObject::connect(&delegate, &AppDelegate::terminating, &instance,

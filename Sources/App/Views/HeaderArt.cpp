@@ -92,6 +92,8 @@ void HeaderArt::paintEvent(QPaintEvent*)
     painter.fillPath(silhouette(rect()).intersected(banner),
                      SystemColors::withOpacity(Qt::black, 0.25));
     painter.restore();
+    if (SystemColors::isHighContrast(palette()))
+        painter.fillPath(banner, SystemColors::withOpacity(Qt::black, 0.55));
     paintSymbol(painter);
 }
 

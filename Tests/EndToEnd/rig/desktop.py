@@ -118,6 +118,12 @@ class Desktop:
         display.close()
         return red, green, blue
 
+    def picture_of(self, title: str) -> bytes:
+        """All that a window shows now, three bytes a pixel."""
+        window, = self._visible_windows(f"^{title}$")
+        return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], check=True,
+                              capture_output=True).stdout
+
     def clipboard(self) -> str:
         """The text that any other program would now paste: nothing before the first copy."""
         return subprocess.run(["xclip", "-selection", "clipboard", "-out"],
