@@ -51,9 +51,9 @@ TEST_F(PlayPanelTest, turnsTheBarDeterminateWithoutMovingIt)
     enter(Phase::Kind::downloading);
     EXPECT_EQ(progress().maximum(), 0) << "indeterminate";
     const auto before = rectOf(progress());
-    enterDownload(250, 1000);
+    enterDownload(300, 1000);
     settle();
-    EXPECT_DOUBLE_EQ(double(progress().value()) / progress().maximum(), 0.25);
+    EXPECT_DOUBLE_EQ(double(progress().value()) / progress().maximum(), 0.3);
     EXPECT_EQ(rectOf(progress()), before);
 }
 

@@ -13,11 +13,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
+/// Assistive technology hears of each tenth only: it would read out every change of the value.
+constexpr auto steps = 10;
 /// Fine enough for a download of gigabytes to move smoothly on any screen.
-constexpr auto steps = 10'000;
+constexpr auto finestSteps = 10'000;
 /// The length of the travelling piece, as a share of the bar.
 constexpr auto pieceLength = 0.3;
 
@@ -42,13 +45,12 @@ void ProgressBar::setFraction(std::optional<double> fraction)
     const auto range = fraction ? steps : 0;
     if (maximum() != range)
         setRange(0, range);
-    if (fraction) {
-        const auto step = static_cast<int>(std::lround(std::clamp(*fraction, 0.0, 1.0) * steps));
-        // QProgressBar repaints only for steps that would be visible in its own style.
-        if (step != value())
-            update();
-        setValue(step);
-    }
+    const auto filled =
+        std::round(std::clamp(fraction.value_or(0), 0.0, 1.0) * finestSteps) / finestSteps;
+    if (std::exchange(m_filled, filled) != filled)
+        update();
+    if (fraction)
+        setValue(static_cast<int>(filled * steps));
     updateAnimation();
 }
 
@@ -92,7 +94,7 @@ bool ProgressBar::event(QEvent* event)
 std::pair<double, double> ProgressBar::filledPart() const
 {
     if (!isIndeterminate())
-        return {0, static_cast<double>(value()) / maximum()};
+        return {0, m_filled};
     const auto start = isAnimated() ? m_travel->currentValue().toDouble() : (1 - pieceLength) / 2;
     return {std::max(0.0, start), std::min(1.0, start + pieceLength)};
 }

@@ -18,7 +18,8 @@ public:
     /// `name` is for assistive technology.
     explicit ProgressBar(const QString& name);
 
-    /// 0 to 1; without a value the bar is indeterminate.
+    /// 0 to 1; without a value the bar is indeterminate. The value of QProgressBar, in tenths, is
+    /// for assistive technology.
     void setFraction(std::optional<double> fraction);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -35,6 +36,8 @@ private:
     [[nodiscard]] bool isAnimated() const;
     void updateAnimation();
 
+    /// 0 to 1, unless the bar is indeterminate.
+    double m_filled = 0;
     /// Of the start of the travelling piece.
     QVariantAnimation* m_travel;
 };

@@ -88,12 +88,14 @@ void PlayPanel::refreshStatus()
     m_dot->setStatus(statusColor(m_model), tr("Status: %1 \u2013 %2").arg(title, detail));
     m_title->setText(title);
     m_detail->setText(detail);
-    // The panel has the focus while Play is disabled. These setters notify assistive technology
-    // even of an unchanged value.
+    // The panel has the focus while Play is disabled, and otherwise Play has it at first. These
+    // setters notify assistive technology even of an unchanged value.
     if (accessibleName() != title)
         setAccessibleName(title);
-    if (accessibleDescription() != detail)
+    if (accessibleDescription() != detail) {
         setAccessibleDescription(detail);
+        m_play->setAccessibleDescription(detail);
+    }
 }
 
 void PlayPanel::refreshProgress()

@@ -158,6 +158,10 @@ void SettingsView::refresh()
     const QSignalBlocker resolutionBlocker(m_resolution);
     m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
     m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));
+    // Screen readers take the name from the label and do not find the choice. This setter notifies
+    // them even of an unchanged value.
+    if (m_resolution->accessibleDescription() != m_resolution->currentText())
+        m_resolution->setAccessibleDescription(m_resolution->currentText());
     m_update->setEnabled(!busy);
     m_reinstall->setEnabled(!busy);
     m_showSaves->setEnabled(hasSaves);
