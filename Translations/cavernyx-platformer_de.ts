@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Nothing is sent anywhere except the two downloads (the game from GitHub and the engine from GitHub releases).</source>
-        <translation>Abgesehen von den beiden Downloads (das Spiel von GitHub und die Engine aus den GitHub-Veröffentlichungen) werden keine Daten übertragen.</translation>
+        <translation>Abgesehen von den beiden Downloads (dem Spiel von GitHub und der Engine aus den GitHub-Veröffentlichungen) werden keine Daten übertragen.</translation>
     </message>
 </context>
 <context>
@@ -120,8 +120,8 @@
     <message numerus="yes">
         <source>The game was launched. Waiting %n seconds to make sure it stays open.</source>
         <translation>
-            <numerusform>Das Spiel wurde gestartet. Es wird %n&#xa0;Sekunde gewartet, ob es geöffnet bleibt.</numerusform>
-            <numerusform>Das Spiel wurde gestartet. Es wird %n&#xa0;Sekunden gewartet, ob es geöffnet bleibt.</numerusform>
+            <numerusform>Das Spiel wurde gestartet. Es wird %n&#xa0;Sekunde lang geprüft, ob es geöffnet bleibt.</numerusform>
+            <numerusform>Das Spiel wurde gestartet. Es wird %n&#xa0;Sekunden lang geprüft, ob es geöffnet bleibt.</numerusform>
         </translation>
     </message>
     <message>
@@ -330,7 +330,7 @@ Die letzten Zeilen des Protokolls:
     <message>
         <source>Space or W, or the A button</source>
         <extracomment>Space and W are keys of the keyboard, A is a button of a game controller.</extracomment>
-        <translation>Leertaste oder W oder die A-Taste des Gamepads</translation>
+        <translation>Leertaste, W oder die A-Taste des Gamepads</translation>
     </message>
     <message>
         <source>Grappling hook</source>
@@ -349,7 +349,7 @@ Die letzten Zeilen des Protokolls:
     </message>
     <message>
         <source>Hold F, or use the right stick</source>
-        <translation>F halten oder den rechten Stick verwenden</translation>
+        <translation>F gedrückt halten oder den rechten Stick verwenden</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -362,7 +362,7 @@ Die letzten Zeilen des Protokolls:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>Die README enthält keine Liste der Steuerung (siehe README); diese Angaben stammen aus den Eingabeeinstellungen des Spiels.</translation>
+        <translation>Die README enthält keine Übersicht der Steuerung (siehe README); diese Angaben stammen aus den Eingabeeinstellungen des Spiels.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
@@ -624,8 +624,8 @@ Die letzten Zeilen des Protokolls:
     <message numerus="yes">
         <source>The game closed after %n seconds (exit code %1), so it did not start properly.</source>
         <translation>
-            <numerusform>Das Spiel wurde nach %n&#xa0;Sekunde geschlossen (Exit-Code&#xa0;%1), es ist also nicht richtig gestartet.</numerusform>
-            <numerusform>Das Spiel wurde nach %n&#xa0;Sekunden geschlossen (Exit-Code&#xa0;%1), es ist also nicht richtig gestartet.</numerusform>
+            <numerusform>Das Spiel wurde nach %n&#xa0;Sekunde beendet (Exit-Code&#xa0;%1), es ist also nicht richtig gestartet.</numerusform>
+            <numerusform>Das Spiel wurde nach %n&#xa0;Sekunden beendet (Exit-Code&#xa0;%1), es ist also nicht richtig gestartet.</numerusform>
         </translation>
     </message>
     <message>
@@ -730,7 +730,7 @@ Die letzten Zeilen des Protokolls:
     </message>
     <message>
         <source>Remove everything (frees %1)</source>
-        <translation>Alles entfernen (macht %1 frei)</translation>
+        <translation>Alles entfernen (gibt %1 frei)</translation>
     </message>
 </context>
 <context>
