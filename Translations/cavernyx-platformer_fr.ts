@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>The folder “%1” is on another disk than before. Connect that disk again, or try once more to use this one.</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» se trouve sur un autre disque qu’auparavant. Reconnectez l’ancien disque, ou réessayez pour utiliser le nouveau.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» se trouve sur un autre disque qu’auparavant. Reconnectez le disque précédent, ou réessayez pour utiliser le disque actuel.</translation>
     </message>
     <message>
         <source>What happened: %1
@@ -157,7 +157,7 @@ Dernières lignes du journal&#xa0;:
     </message>
     <message>
         <source>The game is downloaded again from GitHub. Your save files are kept.</source>
-        <translation>Le jeu est de nouveau téléchargé depuis GitHub. Vos sauvegardes sont conservées.</translation>
+        <translation>Le jeu sera de nouveau téléchargé depuis GitHub. Vos sauvegardes seront conservées.</translation>
     </message>
     <message>
         <source>Update</source>
@@ -170,7 +170,7 @@ Dernières lignes du journal&#xa0;:
     </message>
     <message>
         <source>The game and the engine are deleted and downloaded again. Your save files are kept.</source>
-        <translation>Le jeu et le moteur sont supprimés, puis téléchargés de nouveau. Vos sauvegardes sont conservées.</translation>
+        <translation>Le jeu et le moteur seront supprimés, puis téléchargés de nouveau. Vos sauvegardes seront conservées.</translation>
     </message>
     <message>
         <source>Reinstall</source>
@@ -179,11 +179,11 @@ Dernières lignes du journal&#xa0;:
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees all downloaded files. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Le jeu et le moteur téléchargés sont supprimés, ce qui libère l’espace de tous les fichiers téléchargés. Vos sauvegardes dans le dossier de Godot ne sont pas modifiées.</translation>
+        <translation>Le jeu et le moteur téléchargés seront supprimés, ce qui libérera l’espace de tous les fichiers téléchargés. Vos sauvegardes dans le dossier de Godot ne seront pas modifiées.</translation>
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees %1. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Le jeu et le moteur téléchargés sont supprimés, ce qui libère %1. Vos sauvegardes dans le dossier de Godot ne sont pas modifiées.</translation>
+        <translation>Le jeu et le moteur téléchargés seront supprimés, ce qui libérera %1. Vos sauvegardes dans le dossier de Godot ne seront pas modifiées.</translation>
     </message>
     <message>
         <source>Remove everything?</source>
@@ -236,13 +236,13 @@ Dernières lignes du journal&#xa0;:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Étape&#xa0;3 sur&#xa0;4 · Première préparation, cela peut durer une minute ou plus</translation>
+        <translation>Étape&#xa0;3 sur&#xa0;4 · Préparation initiale, cela peut durer une minute ou plus</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>La première préparation n’a pas abouti&#xa0;: %n&#xa0;ressource du jeu n’a pas été importée (code de sortie du moteur&#xa0;: %1).</numerusform>
-            <numerusform>La première préparation n’a pas abouti&#xa0;: %n&#xa0;ressources du jeu n’ont pas été importées (code de sortie du moteur&#xa0;: %1).</numerusform>
+            <numerusform>La préparation initiale n’a pas abouti&#xa0;: %n&#xa0;ressource du jeu n’a pas été importée (code de sortie du moteur&#xa0;: %1).</numerusform>
+            <numerusform>La préparation initiale n’a pas abouti&#xa0;: %n&#xa0;ressources du jeu n’ont pas été importées (code de sortie du moteur&#xa0;: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -580,7 +580,7 @@ Dernières lignes du journal&#xa0;:
     </message>
     <message>
         <source>Could not move “%1” to “%2”. What was there before is now at “%3”.</source>
-        <translation>Impossible de déplacer «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;». Ce qui s’y trouvait auparavant est maintenant dans «&#xa0;%3&#xa0;».</translation>
+        <translation>Impossible de déplacer «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;». Ce qui s’y trouvait auparavant est désormais à l’emplacement «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>Could not remove “%1”</source>
@@ -670,7 +670,7 @@ Dernières lignes du journal&#xa0;:
     <message>
         <source>Game default</source>
         <extracomment>Among resolutions: the one that the game comes with.</extracomment>
-        <translation>Par défaut du jeu</translation>
+        <translation>Valeur par défaut</translation>
     </message>
     <message>
         <source>Settings</source>
