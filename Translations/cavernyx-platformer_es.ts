@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>The downloaded game does not contain a project.godot file.</source>
-        <translation>El juego descargado no contiene un archivo project.godot.</translation>
+        <translation>El juego descargado no contiene ningún archivo project.godot.</translation>
     </message>
     <message>
         <source>The game folder was unpacked but project.godot was not found.</source>
@@ -157,7 +157,7 @@ Last log lines:
     </message>
     <message>
         <source>The game is downloaded again from GitHub. Your save files are kept.</source>
-        <translation>El juego se descargará de nuevo desde GitHub. Sus partidas guardadas se conservan.</translation>
+        <translation>El juego se descargará de nuevo desde GitHub. Sus partidas guardadas se conservarán.</translation>
     </message>
     <message>
         <source>Update</source>
@@ -170,7 +170,7 @@ Last log lines:
     </message>
     <message>
         <source>The game and the engine are deleted and downloaded again. Your save files are kept.</source>
-        <translation>El juego y el motor se borrarán y se descargarán de nuevo. Sus partidas guardadas se conservan.</translation>
+        <translation>El juego y el motor se borrarán y se descargarán de nuevo. Sus partidas guardadas se conservarán.</translation>
     </message>
     <message>
         <source>Reinstall</source>
@@ -179,11 +179,11 @@ Last log lines:
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees all downloaded files. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Se borrarán el juego y el motor descargados y se liberará el espacio de todos los archivos descargados. Las partidas guardadas en la carpeta de Godot no se tocan.</translation>
+        <translation>Se borrarán el juego y el motor descargados y se liberará el espacio de todos los archivos descargados. Sus partidas guardadas en la carpeta de Godot no se tocarán.</translation>
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees %1. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Se borrarán el juego y el motor descargados y se liberarán %1. Las partidas guardadas en la carpeta de Godot no se tocan.</translation>
+        <translation>Se borrarán el juego y el motor descargados y se liberarán %1. Sus partidas guardadas en la carpeta de Godot no se tocarán.</translation>
     </message>
     <message>
         <source>Remove everything?</source>
@@ -219,7 +219,7 @@ Last log lines:
     </message>
     <message>
         <source>The downloaded folder has no readable project.godot.</source>
-        <translation>La carpeta descargada no contiene un archivo project.godot legible.</translation>
+        <translation>La carpeta descargada no contiene ningún archivo project.godot legible.</translation>
     </message>
     <message>
         <source>This game is made for Godot 4, but this app only knows how to install Godot 3.</source>
@@ -236,13 +236,13 @@ Last log lines:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Paso&#xa0;3 de&#xa0;4 · Primera preparación; puede tardar un minuto o más</translation>
+        <translation>Paso&#xa0;3 de&#xa0;4 · Preparación inicial; puede tardar un minuto o más</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>La primera preparación no ha terminado: no se ha importado %n&#xa0;recurso del juego (código de salida del motor: %1).</numerusform>
-            <numerusform>La primera preparación no ha terminado: no se han importado %n&#xa0;recursos del juego (código de salida del motor: %1).</numerusform>
+            <numerusform>La preparación inicial no ha terminado: no se ha importado %n&#xa0;recurso del juego (código de salida del motor: %1).</numerusform>
+            <numerusform>La preparación inicial no ha terminado: no se han importado %n&#xa0;recursos del juego (código de salida del motor: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -510,7 +510,7 @@ Last log lines:
     </message>
     <message>
         <source>Could not read the archive entry “%1”</source>
-        <translation>No se pudo leer la entrada «%1» del archivador</translation>
+        <translation>No se pudo leer la entrada «%1» del archivo comprimido</translation>
     </message>
     <message>
         <source>Could not read “%1”</source>
@@ -700,7 +700,7 @@ Last log lines:
     </message>
     <message>
         <source>Updating downloads the game again. Save files are kept; they live in Godot&apos;s own folder.</source>
-        <translation>Al actualizar se descarga de nuevo el juego. Las partidas guardadas se conservan; están en la carpeta propia de Godot.</translation>
+        <translation>Al actualizar, se descarga de nuevo el juego. Las partidas guardadas se conservan; están en la carpeta propia de Godot.</translation>
     </message>
     <message>
         <source>No saves yet (Godot&apos;s user folder does not exist).</source>
