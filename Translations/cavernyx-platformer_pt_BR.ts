@@ -236,13 +236,13 @@ Last log lines:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Etapa&#xa0;3 de&#xa0;4 · Primeira preparação; pode levar um minuto ou mais</translation>
+        <translation>Etapa&#xa0;3 de&#xa0;4 · Preparação inicial; pode levar um minuto ou mais</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>A primeira preparação não foi concluída: %n&#xa0;recurso do jogo não foi importado (código de saída do motor: %1).</numerusform>
-            <numerusform>A primeira preparação não foi concluída: %n&#xa0;recursos do jogo não foram importados (código de saída do motor: %1).</numerusform>
+            <numerusform>A preparação inicial não foi concluída: %n&#xa0;recurso do jogo não foi importado (código de saída do motor: %1).</numerusform>
+            <numerusform>A preparação inicial não foi concluída: %n&#xa0;recursos do jogo não foram importados (código de saída do motor: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -362,7 +362,7 @@ Last log lines:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>O README não tem uma lista de controles (veja README); estes vêm das configurações de entrada do jogo.</translation>
+        <translation>O README não tem uma lista de controles (veja o README); estes vêm das configurações de entrada do jogo.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
@@ -624,8 +624,8 @@ Last log lines:
     <message numerus="yes">
         <source>The game closed after %n seconds (exit code %1), so it did not start properly.</source>
         <translation>
-            <numerusform>O jogo fechou após %n&#xa0;segundo (código de saída&#xa0;%1); portanto, não foi iniciado corretamente.</numerusform>
-            <numerusform>O jogo fechou após %n&#xa0;segundos (código de saída&#xa0;%1); portanto, não foi iniciado corretamente.</numerusform>
+            <numerusform>O jogo foi encerrado após %n&#xa0;segundo (código de saída&#xa0;%1); portanto, não foi iniciado corretamente.</numerusform>
+            <numerusform>O jogo foi encerrado após %n&#xa0;segundos (código de saída&#xa0;%1); portanto, não foi iniciado corretamente.</numerusform>
         </translation>
     </message>
     <message>
