@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>The Godot engine is free software under the MIT License (godotengine.org). It is downloaded from the official godotengine/godot releases and checked against the published SHA-512 checksum.</source>
-        <translation>Il motore Godot è software libero sotto la licenza MIT (godotengine.org). Viene scaricato dai rilasci ufficiali di godotengine/godot e verificato con la somma di controllo SHA-512 pubblicata.</translation>
+        <translation>Il motore Godot è software libero sotto licenza MIT (godotengine.org). Viene scaricato dai rilasci ufficiali di godotengine/godot e verificato con la somma di controllo SHA-512 pubblicata.</translation>
     </message>
     <message>
         <source>Nothing is sent anywhere except the two downloads (the game from GitHub and the engine from GitHub releases).</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Playing</source>
-        <translation>Gioco in corso</translation>
+        <translation>Partita in corso</translation>
     </message>
     <message>
         <source>Downloads the game and the Godot engine once, about %1 MB for the engine plus the game&apos;s files. Nothing to type.</source>
@@ -157,7 +157,7 @@ Ultime righe del registro:
     </message>
     <message>
         <source>The game is downloaded again from GitHub. Your save files are kept.</source>
-        <translation>Il gioco viene scaricato di nuovo da GitHub. I salvataggi vengono conservati.</translation>
+        <translation>Il gioco verrà scaricato di nuovo da GitHub. I salvataggi verranno conservati.</translation>
     </message>
     <message>
         <source>Update</source>
@@ -170,7 +170,7 @@ Ultime righe del registro:
     </message>
     <message>
         <source>The game and the engine are deleted and downloaded again. Your save files are kept.</source>
-        <translation>Il gioco e il motore vengono eliminati e scaricati di nuovo. I salvataggi vengono conservati.</translation>
+        <translation>Il gioco e il motore verranno eliminati e scaricati di nuovo. I salvataggi verranno conservati.</translation>
     </message>
     <message>
         <source>Reinstall</source>
@@ -179,11 +179,11 @@ Ultime righe del registro:
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees all downloaded files. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Il gioco e il motore scaricati vengono eliminati, liberando lo spazio di tutti i file scaricati. I salvataggi nella cartella di Godot non vengono toccati.</translation>
+        <translation>Il gioco e il motore scaricati verranno eliminati, liberando lo spazio di tutti i file scaricati. I salvataggi nella cartella di Godot non verranno toccati.</translation>
     </message>
     <message>
         <source>This deletes the downloaded game and engine and frees %1. Your save files in Godot&apos;s folder are not touched.</source>
-        <translation>Il gioco e il motore scaricati vengono eliminati, liberando %1. I salvataggi nella cartella di Godot non vengono toccati.</translation>
+        <translation>Il gioco e il motore scaricati verranno eliminati, liberando %1. I salvataggi nella cartella di Godot non verranno toccati.</translation>
     </message>
     <message>
         <source>Remove everything?</source>
@@ -205,7 +205,7 @@ Ultime righe del registro:
     </message>
     <message>
         <source>The game is still running. Quitting will close it.</source>
-        <translation>Il gioco è ancora in esecuzione. Uscendo verrà chiuso.</translation>
+        <translation>Il gioco è ancora in esecuzione. Se si esce, verrà chiuso.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -236,13 +236,13 @@ Ultime righe del registro:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Passo&#xa0;3 di&#xa0;4 · Prima preparazione, può richiedere un minuto o più</translation>
+        <translation>Passo&#xa0;3 di&#xa0;4 · Preparazione iniziale, può richiedere un minuto o più</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>La prima preparazione non è stata completata: %n&#xa0;risorsa del gioco non è stata importata (codice di uscita del motore: %1).</numerusform>
-            <numerusform>La prima preparazione non è stata completata: %n&#xa0;risorse del gioco non sono state importate (codice di uscita del motore: %1).</numerusform>
+            <numerusform>La preparazione iniziale non è stata completata: %n&#xa0;risorsa del gioco non è stata importata (codice di uscita del motore: %1).</numerusform>
+            <numerusform>La preparazione iniziale non è stata completata: %n&#xa0;risorse del gioco non sono state importate (codice di uscita del motore: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -362,11 +362,11 @@ Ultime righe del registro:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>Il README non contiene un elenco dei comandi (vedere README); questi provengono dalle impostazioni di input del gioco.</translation>
+        <translation>Il README non contiene un elenco dei comandi (vedere il README); questi provengono dalle impostazioni di input del gioco.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
-        <translation>Il gioco «Snaglet!» è stato realizzato nel 2019 da Quennet e dal team Brindlework ed è rilasciato sotto la licenza MIT. Il gioco appartiene al suo autore; questa applicazione è solo un programma di avvio che lo scarica.</translation>
+        <translation>Il gioco «Snaglet!» è stato realizzato nel 2019 da Quennet e dal team Brindlework ed è rilasciato sotto licenza MIT. Il gioco appartiene al suo autore; questa applicazione è solo un programma di avvio che lo scarica.</translation>
     </message>
     <message>
         <source>Based on brindlework-demos/tetherwalk, MIT License.</source>
@@ -596,7 +596,7 @@ Ultime righe del registro:
     </message>
     <message>
         <source>Could not lock “%1”, without which nothing is installed or removed</source>
-        <translation>Impossibile bloccare «%1», senza cui nulla viene installato o rimosso</translation>
+        <translation>Impossibile bloccare «%1»; senza questo blocco nulla viene installato o rimosso</translation>
     </message>
     <message>
         <source>Could not create “%1”</source>
@@ -696,11 +696,11 @@ Ultime righe del registro:
     </message>
     <message>
         <source>Applies the next time you press Play.</source>
-        <translation>Ha effetto la prossima volta che si preme «Gioca».</translation>
+        <translation>Avrà effetto la prossima volta che si preme «Gioca».</translation>
     </message>
     <message>
         <source>Updating downloads the game again. Save files are kept; they live in Godot&apos;s own folder.</source>
-        <translation>L’aggiornamento scarica di nuovo il gioco. I salvataggi vengono conservati; si trovano nella cartella di Godot.</translation>
+        <translation>L’aggiornamento scarica di nuovo il gioco. I salvataggi vengono conservati; si trovano nella cartella propria di Godot.</translation>
     </message>
     <message>
         <source>No saves yet (Godot&apos;s user folder does not exist).</source>
