@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>The Godot engine is free software under the MIT License (godotengine.org). It is downloaded from the official godotengine/godot releases and checked against the published SHA-512 checksum.</source>
-        <translation>Silnik Godot jest wolnym oprogramowaniem na licencji MIT (godotengine.org). Jest pobierany z&#xa0;oficjalnych wydań godotengine/godot i&#xa0;sprawdzany z&#xa0;opublikowaną sumą kontrolną SHA-512.</translation>
+        <translation>Silnik Godot jest wolnym oprogramowaniem na licencji MIT (godotengine.org). Jest pobierany z&#xa0;oficjalnych wydań godotengine/godot i&#xa0;weryfikowany za pomocą opublikowanej sumy kontrolnej SHA-512.</translation>
     </message>
     <message>
         <source>Nothing is sent anywhere except the two downloads (the game from GitHub and the engine from GitHub releases).</source>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>The checksum list has no entry for %1.</source>
-        <translation>Lista sum kontrolnych nie zawiera wpisu %1.</translation>
+        <translation>Lista sum kontrolnych nie zawiera wpisu dla %1.</translation>
     </message>
     <message>
         <source>The engine download did not match its official checksum, so it was discarded.</source>
@@ -44,11 +44,11 @@
     </message>
     <message>
         <source>The server answered with HTTP %1 for %2.</source>
-        <translation>Serwer odpowiedział kodem HTTP&#xa0;%1 na żądanie %2.</translation>
+        <translation>Serwer odpowiedział kodem HTTP&#xa0;%1 na żądanie adresu %2.</translation>
     </message>
     <message>
         <source>A part of the launcher, “%1”, cannot be loaded. Close the launcher and start it again, or install it again.</source>
-        <translation>Nie można wczytać części programu „%1”. Zamknij program i&#xa0;uruchom go ponownie albo zainstaluj go jeszcze raz.</translation>
+        <translation>Nie można wczytać „%1”, części tego programu. Zamknij program i&#xa0;uruchom go ponownie albo zainstaluj go jeszcze raz.</translation>
     </message>
     <message>
         <source>The downloaded game does not contain a project.godot file.</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Playing</source>
-        <translation>Gra działa</translation>
+        <translation>Trwa gra</translation>
     </message>
     <message>
         <source>Downloads the game and the Godot engine once, about %1 MB for the engine plus the game&apos;s files. Nothing to type.</source>
@@ -120,9 +120,9 @@
     <message numerus="yes">
         <source>The game was launched. Waiting %n seconds to make sure it stays open.</source>
         <translation>
-            <numerusform>Gra została uruchomiona. Oczekiwanie przez %n&#xa0;sekundę, czy pozostanie otwarta.</numerusform>
-            <numerusform>Gra została uruchomiona. Oczekiwanie przez %n&#xa0;sekundy, czy pozostanie otwarta.</numerusform>
-            <numerusform>Gra została uruchomiona. Oczekiwanie przez %n&#xa0;sekund, czy pozostanie otwarta.</numerusform>
+            <numerusform>Gra została uruchomiona. Sprawdzanie przez %n&#xa0;sekundę, czy pozostanie otwarta.</numerusform>
+            <numerusform>Gra została uruchomiona. Sprawdzanie przez %n&#xa0;sekundy, czy pozostanie otwarta.</numerusform>
+            <numerusform>Gra została uruchomiona. Sprawdzanie przez %n&#xa0;sekund, czy pozostanie otwarta.</numerusform>
         </translation>
     </message>
     <message>
@@ -202,11 +202,11 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>Quit and close the game?</source>
-        <translation>Zakończyć i&#xa0;zamknąć grę?</translation>
+        <translation>Zakończyć program i&#xa0;zamknąć grę?</translation>
     </message>
     <message>
         <source>The game is still running. Quitting will close it.</source>
-        <translation>Gra nadal działa. Zakończenie programu ją zamknie.</translation>
+        <translation>Gra nadal działa. Zakończenie programu spowoduje jej zamknięcie.</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -220,11 +220,11 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>The downloaded folder has no readable project.godot.</source>
-        <translation>Pobrany katalog nie zawiera czytelnego pliku project.godot.</translation>
+        <translation>Pobrany katalog nie zawiera pliku project.godot, który można odczytać.</translation>
     </message>
     <message>
         <source>This game is made for Godot 4, but this app only knows how to install Godot 3.</source>
-        <translation>Ta gra jest przeznaczona dla Godota&#xa0;4, ale ten program umie zainstalować tylko Godota&#xa0;3.</translation>
+        <translation>Ta gra jest przeznaczona dla Godota&#xa0;4, ale ten program potrafi zainstalować tylko Godota&#xa0;3.</translation>
     </message>
     <message>
         <source>Step 2 of 4 · Downloading the Godot engine (%1)</source>
@@ -237,14 +237,14 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Krok&#xa0;3 z&#xa0;4 · Pierwsze przygotowanie, może potrwać minutę lub dłużej</translation>
+        <translation>Krok&#xa0;3 z&#xa0;4 · Wstępne przygotowanie, może potrwać minutę lub dłużej</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>Pierwsze przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobu gry (kod wyjścia silnika: %1).</numerusform>
-            <numerusform>Pierwsze przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobów gry (kod wyjścia silnika: %1).</numerusform>
-            <numerusform>Pierwsze przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobów gry (kod wyjścia silnika: %1).</numerusform>
+            <numerusform>Wstępne przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobu gry (kod wyjścia silnika: %1).</numerusform>
+            <numerusform>Wstępne przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobów gry (kod wyjścia silnika: %1).</numerusform>
+            <numerusform>Wstępne przygotowanie nie zostało ukończone: nie zaimportowano %n&#xa0;zasobów gry (kod wyjścia silnika: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -312,7 +312,7 @@ Ostatnie wiersze dziennika:
     <message>
         <source>A 2D grappling-hook adventure</source>
         <extracomment>Below the game&apos;s name. &quot;2D&quot;: seen from the side, with no depth.</extracomment>
-        <translation>Dwuwymiarowa przygoda z&#xa0;hakiem z&#xa0;liną</translation>
+        <translation>Dwuwymiarowa przygoda z&#xa0;hakiem na linie</translation>
     </message>
     <message>
         <source>Move</source>
@@ -337,7 +337,7 @@ Ostatnie wiersze dziennika:
     <message>
         <source>Grappling hook</source>
         <extracomment>A hook on a rope, with which the player swings and pulls.</extracomment>
-        <translation>Hak z&#xa0;liną</translation>
+        <translation>Hak na linie</translation>
     </message>
     <message>
         <source>Left mouse button, or a shoulder button</source>
@@ -364,11 +364,11 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>Plik README nie zawiera listy klawiszy (zobacz README); pochodzą one z&#xa0;ustawień sterowania gry.</translation>
+        <translation>Plik README nie zawiera opisu sterowania (zobacz README); ten opis pochodzi z&#xa0;ustawień sterowania gry.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
-        <translation>Grę „Snaglet!” stworzył w&#xa0;2019 roku Quennet wraz z&#xa0;zespołem Brindlework; jest wydana na licencji MIT. Gra należy do jej autora; ten program jedynie ją pobiera i&#xa0;uruchamia.</translation>
+        <translation>Grę „Snaglet!” stworzył w&#xa0;2019 roku Quennet wraz z&#xa0;zespołem Brindlework; jest wydana na licencji MIT. Gra należy do swojego autora; ten program jedynie ją pobiera i&#xa0;uruchamia.</translation>
     </message>
     <message>
         <source>Based on brindlework-demos/tetherwalk, MIT License.</source>
@@ -403,7 +403,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>The download of “%1” was redirected to “%2”, which is not one of GitHub&apos;s own secure servers, so it was stopped.</source>
-        <translation>Pobieranie „%1” zostało przekierowane do „%2”, który nie jest bezpiecznym serwerem GitHuba, więc je zatrzymano.</translation>
+        <translation>Pobieranie „%1” zostało przekierowane pod adres „%2”, który nie należy do bezpiecznych serwerów GitHuba, więc je zatrzymano.</translation>
     </message>
     <message>
         <source>The network library cannot be used.</source>
@@ -411,7 +411,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>The download of “%1” was redirected too often, last to “%2”. Try again later.</source>
-        <translation>Pobieranie „%1” zostało przekierowane zbyt wiele razy, ostatnio do „%2”. Spróbuj ponownie później.</translation>
+        <translation>Pobieranie „%1” zostało przekierowane zbyt wiele razy, ostatni raz do „%2”. Spróbuj ponownie później.</translation>
     </message>
     <message>
         <source>The certificate of “%1” is not yet valid. Check the date and time of this computer.</source>
@@ -585,7 +585,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>Could not move “%1” to “%2”. What was there before is now at “%3”.</source>
-        <translation>Nie można przenieść „%1” do „%2”. To, co było tam wcześniej, jest teraz w&#xa0;„%3”.</translation>
+        <translation>Nie można przenieść „%1” do „%2”. To, co było tam wcześniej, jest teraz pod ścieżką „%3”.</translation>
     </message>
     <message>
         <source>Could not remove “%1”</source>
@@ -636,7 +636,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>The game stopped unexpectedly (exit code %1).</source>
-        <translation>Gra nieoczekiwanie się zatrzymała (kod wyjścia&#xa0;%1).</translation>
+        <translation>Gra nieoczekiwanie zakończyła działanie (kod wyjścia&#xa0;%1).</translation>
     </message>
 </context>
 <context>
@@ -676,7 +676,7 @@ Ostatnie wiersze dziennika:
     <message>
         <source>Game default</source>
         <extracomment>Among resolutions: the one that the game comes with.</extracomment>
-        <translation>Domyślna gry</translation>
+        <translation>Domyślna dla gry</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -710,7 +710,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>No saves yet (Godot&apos;s user folder does not exist).</source>
-        <translation>Brak zapisów gry (katalog użytkownika Godota nie istnieje).</translation>
+        <translation>Nie ma jeszcze zapisów gry (katalog użytkownika Godota nie istnieje).</translation>
     </message>
     <message>
         <source>Window</source>
@@ -736,7 +736,7 @@ Ostatnie wiersze dziennika:
     </message>
     <message>
         <source>Remove everything (frees %1)</source>
-        <translation>Usuń wszystko (zwalnia %1)</translation>
+        <translation>Usuń wszystko (zwolni %1)</translation>
     </message>
 </context>
 <context>
