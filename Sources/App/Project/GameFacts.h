@@ -25,7 +25,7 @@ inline constexpr QStringView developers = u"The Cavernyx Platformer developers";
 /// The homepage in software centres.
 inline constexpr QStringView homepage = u"https://github.com/brindlework-demos/CavernyxPlatformer";
 /// The comment in application menus.
-inline constexpr QStringView purpose = u"Install and play a 2D grappling-hook adventure";
+inline constexpr QStringView purpose = u"Play a 2D grappling-hook adventure";
 
 // Where the game and its engine come from.
 
