@@ -83,21 +83,23 @@ def copy_libraries(bundle: Path) -> set[Path]:
     folder = bundle / "lib"
     folder.mkdir(exist_ok=True)
     copied = set()
-    for binary in binaries(bundle):
-        for name, path in needed(binary):
-            if OF_THE_SYSTEM.fullmatch(name) or (folder / name).exists():
-                continue
-            shutil.copy(path, folder / name)
-            copied.add(Path(path))
+    waiting = binaries(bundle)
+    while waiting:
+        for path in needed(waiting.pop()):
+            if path not in copied and not OF_THE_SYSTEM.fullmatch(path.name):
+                waiting.append(Path(shutil.copy(path, folder / path.name)))
+                copied.add(path)
     return copied
 
 
-def needed(binary: Path) -> list[tuple[str, str]]:
-    listing = output("ldd", binary)
-    missing = re.findall(r"(\S+) => not found", listing)
+def needed(binary: Path) -> list[Path]:
+    """The libraries that it names itself, where the system has them."""
+    found = dict(re.findall(r"(\S+) => (/\S+)", output("ldd", binary)))
+    names = output("patchelf", "--print-needed", binary).split()
+    missing = [name for name in names if name not in found and not OF_THE_SYSTEM.fullmatch(name)]
     if missing:
         sys.exit(f"assemble: {binary} needs {missing}, which are not there.")
-    return re.findall(r"(\S+) => (/\S+)", listing)
+    return [Path(found[name]) for name in names if name in found]
 
 
 def point_to_libraries(binary: Path, libraries: Path, strip: bool) -> None:
@@ -110,10 +112,17 @@ def point_to_libraries(binary: Path, libraries: Path, strip: bool) -> None:
     binary.chmod(0o755)
 
 
+def package_of(file: Path) -> str:
+    """Some packages list their files below /lib, which is a link to /usr/lib."""
+    merged = Path("/") / file.relative_to("/usr")
+    found = subprocess.run(["dpkg", "-S", file, merged], capture_output=True, text=True).stdout
+    return found.split(":")[0]
+
+
 def copy_licences(files: set[Path], folder: Path) -> None:
     """For each package of Debian's that a file came from: its copyright file, the licences' texts
     that this refers to, and a line that says where its sources are."""
-    packages = {output("dpkg", "-S", file.resolve()).split(":")[0] for file in files}
+    packages = {package_of(file.resolve()) for file in files}
     sources = []
     for package in sorted(packages):
         (folder / package).mkdir(parents=True)
