@@ -3,6 +3,7 @@
 
 #include "Install/Http/ProxySettings.h"
 #include "Install/Http/TransferError.h"
+#include "Platform/CertificateStore.h"
 #include "Project/GameFacts.h"
 #include "System/Errors.h"
 
@@ -104,6 +105,8 @@ public:
         set(CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
         set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
         set(CURLOPT_PROTOCOLS_STR, "http,https");
+        const auto trusted = certificateFile(info<char*>(CURLINFO_CAINFO));
+        set(CURLOPT_CAINFO, trusted.isEmpty() ? nullptr : trusted.constData());
         set(CURLOPT_NOSIGNAL, 1L);
         // A lookup of a host's name that does not end is left behind.
         set(CURLOPT_QUICK_EXIT, 1L);
