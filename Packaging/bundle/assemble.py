@@ -20,7 +20,7 @@ PROGRAM = "cavernyx-platformer"
 OF_THE_SYSTEM = re.compile(r"""(
     ld-linux.* | lib(c|m|dl|rt|pthread|resolv|util|stdc\+\+|gcc_s) |
     lib(GL|EGL|GLX|GLdispatch|OpenGL|GLESv2|drm|gbm|glapi) |
-    lib(X11|X11-xcb|xcb|xcb-dri[23]|Xau|Xdmcp|ICE|SM) | libwayland-.* |
+    lib(X11|X11-xcb|xcb|xcb-dri[23]|Xau|Xdmcp) | libwayland-(client|server) |
     lib(fontconfig|freetype|harfbuzz|expat|z|uuid)
 )\.so.*""", re.VERBOSE)
 

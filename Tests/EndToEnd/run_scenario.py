@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """run_scenario.py NAME --prefix FOLDER --output FOLDER: runs one scenario against the launcher that
-is installed below the prefix, in a world of its own."""
+is installed below the prefix, in a world of its own. With --root, --program says where the launcher
+is in that system, which is not the one that the scenario itself runs in."""
 
 import argparse
 import importlib
@@ -15,7 +16,12 @@ from rig.world import World
 def main() -> None:
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("name")
-    parser.add_argument("--prefix", type=Path, required=True)
+    parser.add_argument("--prefix", type=Path, default=Path("/usr"))
+    parser.add_argument("--program", type=Path)
+    parser.add_argument("--root", type=Path, default=Path("/"), help="a system of its own")
+    parser.add_argument("--trust", type=Path, help="its file of trusted certificates")
+    parser.add_argument("--other", type=Path, help="another installed program")
+    parser.add_argument("--upgrade", nargs="+", help="the command that installs a newer one")
     parser.add_argument("--output", type=Path, required=True)
     arguments = parser.parse_args()
 
@@ -25,7 +31,11 @@ def main() -> None:
     output.mkdir(parents=True)
     scenario = importlib.import_module(f"scenarios.{arguments.name}")
     try:
-        with World(arguments.prefix.absolute(), scratch, output) as world:
+        program = arguments.program or arguments.prefix.absolute() / "bin" / "cavernyx-platformer"
+        system = private_world.System(arguments.root.absolute(), arguments.trust)
+        with World(program, scratch, output, system) as world:
+            world.other = arguments.other
+            world.upgrade = arguments.upgrade
             scenario.run(world)
     finally:
         private_world.end_descendants()

@@ -22,7 +22,7 @@ class BareSystem:
         self.root = BUILD / f"{release}-{name}"
         self.remove()
         self.root.mkdir(parents=True)
-        subprocess.run(["tar", "-C", self.root, "-xf", _base(release)], check=True)
+        subprocess.run(["tar", "-C", self.root, "-xf", base_archive(release)], check=True)
         for file in ("/etc/resolv.conf", "/etc/hosts"):
             if Path(file).exists():
                 (self.root / file[1:]).write_bytes(Path(file).read_bytes())
@@ -59,7 +59,7 @@ class BareSystem:
         subprocess.run(["rm", "-rf", "--one-file-system", self.root], check=True)
 
 
-def _base(release: str) -> Path:
+def base_archive(release: str) -> Path:
     """An archive of the release's smallest system, from where this system gets its packages."""
     archive = BUILD / f"{release}.tar"
     if not archive.exists():

@@ -17,8 +17,8 @@ TITLE = product.NAME
 class Launcher(Program):
     """Starts the installed program; `wait_for_window` before asking for anything in its window."""
 
-    def __init__(self, program: Path, output: Path, **environment: str | None):
-        super().__init__(program, output, **environment)
+    def __init__(self, command: list[str], output: Path, **environment: str | None):
+        super().__init__(command, output, **environment)
         self._controls = Controls(self.pid)
 
     def wait_for_window(self) -> None:

@@ -18,7 +18,35 @@ SCRATCH = "CAVERNYX_SCENARIO_SCRATCH"
 OUTSIDE = "CAVERNYX_SCENARIO_OUTSIDE"
 HOSTS_FILE = "hosts"
 PR_SET_CHILD_SUBREAPER = 36
+CHROOT = "/usr/sbin/chroot"
 MS_REC, MS_PRIVATE = 1 << 14, 1 << 18
+
+
+class System:
+    """Where the launcher is installed: this system, or a bare one in a folder that is made for
+    such trials. Of the latter, `trust` may be the file that it keeps trusted certificates in."""
+
+    def __init__(self, root: Path = Path("/"), trust: Path | None = None):
+        self._root = root
+        self.trust = self.place(trust) if trust else None
+
+    def place(self, path: str | Path) -> Path:
+        return self._root / str(path).lstrip("/")
+
+    def command(self, program: Path) -> list[str]:
+        """Runs the program in the system, as the very process that is started."""
+        return [str(program)] if self._is_this() else [CHROOT, str(self._root), str(program)]
+
+    def share(self, scratch: Path) -> None:
+        """Lets a bare system see the scenario's files, by the same path, and the processes."""
+        if self._is_this():
+            return
+        self.place(scratch).mkdir(parents=True, exist_ok=True)
+        _mount_over(self.place(scratch), scratch)
+        subprocess.run(["mount", "-t", "proc", "proc", self.place("/proc")], check=True)
+
+    def _is_this(self) -> bool:
+        return self._root == Path("/")
 
 
 def enter() -> Path:
@@ -37,10 +65,11 @@ def enter() -> Path:
     return Path(scratch)
 
 
-def redirect_hosts(scratch: Path, authority: Path, hosts: list[str]) -> None:
+def redirect_hosts(scratch: Path, authority: Path, hosts: list[str], system: System) -> None:
     """Makes `hosts` this machine, takes the name servers away, and makes the certificate
-    `authority` the only one in the trust store: its hashed folder, and the list of all of them
-    that other programs read."""
+    `authority` the only one in the trust store of the system: its hashed folder, and the list of
+    all of them that other programs read. Or the system's one file of them."""
+    system.share(scratch)
     names = scratch / HOSTS_FILE
     names.write_text("".join(f"127.0.0.1 {name}\n" for name in ["localhost", *hosts]))
     servers = scratch / "resolv.conf"
@@ -50,10 +79,13 @@ def redirect_hosts(scratch: Path, authority: Path, hosts: list[str]) -> None:
     shutil.copy(authority, trusted / "ca-certificates.crt")
     subprocess.run(["openssl", "rehash", str(trusted)], check=True)
 
-    _mount_over("/etc/hosts", names)
-    _mount_over("/etc/ssl/certs", trusted)
-    if Path("/etc/resolv.conf").exists():
-        _mount_over("/etc/resolv.conf", servers)
+    _mount_over(system.place("/etc/hosts"), names)
+    if system.trust:
+        system.trust.write_bytes(authority.read_bytes())
+    else:
+        _mount_over(system.place("/etc/ssl/certs"), trusted)
+    if system.place("/etc/resolv.conf").exists():
+        _mount_over(system.place("/etc/resolv.conf"), servers)
 
 
 def hide_displays(scratch: Path) -> None:
@@ -63,7 +95,7 @@ def hide_displays(scratch: Path) -> None:
     if sockets.exists():
         nothing = scratch / "displays"
         nothing.mkdir()
-        _mount_over(str(sockets), nothing)
+        _mount_over(sockets, nothing)
 
 
 def disconnect(scratch: Path) -> None:
@@ -148,10 +180,10 @@ def _make_mounts_private() -> None:
     os.close(root)
 
 
-def _mount_over(place: str, replacement: Path) -> None:
-    """The one way in which anything is mounted: a file or folder made for this scenario covers a
-    place of the system's. Never the other way round."""
-    subprocess.run(["mount", "--bind", str(replacement), place], check=True)
+def _mount_over(place: Path, replacement: Path) -> None:
+    """The one way in which anything of this system is mounted: a file or folder made for this
+    scenario covers a place of the system's. Never the other way round."""
+    subprocess.run(["mount", "--bind", replacement, place], check=True)
 
 
 def _become_subreaper() -> None:

@@ -13,11 +13,11 @@ class Program:
     """Started when made. What it prints is added to the file `output`. Its environment is the
     session's with the changes given, where None takes a variable away."""
 
-    def __init__(self, program: Path, output: Path, **environment: str | None):
+    def __init__(self, command: list[str], output: Path, **environment: str | None):
         changed = {**os.environ, **environment}
         with output.open("a") as printed:
             self._process = subprocess.Popen(
-                [str(program)], stdout=printed, stderr=printed,
+                command, stdout=printed, stderr=printed,
                 env={name: value for name, value in changed.items() if value is not None})
 
     @property

@@ -11,23 +11,25 @@ from rig.desktop import Desktop
 from rig.file_manager import FileManager, Opener
 from rig.home import Home
 from rig.launcher import TITLE, Launcher
+from rig.private_world import System
 from rig.session_services import SessionServices
 from rig.web_host import WebHost
 
 
 class World:
-    """A fresh player's desktop, made in the folder `scratch`. The program is the installed one
-    below `prefix`; pictures, the last of them of a failure, and what it prints are kept in
+    """A fresh player's desktop, made in the folder `scratch`. `program` is the installed one in
+    `system`; pictures, the last of them of a failure, and what it prints are kept in
     `output`."""
 
-    def __init__(self, prefix: Path, scratch: Path, output: Path):
-        self._program = prefix / "bin" / "cavernyx-platformer"
+    def __init__(self, program: Path, scratch: Path, output: Path, system: System):
+        self._program = program
+        self._system = system
         self.output = output
         self._scratch = scratch
         self.home = Home(scratch / "home")
         authority = Authority(scratch / "authority", web_host.NAMES)
         private_world.redirect_hosts(
-            scratch, authority.certificate, [*web_host.NAMES, web_host.UNCERTIFIED])
+            scratch, authority.certificate, [*web_host.NAMES, web_host.UNCERTIFIED], system)
         private_world.hide_displays(scratch)
         self.web = WebHost(scratch / "web", authority)
         self.opener = Opener(self.home.programs)
@@ -95,9 +97,11 @@ class World:
         self.launcher.press("Show log")
         return self.launcher
 
-    def start_launcher(self, **environment: str | None) -> Launcher:
+    def start_launcher(self, program: Path | None = None,
+                       **environment: str | None) -> Launcher:
         """Only starts it, for a start that brings no window of its own."""
-        return Launcher(self._program, self.output / "launcher-output.txt", **environment)
+        return Launcher(self._system.command(program or self._program),
+                        self.output / "launcher-output.txt", **environment)
 
     def picture(self, name: str) -> None:
         self.desktop.take_picture(name)
