@@ -21,7 +21,8 @@ def main() -> None:
     parser.add_argument("--root", type=Path, default=Path("/"), help="a system of its own")
     parser.add_argument("--trust", type=Path, help="its file of trusted certificates")
     parser.add_argument("--other", type=Path, help="another installed program")
-    parser.add_argument("--upgrade", nargs="+", help="the command that installs a newer one")
+    parser.add_argument("--upgrade", nargs=argparse.REMAINDER,
+                        help="the command that installs a newer one: all that follows")
     parser.add_argument("--output", type=Path, required=True)
     arguments = parser.parse_args()
 
