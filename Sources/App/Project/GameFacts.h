@@ -19,7 +19,7 @@ inline constexpr QStringView launcherName = u"Cavernyx Platformer";
 /// The file name of the program.
 inline constexpr QStringView programName = u"cavernyx-platformer";
 /// The id of the desktop file, in reverse-DNS form.
-inline constexpr QStringView applicationId = u"io.github.brindlework_demos.CavernyxPlatformer";
+inline constexpr QStringView applicationId = u"io.github.brindlework_demos.cavernyxplatformer";
 /// The developer's name in software centres.
 inline constexpr QStringView developers = u"The Cavernyx Platformer developers";
 /// The homepage in software centres.
