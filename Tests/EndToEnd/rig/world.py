@@ -5,10 +5,10 @@ import shutil
 import zipfile
 from pathlib import Path
 
-from rig import engine, private_world, sample_game, web_host
+from rig import engine, file_manager, private_world, sample_game, web_host
 from rig.authority import Authority
 from rig.desktop import Desktop
-from rig.file_manager import FileManager, Opener
+from rig.file_manager import Opener, Shower
 from rig.home import Home
 from rig.launcher import TITLE, Launcher
 from rig.private_world import System
@@ -76,8 +76,11 @@ class World:
         self._program = copy / "bin" / self._program.name
         return copy
 
-    def start_file_manager(self) -> FileManager:
-        return FileManager(self._scratch / "shown.txt")
+    def start_file_manager(self) -> Shower:
+        return Shower(self._scratch / "shown.txt", file_manager.MANAGER)
+
+    def start_portal(self) -> Shower:
+        return Shower(self._scratch / "shown-by-portal.txt", file_manager.PORTAL)
 
     def start_session_services(self) -> SessionServices:
         return SessionServices(self._scratch / "noted.txt")

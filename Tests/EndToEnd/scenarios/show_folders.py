@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The folders of the installation and of the saves are shown by the desktop's own programs."""
+"""The folders of the installation and of the saves are shown by the desktop's own programs,
+or by the portal where a sandbox hides those."""
 
 from rig.waiting import wait_for
 
@@ -23,6 +24,11 @@ def run(world):
     settings.press("Show saves")
     expect_opened(world, world.home.saves)
 
+    portal = world.start_portal()
+    settings.press("Reveal in Finder")
+    wait_for("A call of the portal", portal.shown)
+    assert portal.shown() == [str(world.home.root)], portal.shown()
+
     manager = world.start_file_manager()
     settings.press("Reveal in Finder")
     wait_for("A call of the file manager", manager.shown)
@@ -34,6 +40,7 @@ def run(world):
     settings.press("Reveal in Finder")
     wait_for("A second call of the file manager", lambda: len(manager.shown()) == 2)
     assert manager.shown()[1] == [[world.home.root.parent.as_uri()], ""], manager.shown()
+    assert len(portal.shown()) == 1, portal.shown()
     assert len(world.opener.opened()) == 2, world.opener.opened()
     assert settings.is_open()
 
