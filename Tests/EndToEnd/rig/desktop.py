@@ -37,6 +37,12 @@ class Desktop:
         self._display.kill()
         self._display.wait()
 
+    def enlarge_display(self) -> None:
+        """Starts a display for windows of twice the scale, in place of the first one."""
+        self.lose_display()
+        self._start_display("2600x2000x24")
+        os.environ["DISPLAY"] = self.environment["DISPLAY"]
+
     def replace_display(self) -> None:
         """Starts another display after one that was lost."""
         self._start_display()
@@ -143,11 +149,11 @@ class Desktop:
         """What xdotool answers: nothing about a window that has gone meanwhile."""
         return subprocess.run(["xdotool", *question], capture_output=True, text=True).stdout
 
-    def _start_display(self) -> None:
+    def _start_display(self, screen: str = SCREEN) -> None:
         # A server that resets when its last client leaves refuses clients during the reset.
         # It makes no socket file, which would lie in the machine's own temporary folder.
         self._display, number = self._start_telling(
-            ["Xvfb", "-displayfd", "{}", "-screen", "0", SCREEN,
+            ["Xvfb", "-displayfd", "{}", "-screen", "0", screen,
              "-nolisten", "tcp", "-nolisten", "unix", "-noreset"])
         self.environment["DISPLAY"] = f":{number}"
 
