@@ -1,0 +1,43 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The program's names and version are the same wherever a listing needs them."""
+
+import json
+import re
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+
+def fact(name: str) -> str:
+    facts = (ROOT / "Sources/App/Project/GameFacts.h").read_text()
+    return re.search(rf' {name} = u"([^"]+)";', facts).group(1)
+
+
+def version() -> str:
+    return re.search(r"^project\(.* VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text(),
+                     re.MULTILINE).group(1)
+
+
+class NamesTest(unittest.TestCase):
+    def test_the_flatpak_is_the_programs(self):
+        folder = ROOT / "Packaging" / "flatpak"
+        manifest = (folder / f"{fact('applicationId')}.yml").read_text()
+        self.assertIn(f"\nid: {fact('applicationId')}\n", manifest)
+        self.assertIn(f"\ncommand: {fact('programName')}\n", manifest)
+        self.assertIn(f"url: {fact('homepage')}.git\n        tag: v{version()}\n", manifest)
+        self.assertEqual(json.loads((folder / "flathub.json").read_text()),
+                         {"only-arches": ["x86_64"]})
+
+    def test_the_summary_is_not_cut_off(self):
+        self.assertLessEqual(len(fact("purpose")), 35)
+
+    def test_the_readme_names_the_files_of_the_release(self):
+        readme = (ROOT / "README.md").read_text()
+        self.assertIn(f"cavernyx-platformer_{version()}+deb12_amd64.deb", readme)
+        self.assertIn(f"cavernyx-platformer-{version()}-x86_64.tar.xz", readme)
+
+
+if __name__ == "__main__":
+    unittest.main()
