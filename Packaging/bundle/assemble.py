@@ -103,12 +103,14 @@ def needed(binary: Path) -> list[Path]:
 
 
 def point_to_libraries(binary: Path, libraries: Path, strip: bool) -> None:
-    """Every binary looks beside itself first, whatever loaded it. No variable of the environment is
-    set for that, which the engine would inherit."""
+    """Every binary looks here first, whatever loaded it, and then where it looked before: the launcher
+    for its own module. No variable of the environment is set for that, which the engine would
+    inherit."""
     if strip:
         output("strip", "--strip-unneeded", binary)
-    origin = Path("$ORIGIN") / os.path.relpath(libraries, binary.parent)
-    output("patchelf", "--force-rpath", "--set-rpath", str(origin), binary)
+    places = [f"$ORIGIN/{os.path.relpath(libraries, binary.parent)}",
+              *re.findall(r"\$ORIGIN[^:\n]*", output("patchelf", "--print-rpath", binary))]
+    output("patchelf", "--force-rpath", "--set-rpath", ":".join(places), binary)
     binary.chmod(0o755)
 
 
