@@ -56,7 +56,10 @@ def lint(release: str) -> None:
     said = system.run("sh", "-c", "desktop-file-validate /usr/share/applications/*.desktop && "
                       "appstreamcli validate --pedantic --no-net /usr/share/metainfo/io.*").stdout
     assert "Validation was successful." in said, said
-    assert not re.search("^[EWIP]: ", said, re.MULTILINE), said
+    # The validator of Debian 12 does not know this element yet, and that of 13 misses it.
+    remarks = [line for line in re.findall("^[EWIP]: .*", said, re.MULTILINE)
+               if not (release == "bookworm" and line.endswith("unknown-tag developer"))]
+    assert not remarks, remarks
     system.remove()
 
 
@@ -90,8 +93,8 @@ def upgrade(release: str) -> None:
 
 def purge(release: str) -> None:
     """installs and purges with piuparts, which looks for what is left"""
-    expect_success("piuparts", "--distribution", release, "--basetgz", compressed(base_archive(release)),
-                   "--no-eatmydata", "--warn-on-leftovers-after-purge", "--no-upgrade-test",
+    expect_success("piuparts", "--distribution", release, "--basetgz",
+                   compressed(base_archive(release)), "--no-eatmydata", "--no-upgrade-test",
                    deb(release))
 
 
@@ -101,6 +104,11 @@ def bundle(release: str) -> str:
     system.install(*DESKTOP)
     program = unpack_bundle(system)
     play(system, "packaged_play", program)
+    integrate = str(Path(program).parent / "integrate")
+    for argument, entries in ((), 1), (("--remove",), 0):
+        system.run(integrate, *argument)
+        listed = list((system.root / "root/.local/share/applications").glob("*.desktop"))
+        assert len(listed) == entries, listed
     packages = system.run("dpkg-query", "--show", "--showformat=${Package}\n").stdout
     assert "qt" not in packages, packages
     system.remove()
