@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/FileBrowser.h"
 
+#include "Platform/BusCall.h"
 #include "System/FileDescriptor.h"
 
-#include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCall>
-#include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
 #include <QUrl>
@@ -41,25 +37,20 @@ QDBusMessage askPortal(const QString& path)
     return message;
 }
 
-void call(const QDBusMessage& message, const std::function<void()>& onFailure)
-{
-    auto* const watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), qApp);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     [onFailure](QDBusPendingCallWatcher* answered) {
-                         answered->deleteLater();
-                         if (answered->isError())
-                             onFailure();
-                     });
-}
-
 } // namespace
 
 void showInFileBrowser(const QString& path, const std::function<void()>& onFailure)
 {
-    if (!QDBusConnection::sessionBus().isConnected()) {
-        onFailure();
-        return;
-    }
-    call(askFileManager(path), [path, onFailure] { call(askPortal(path), onFailure); });
+    const auto bus = QDBusConnection::sessionBus();
+    const auto isError = [](const QDBusMessage& reply) {
+        return reply.type() == QDBusMessage::ErrorMessage;
+    };
+    callOverBus(bus, askFileManager(path), [=](const QDBusMessage& shown) {
+        if (!isError(shown))
+            return;
+        callOverBus(bus, askPortal(path), [=](const QDBusMessage& opened) {
+            if (isError(opened))
+                onFailure();
+        });
+    });
 }
