@@ -30,10 +30,10 @@ class BareSystem:
     def run(self, *command: str, folder: str = "/", check: bool = True,
             **environment: str) -> subprocess.CompletedProcess:
         """Runs a command inside, with process identifiers of its own, and returns how it ended with
-        what it printed."""
+        what it printed. If this process ends, so does all that it started there."""
         changed = [f"{name}={value}" for name, value in {**ENVIRONMENT, **environment}.items()]
         ended = subprocess.run(
-            ["nice", "-n", "15", "unshare", "--mount", "--pid", "--fork", "--kill-child",
+            ["setpriv", "--pdeathsig", "KILL", "nice", "-n", "15", "unshare", "--mount", "--pid", "--fork", "--kill-child",
              f"--mount-proc={self.root}/proc", "chroot", self.root,
              "env", "-i", "-C", folder, *changed, *command],
             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
