@@ -232,7 +232,7 @@ TEST_F(SetupMonitorTest, showsProgressThatOnlyGrowsAndIsGoneAtTheEnd)
     EXPECT_LE(updates.size(), 2 + elapsed / 100) << "ten a second";
     for (const auto& update : updates)
         EXPECT_EQ(update.application,
-                  u"application://io.github.brindlework_demos.CavernyxPlatformer.desktop"_s);
+                  u"application://io.github.brindlework_demos.cavernyxplatformer.desktop"_s);
 }
 
 TEST_F(SetupMonitorTest, showsProgressOnlyWhileTheWindowIsNotInFront)

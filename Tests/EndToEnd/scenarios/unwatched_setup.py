@@ -6,7 +6,7 @@ from rig import setup
 from rig.launcher import TITLE
 from rig.waiting import wait_for
 
-APPLICATION = "application://io.github.brindlework_demos.CavernyxPlatformer.desktop"
+APPLICATION = "application://io.github.brindlework_demos.cavernyxplatformer.desktop"
 
 
 def run(world):
