@@ -60,18 +60,26 @@ class BareSystem:
 
 
 def base_archive(release: str) -> Path:
-    """An archive of the release's smallest system, from where this system gets its packages."""
+    """An archive of the release's smallest system, from where this system gets its packages: with
+    the security updates, since what is built there goes into the bundle."""
     archive = BUILD / f"{release}.tar"
     if not archive.exists():
         BUILD.mkdir(parents=True, exist_ok=True)
-        mirrors = _ask("apt-get", "indextargets", "--format", "$(REPO_URI)", "Created-By: Packages",
-                       "Origin: Debian", "Component: main", "Label: Debian")
+        main, security = _mirror("Debian"), _mirror("Debian-Security")
         unfinished = archive.with_suffix(".part.tar")
         subprocess.run(
             ["mmdebstrap", "--variant=minbase", f"--aptopt={_mirror_options()}", release,
-             unfinished, mirrors.split()[0]], check=True)
+             unfinished, f"deb {main} {release} main", f"deb {main} {release}-updates main",
+             f"deb {security} {release}-security main"], check=True)
         unfinished.rename(archive)
     return archive
+
+
+def _mirror(label: str) -> str:
+    uris = _ask("apt-get", "indextargets", "--format", "$(REPO_URI)", "Created-By: Packages",
+                "Origin: Debian", "Component: main", f"Label: {label}")
+    assert uris, f"This system has no source of packages labelled {label}."
+    return uris.split()[0]
 
 
 def _mirror_options() -> str:
