@@ -46,7 +46,7 @@ def main() -> None:
     (bundle / "bin" / "qt.conf").write_text("[Paths]\nPrefix = ..\nPlugins = plugins\n")
 
     own = binaries(bundle)
-    taken = copy_plugins(bundle) | copy_libraries(bundle)
+    taken = copy_plugins(bundle) | copy_libraries(bundle) | copy_translations(bundle)
     for binary in binaries(bundle):
         point_to_libraries(binary, bundle / "lib", strip=binary not in own)
     copy_licences(taken, bundle / "licenses")
@@ -75,6 +75,16 @@ def copy_plugins(bundle: Path) -> set[Path]:
         copy.parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(folder / plugin, copy)
     return {folder / plugin for plugin in PLUGINS}
+
+
+def copy_translations(bundle: Path) -> set[Path]:
+    """Qt's own texts, such as those of a context menu. Returns what was copied."""
+    folder = Path(output("qmake6", "-query", "QT_INSTALL_TRANSLATIONS").strip())
+    texts = set(folder.glob("qtbase_*.qm"))
+    (bundle / "translations").mkdir()
+    for text in texts:
+        shutil.copy(text, bundle / "translations")
+    return texts
 
 
 def copy_libraries(bundle: Path) -> set[Path]:
