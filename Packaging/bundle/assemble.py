@@ -141,7 +141,7 @@ def copy_licences(files: set[Path], folder: Path) -> None:
         shutil.copy(f"/usr/share/doc/{package}/copyright", folder / package)
         sources.append(output("dpkg-query", "--show", "--showformat",
                               "${Package}: ${source:Package}=${source:Version}\n",
-                              f"{package}:amd64"))
+                              package))
     text = "".join((folder / package / "copyright").read_text(errors="replace")
                    for package in packages)
     common = Path("/usr/share/common-licenses")
