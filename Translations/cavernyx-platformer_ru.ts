@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>A part of the launcher, “%1”, cannot be loaded. Close the launcher and start it again, or install it again.</source>
-        <translation>Не удалось загрузить часть программы «%1». Закройте программу и запустите её снова либо установите её заново.</translation>
+        <translation>Не удалось загрузить «%1» — одну из частей программы. Закройте программу и запустите её снова либо установите её заново.</translation>
     </message>
     <message>
         <source>The downloaded game does not contain a project.godot file.</source>
@@ -237,14 +237,14 @@ Last log lines:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>Шаг&#xa0;3 из&#xa0;4 · Первая подготовка, она может занять минуту или больше</translation>
+        <translation>Шаг&#xa0;3 из&#xa0;4 · Первоначальная подготовка, может занять минуту или больше</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>Первая подготовка не завершена: не импортирован %n&#xa0;ресурс игры (код завершения движка: %1).</numerusform>
-            <numerusform>Первая подготовка не завершена: не импортировано %n&#xa0;ресурса игры (код завершения движка: %1).</numerusform>
-            <numerusform>Первая подготовка не завершена: не импортировано %n&#xa0;ресурсов игры (код завершения движка: %1).</numerusform>
+            <numerusform>Первоначальная подготовка не завершена: не импортирован %n&#xa0;ресурс игры (код завершения движка: %1).</numerusform>
+            <numerusform>Первоначальная подготовка не завершена: не импортировано %n&#xa0;ресурса игры (код завершения движка: %1).</numerusform>
+            <numerusform>Первоначальная подготовка не завершена: не импортировано %n&#xa0;ресурсов игры (код завершения движка: %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -364,7 +364,7 @@ Last log lines:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>В файле README нет списка управления (см. README); эти сведения взяты из настроек ввода игры.</translation>
+        <translation>В файле README нет описания управления (см. README); эти сведения взяты из настроек ввода игры.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
@@ -403,11 +403,11 @@ Last log lines:
     </message>
     <message>
         <source>The download of “%1” was redirected to “%2”, which is not one of GitHub&apos;s own secure servers, so it was stopped.</source>
-        <translation>Загрузка «%1» была перенаправлена на «%2», который не относится к защищённым серверам GitHub, поэтому она остановлена.</translation>
+        <translation>Загрузка «%1» была перенаправлена на «%2», который не относится к собственным защищённым серверам GitHub, поэтому она была остановлена.</translation>
     </message>
     <message>
         <source>The network library cannot be used.</source>
-        <translation>Сетевую библиотеку невозможно использовать.</translation>
+        <translation>Не удаётся использовать сетевую библиотеку.</translation>
     </message>
     <message>
         <source>The download of “%1” was redirected too often, last to “%2”. Try again later.</source>
@@ -439,7 +439,7 @@ Last log lines:
     </message>
     <message>
         <source>The proxy “%1” cannot be used. Check the proxy settings.</source>
-        <translation>Прокси-сервер «%1» невозможно использовать. Проверьте параметры прокси-сервера.</translation>
+        <translation>Не удаётся использовать прокси-сервер «%1». Проверьте параметры прокси-сервера.</translation>
     </message>
     <message>
         <source>The server “%1” was not found. Check the internet connection.</source>
@@ -471,7 +471,7 @@ Last log lines:
     </message>
     <message>
         <source>The transfer from “%1” failed. Try again later.</source>
-        <translation>Не удалось выполнить передачу с «%1». Повторите попытку позже.</translation>
+        <translation>Не удалось выполнить передачу данных с сервера «%1». Повторите попытку позже.</translation>
     </message>
     <message>
         <source>Could not download “%1”</source>
@@ -488,17 +488,17 @@ Last log lines:
     <message numerus="yes">
         <source>The download of “%1” stalled: %2 sent nothing for %n seconds. Check the internet connection and try again.</source>
         <translation>
-            <numerusform>Загрузка «%1» остановилась: %2 ничего не отправлял %n&#xa0;секунду. Проверьте подключение к Интернету и повторите попытку.</numerusform>
-            <numerusform>Загрузка «%1» остановилась: %2 ничего не отправлял %n&#xa0;секунды. Проверьте подключение к Интернету и повторите попытку.</numerusform>
-            <numerusform>Загрузка «%1» остановилась: %2 ничего не отправлял %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 ничего не отправлял в течение %n&#xa0;секунды. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 ничего не отправлял в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 ничего не отправлял в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The download of “%1” stalled: %2 did not answer within %n seconds. Check the internet connection and try again.</source>
         <translation>
-            <numerusform>Загрузка «%1» остановилась: %2 не ответил в течение %n&#xa0;секунды. Проверьте подключение к Интернету и повторите попытку.</numerusform>
-            <numerusform>Загрузка «%1» остановилась: %2 не ответил в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
-            <numerusform>Загрузка «%1» остановилась: %2 не ответил в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 не ответил в течение %n&#xa0;секунды. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 не ответил в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
+            <numerusform>Загрузка «%1» остановилась: сервер %2 не ответил в течение %n&#xa0;секунд. Проверьте подключение к Интернету и повторите попытку.</numerusform>
         </translation>
     </message>
     <message>
@@ -621,7 +621,7 @@ Last log lines:
     </message>
     <message>
         <source>it was moved meanwhile</source>
-        <translation>объект был перемещён</translation>
+        <translation>за это время объект был перемещён</translation>
     </message>
 </context>
 <context>
@@ -636,7 +636,7 @@ Last log lines:
     </message>
     <message>
         <source>The game stopped unexpectedly (exit code %1).</source>
-        <translation>Игра неожиданно остановилась (код завершения&#xa0;%1).</translation>
+        <translation>Игра неожиданно завершила работу (код завершения&#xa0;%1).</translation>
     </message>
 </context>
 <context>
@@ -668,7 +668,7 @@ Last log lines:
     <message>
         <source>Status: %1 – %2</source>
         <extracomment>What a screen reader says of the coloured dot: a status, and a sentence about it.</extracomment>
-        <translation>Состояние: %1 – %2</translation>
+        <translation>Состояние: %1 — %2</translation>
     </message>
 </context>
 <context>
