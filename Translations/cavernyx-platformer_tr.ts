@@ -141,7 +141,7 @@
 Last log lines:
 %2</source>
         <extracomment>%1 is a whole sentence, and %2 are lines of the log, most of them in English.</extracomment>
-        <translation>Olan biten: %1
+        <translation>Ne oldu: %1
 
 Son günlük satırları:
 %2</translation>
@@ -360,7 +360,7 @@ Son günlük satırları:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>README dosyasında kontrol listesi yok (README dosyasına bakın); bunlar oyunun giriş ayarlarından alınmıştır.</translation>
+        <translation>README dosyasında kontrollerin listesi yok (README dosyasına bakın); bunlar oyunun giriş ayarlarından alınmıştır.</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
@@ -447,7 +447,7 @@ Son günlük satırları:
     </message>
     <message>
         <source>The certificates that this system trusts cannot be read. Install its package of certificates.</source>
-        <translation>Bu sistemin güvendiği sertifikalar okunamıyor. Sertifikaların paketini kurun.</translation>
+        <translation>Bu sistemin güvendiği sertifikalar okunamıyor. Sertifika paketini kurun.</translation>
     </message>
     <message>
         <source>No secure connection to “%1” could be made. Another network may help.</source>
@@ -463,7 +463,7 @@ Son günlük satırları:
     </message>
     <message>
         <source>“%1” sent an answer that is not understood. Try again later.</source>
-        <translation>“%1” anlaşılamayan bir yanıt gönderdi. Daha sonra yeniden deneyin.</translation>
+        <translation>“%1” sunucusu anlaşılamayan bir yanıt gönderdi. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>The transfer from “%1” failed. Try again later.</source>
@@ -567,7 +567,7 @@ Son günlük satırları:
     </message>
     <message>
         <source>Could not exchange “%1” and “%2”</source>
-        <translation>“%1” ile “%2” yer değiştirilemedi</translation>
+        <translation>“%1” ile “%2” ögelerinin yerleri değiştirilemedi</translation>
     </message>
     <message>
         <source>Could not move “%1” to “%2”</source>
