@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Nothing is sent anywhere except the two downloads (the game from GitHub and the engine from GitHub releases).</source>
-        <translation>두 번의 다운로드(GitHub에서 게임, GitHub 릴리스에서 엔진)를 제외하면 어디로도 아무것도 보내지 않습니다.</translation>
+        <translation>두 번의 다운로드(GitHub의 게임과 GitHub 릴리스의 엔진)를 제외하면 어디로도 아무것도 보내지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>The engine download did not match its official checksum, so it was discarded.</source>
-        <translation>내려받은 엔진이 공식 체크섬과 일치하지 않아 버렸습니다.</translation>
+        <translation>내려받은 엔진이 공식 체크섬과 일치하지 않아 폐기했습니다.</translation>
     </message>
     <message>
         <source>The engine was unpacked but its program was not found.</source>
@@ -235,12 +235,12 @@ Last log lines:
     </message>
     <message>
         <source>Step 3 of 4 · First-time setup, this can take a minute or more</source>
-        <translation>4단계 중 3단계 · 첫 준비, 1분 이상 걸릴 수 있음</translation>
+        <translation>4단계 중 3단계 · 최초 준비, 1분 이상 걸릴 수 있음</translation>
     </message>
     <message numerus="yes">
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
-            <numerusform>첫 준비를 마치지 못했습니다. 게임 애셋 %n개를 가져오지 못했습니다(엔진 종료 코드 %1).</numerusform>
+            <numerusform>최초 준비를 마치지 못했습니다. 게임 애셋 %n개를 가져오지 못했습니다(엔진 종료 코드 %1).</numerusform>
         </translation>
     </message>
 </context>
@@ -399,7 +399,7 @@ Last log lines:
     </message>
     <message>
         <source>The download of “%1” was redirected to “%2”, which is not one of GitHub&apos;s own secure servers, so it was stopped.</source>
-        <translation>“%1” 다운로드가 “%2” 주소로 넘겨졌습니다. GitHub의 보안 서버가 아니므로 중단했습니다.</translation>
+        <translation>“%1” 다운로드가 “%2” 주소로 리디렉션되었습니다. GitHub 자체 보안 서버가 아니므로 중단했습니다.</translation>
     </message>
     <message>
         <source>The network library cannot be used.</source>
@@ -407,7 +407,7 @@ Last log lines:
     </message>
     <message>
         <source>The download of “%1” was redirected too often, last to “%2”. Try again later.</source>
-        <translation>“%1” 다운로드가 너무 여러 번 다른 곳으로 넘겨졌습니다. 마지막 주소는 “%2”입니다. 나중에 다시 시도하십시오.</translation>
+        <translation>“%1” 다운로드가 너무 여러 번 리디렉션되었습니다. 마지막 주소는 “%2”입니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The certificate of “%1” is not yet valid. Check the date and time of this computer.</source>
@@ -427,15 +427,15 @@ Last log lines:
     </message>
     <message>
         <source>The proxy “%1” was not found. Check the proxy settings.</source>
-        <translation>프록시 “%1” 서버를 찾을 수 없습니다. 프록시 설정을 확인하십시오.</translation>
+        <translation>“%1” 프록시 서버를 찾을 수 없습니다. 프록시 설정을 확인하십시오.</translation>
     </message>
     <message>
         <source>The proxy “%1” refused the connection (HTTP %2). Check the proxy settings.</source>
-        <translation>프록시 “%1” 서버가 연결을 거부했습니다(HTTP&#xa0;%2). 프록시 설정을 확인하십시오.</translation>
+        <translation>“%1” 프록시 서버가 연결을 거부했습니다(HTTP&#xa0;%2). 프록시 설정을 확인하십시오.</translation>
     </message>
     <message>
         <source>The proxy “%1” cannot be used. Check the proxy settings.</source>
-        <translation>프록시 “%1” 서버를 사용할 수 없습니다. 프록시 설정을 확인하십시오.</translation>
+        <translation>“%1” 프록시 서버를 사용할 수 없습니다. 프록시 설정을 확인하십시오.</translation>
     </message>
     <message>
         <source>The server “%1” was not found. Check the internet connection.</source>
@@ -451,7 +451,7 @@ Last log lines:
     </message>
     <message>
         <source>No secure connection to “%1” could be made. Another network may help.</source>
-        <translation>“%1” 서버와 보안 연결을 만들 수 없습니다. 다른 네트워크를 사용해 보십시오.</translation>
+        <translation>“%1” 서버와 보안 연결을 설정할 수 없습니다. 다른 네트워크를 사용해 보십시오.</translation>
     </message>
     <message>
         <source>The connection to “%1” was lost. Check the internet connection and try again.</source>
@@ -467,7 +467,7 @@ Last log lines:
     </message>
     <message>
         <source>The transfer from “%1” failed. Try again later.</source>
-        <translation>“%1” 서버에서 전송하지 못했습니다. 나중에 다시 시도하십시오.</translation>
+        <translation>“%1” 서버에서 데이터를 전송받지 못했습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Could not download “%1”</source>
@@ -476,7 +476,7 @@ Last log lines:
     <message numerus="yes">
         <source>The download of “%1” stalled: the proxy “%2” did not answer within %n seconds. Check the proxy settings and try again.</source>
         <translation>
-            <numerusform>“%1” 다운로드가 멈췄습니다. 프록시 “%2” 서버가 %n초 안에 응답하지 않았습니다. 프록시 설정을 확인하고 다시 시도하십시오.</numerusform>
+            <numerusform>“%1” 다운로드가 멈췄습니다. “%2” 프록시 서버가 %n초 안에 응답하지 않았습니다. 프록시 설정을 확인하고 다시 시도하십시오.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -521,7 +521,7 @@ Last log lines:
     </message>
     <message>
         <source>Could not change “%1”</source>
-        <translation>“%1” 파일을 바꿀 수 없습니다</translation>
+        <translation>“%1” 파일을 변경할 수 없습니다</translation>
     </message>
     <message>
         <source>It is not a file.</source>
@@ -624,7 +624,7 @@ Last log lines:
     </message>
     <message>
         <source>The game stopped unexpectedly (exit code %1).</source>
-        <translation>게임이 예기치 않게 중단되었습니다(종료 코드 %1).</translation>
+        <translation>게임이 예기치 않게 종료되었습니다(종료 코드 %1).</translation>
     </message>
 </context>
 <context>
