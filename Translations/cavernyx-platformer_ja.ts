@@ -141,7 +141,7 @@
 Last log lines:
 %2</source>
         <extracomment>%1 is a whole sentence, and %2 are lines of the log, most of them in English.</extracomment>
-        <translation>発生したこと: %1
+        <translation>発生した問題: %1
 
 ログの最後の行:
 %2</translation>
@@ -343,7 +343,7 @@ Last log lines:
     <message>
         <source>Aim</source>
         <extracomment>What a player of the game does.</extracomment>
-        <translation>狙う</translation>
+        <translation>照準</translation>
     </message>
     <message>
         <source>Hold F, or use the right stick</source>
@@ -352,7 +352,7 @@ Last log lines:
     <message>
         <source>Restart</source>
         <extracomment>What a player of the game does: begin again.</extracomment>
-        <translation>やり直す</translation>
+        <translation>やり直し</translation>
     </message>
     <message>
         <source>Alt + R</source>
@@ -360,7 +360,7 @@ Last log lines:
     </message>
     <message>
         <source>The README has no controls list (see README); these come from the game&apos;s input settings.</source>
-        <translation>README に操作方法の一覧がないため (README を参照)、ゲームの入力設定から引用しています。</translation>
+        <translation>README に操作方法の一覧がないため (README を参照)、ゲームの入力設定に基づいて表示しています。</translation>
     </message>
     <message>
         <source>The game &quot;Snaglet!&quot; is made by Quennet and the Brindlework team, 2019, and is released under the MIT License. The game belongs to its author; this app is only a launcher that downloads it.</source>
@@ -463,7 +463,7 @@ Last log lines:
     </message>
     <message>
         <source>“%1” sent an answer that is not understood. Try again later.</source>
-        <translation>「%1」から理解できない応答がありました。しばらくしてからもう一度実行してください。</translation>
+        <translation>「%1」から解釈できない応答がありました。しばらくしてからもう一度実行してください。</translation>
     </message>
     <message>
         <source>The transfer from “%1” failed. Try again later.</source>
