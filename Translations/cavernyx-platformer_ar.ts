@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>The Godot engine is free software under the MIT License (godotengine.org). It is downloaded from the official godotengine/godot releases and checked against the published SHA-512 checksum.</source>
-        <translation>محرّك Godot برنامج حر برخصة MIT ‏(⁨godotengine.org⁩). يُنزَّل من الإصدارات الرسمية لمستودع ⁨godotengine/godot⁩، ويُتحقّق منه بمقارنته بالمجموع الاختباري المنشور ⁨SHA-512⁩.</translation>
+        <translation>محرّك Godot برنامج حر برخصة MIT ‏(⁨godotengine.org⁩). يُنزَّل من الإصدارات الرسمية لمستودع ⁨godotengine/godot⁩، ويُتحقّق منه بمقارنته بمجموع ⁨SHA-512⁩ الاختباري المنشور.</translation>
     </message>
     <message>
         <source>Nothing is sent anywhere except the two downloads (the game from GitHub and the engine from GitHub releases).</source>
@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>The engine download did not match its official checksum, so it was discarded.</source>
-        <translation>لم يطابق المحرّك المُنزَّل مجموعه الاختباري الرسمي، لذلك أُهمل.</translation>
+        <translation>لم يطابق المحرّك المُنزَّل مجموعه الاختباري الرسمي، لذلك حُذف.</translation>
     </message>
     <message>
         <source>The engine was unpacked but its program was not found.</source>
@@ -246,11 +246,11 @@ Last log lines:
         <source>The first-time setup did not finish: %n game assets were not imported (engine exit code %1).</source>
         <translation>
             <numerusform>لم يكتمل التجهيز الأول (رمز خروج المحرّك %L1).</numerusform>
-            <numerusform>لم يكتمل التجهيز الأول: لم يُستورد مورد واحد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
-            <numerusform>لم يكتمل التجهيز الأول: لم يُستورد موردان من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
-            <numerusform>لم يكتمل التجهيز الأول: لم تُستورد %Ln&#xa0;موارد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
-            <numerusform>لم يكتمل التجهيز الأول: لم يُستورد %Ln&#xa0;موردًا من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
-            <numerusform>لم يكتمل التجهيز الأول: لم يُستورد %Ln&#xa0;مورد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
+            <numerusform>لم يكتمل التجهيز الأول: تعذّر استيراد مورد واحد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
+            <numerusform>لم يكتمل التجهيز الأول: تعذّر استيراد موردين من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
+            <numerusform>لم يكتمل التجهيز الأول: تعذّر استيراد %Ln&#xa0;موارد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
+            <numerusform>لم يكتمل التجهيز الأول: تعذّر استيراد %Ln&#xa0;موردًا من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
+            <numerusform>لم يكتمل التجهيز الأول: تعذّر استيراد %Ln&#xa0;مورد من موارد اللعبة (رمز خروج المحرّك %L1).</numerusform>
         </translation>
     </message>
 </context>
@@ -348,7 +348,7 @@ Last log lines:
     <message>
         <source>Left mouse button, or a shoulder button</source>
         <extracomment>The shoulder buttons of a game controller are those behind its front.</extracomment>
-        <translation>زر الفأرة الأيسر، أو زر كتف في ذراع التحكم</translation>
+        <translation>زر الفأرة الأيسر، أو أحد أزرار الكتف في ذراع التحكم</translation>
     </message>
     <message>
         <source>Aim</source>
@@ -522,7 +522,7 @@ Last log lines:
     </message>
     <message>
         <source>Could not compute a SHA-512 checksum.</source>
-        <translation>تعذّر حساب مجموع اختباري ⁨SHA-512⁩.</translation>
+        <translation>تعذّر حساب مجموع ⁨SHA-512⁩ الاختباري.</translation>
     </message>
     <message>
         <source>Could not create the temporary folder “%1”</source>
@@ -566,7 +566,7 @@ Last log lines:
     </message>
     <message>
         <source>Could not start “%1”</source>
-        <translation>تعذّر بدء «⁨%1⁩»</translation>
+        <translation>تعذّر تشغيل «⁨%1⁩»</translation>
     </message>
     <message>
         <source>Could not create a pipe</source>
@@ -592,7 +592,7 @@ Last log lines:
     </message>
     <message>
         <source>Could not exchange “%1” and “%2”</source>
-        <translation>تعذّر تبديل «⁨%1⁩» و«⁨%2⁩»</translation>
+        <translation>تعذّر التبديل بين «⁨%1⁩» و«⁨%2⁩»</translation>
     </message>
     <message>
         <source>Could not move “%1” to “%2”</source>
@@ -644,12 +644,12 @@ Last log lines:
     <message numerus="yes">
         <source>The game closed after %n seconds (exit code %1), so it did not start properly.</source>
         <translation>
-            <numerusform>أُغلقت اللعبة فورًا (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
-            <numerusform>أُغلقت اللعبة بعد ثانية واحدة (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
-            <numerusform>أُغلقت اللعبة بعد ثانيتين (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
-            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثوانٍ (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
-            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثانية (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
-            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثانية (رمز الخروج %L1)، لذلك لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة فورًا (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة بعد ثانية واحدة (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة بعد ثانيتين (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثوانٍ (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثانية (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
+            <numerusform>أُغلقت اللعبة بعد %Ln&#xa0;ثانية (رمز الخروج %L1)، أي إنها لم تبدأ كما ينبغي.</numerusform>
         </translation>
     </message>
     <message>
@@ -765,7 +765,7 @@ Last log lines:
     </message>
     <message>
         <source>The game is ready and starting.</source>
-        <translation>اللعبة جاهزة ويجري بدؤها.</translation>
+        <translation>اللعبة جاهزة ويجري تشغيلها.</translation>
     </message>
 </context>
 <context>
