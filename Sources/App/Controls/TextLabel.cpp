@@ -57,12 +57,9 @@ int TextLabel::heightForWidth(int width) const
     return height->second;
 }
 
-void TextLabel::paintEvent(QPaintEvent* event)
+void TextLabel::paintEvent(QPaintEvent*)
 {
-    if (!wordWrap()) {
-        QLabel::paintEvent(event);
-        return;
-    }
+    // Not QLabel's, which aligns a text by its own direction rather than by the window's.
     QPainter painter(this);
     painter.setPen(foregroundRole() == QPalette::PlaceholderText
                        ? SystemColors::secondaryText(palette())
