@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Views/Picture.h"
 
+#include "Install/DownloadProgress.h"
+
 #include <QDir>
 #include <QPainter>
 #include <QSet>
@@ -39,7 +41,10 @@ void Picture::showDownload()
 {
     enterDownload(7'300'000, 70'100'000);
     settle();
-    label(model().progressText())->setText(u"7.3 MB of 70.1 MB \u00b7 2.4 MB/s"_s);
+    label(model().progressText())
+        ->setText(DownloadProgress{
+            .received = 7'300'000, .total = 70'100'000, .bytesPerSecond = 2'400'000}
+                      .text());
 }
 
 void Picture::showAll()

@@ -27,15 +27,6 @@ protected:
                 facts.license + u" \u00b7 "_s + facts.author};
     }
 
-    /// Opens a sheet by the translated title of its button.
-    template<typename Sheet>
-    Sheet& open(QStringView title)
-    {
-        button(title)->click();
-        settle();
-        return only<Sheet>();
-    }
-
     /// Checks every text and accessible name below `parent`, except for those in `untranslated`.
     static void expectTranslated(const QWidget& parent, const QStringList& untranslated)
     {
@@ -84,7 +75,7 @@ TEST_F(TranslationTest, leavesTheFactsTheLogAndTheReportAsTheyAre)
 
 TEST_F(TranslationTest, reachesEveryTextOfTheSettings)
 {
-    auto& sheet = open<SettingsView>(u"<Settings\u2026>");
+    auto& sheet = settings();
     expectTranslated(sheet, {});
     EXPECT_EQ(only<QComboBox>(sheet).itemText(0), u"<Game default>"_s);
     EXPECT_EQ(only<QComboBox>(sheet).itemText(1), u"1280 \u00d7 720"_s);
@@ -99,14 +90,13 @@ TEST_F(TranslationTest, keepsTheWidthBeforeTheHeightInALineFromTheRight)
     const auto guard =
         qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    const auto& sheet = open<SettingsView>(u"<Settings\u2026>");
+    const auto& sheet = settings();
     EXPECT_EQ(only<QComboBox>(sheet).itemText(1), u"\u200e1280 \u00d7 720"_s);
 }
 
 TEST_F(TranslationTest, reachesEveryTextOfTheAboutSheet)
 {
-    expectTranslated(open<AboutView>(u"<About>"),
-                     {u"https://github.com/brindlework-demos/tetherwalk"_s});
+    expectTranslated(about(), {u"https://github.com/brindlework-demos/tetherwalk"_s});
 }
 
 } // namespace

@@ -82,8 +82,8 @@ protected:
     TextBox& failure() { return only<TextBox>(); }
 
     /// Each opens the sheet, unless it is open.
-    SettingsView& settings() { return sheet<SettingsView>(u"Settings\u2026"); }
-    AboutView& about() { return sheet<AboutView>(u"About"); }
+    SettingsView& settings() { return sheet<SettingsView>(ContentView::tr("Settings\u2026")); }
+    AboutView& about() { return sheet<AboutView>(ContentView::tr("About")); }
 
     /// Runs the event loop until layouts and pending events have taken effect.
     static void settle();
