@@ -2,6 +2,7 @@
 #include "Controls/WrappedText.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -12,13 +13,15 @@ namespace WrappedText {
 
 namespace {
 
-/// Lays out `text` as QPainter does, and returns its size.
-QSize layOut(const QString& text, const QFont& font, QTextOption::WrapMode mode, int width)
+/// Returns `text` with the character that ends a line in a QTextLayout for each newline.
+QString separated(QString text)
 {
-    auto lines = text;
-    QTextLayout layout(lines.replace(u'\n', QChar::LineSeparator), font);
-    QTextOption option;
-    option.setWrapMode(mode);
+    return text.replace(u'\n', QChar::LineSeparator);
+}
+
+/// Lays out the text in lines of `width`, and returns its size.
+QSize layOut(QTextLayout& layout, const QTextOption& option, int width)
+{
     layout.setTextOption(option);
     const auto leading = QFontMetricsF(layout.font()).leading();
     auto height = -leading;
@@ -26,32 +29,53 @@ QSize layOut(const QString& text, const QFont& font, QTextOption::WrapMode mode,
     layout.beginLayout();
     for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        height = std::ceil(height + leading) + line.height();
+        line.setPosition({0, std::ceil(height + leading)});
+        height = line.y() + line.height();
         widest = std::max(widest, line.naturalTextWidth());
     }
     layout.endLayout();
     return QSizeF(std::ceil(widest), std::ceil(height)).toSize();
 }
 
+QTextOption wrapping(QTextOption::WrapMode mode)
+{
+    QTextOption option;
+    option.setWrapMode(mode);
+    return option;
+}
+
+bool isReadFromTheRight(QChar character)
+{
+    return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
+}
+
 } // namespace
 
 int height(const QString& text, const QFont& font, int width)
 {
-    return layOut(text, font, QTextOption::WrapAtWordBoundaryOrAnywhere, width).height();
+    QTextLayout layout(separated(text), font);
+    return layOut(layout, wrapping(QTextOption::WrapAtWordBoundaryOrAnywhere), width).height();
 }
 
 int widestWord(const QString& text, const QFont& font)
 {
-    return layOut(text, font, QTextOption::WordWrap, 0).width();
+    QTextLayout layout(separated(text), font);
+    return layOut(layout, wrapping(QTextOption::WordWrap), 0).width();
 }
 
 void paint(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
            Qt::LayoutDirection direction, const QString& text)
 {
-    QTextOption option(alignment);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(direction);
-    painter.drawText(QRectF(rect), text, option);
+    auto option = wrapping(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setAlignment(QStyle::visualAlignment(direction, alignment));
+    // A sentence without such letters ends on the right, also in a window that is read from there.
+    const auto isMirrored = std::any_of(text.begin(), text.end(), isReadFromTheRight);
+    option.setTextDirection(isMirrored ? direction : Qt::LeftToRight);
+    QTextLayout layout(separated(text), painter.font());
+    const auto size = layOut(layout, option, rect.width());
+    layout.draw(&painter, QStyle::alignedRect(Qt::LeftToRight, alignment & Qt::AlignVertical_Mask,
+                                              {rect.width(), size.height()}, rect)
+                              .topLeft());
 }
 
 } // namespace WrappedText

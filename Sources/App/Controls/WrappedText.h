@@ -17,7 +17,8 @@ namespace WrappedText {
 /// The width of the widest word of `text`.
 [[nodiscard]] int widestWord(const QString& text, const QFont& font);
 
-/// Draws `text` with the painter's font and pen. A leading alignment follows `direction`.
+/// Draws `text` with the painter's font and pen. A leading alignment follows `direction`, and
+/// so does the order of the words if some are written from the right.
 void paint(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
            Qt::LayoutDirection direction, const QString& text);
 
