@@ -2,7 +2,7 @@
 """The row about the whole first run: from Play to the game's own window.
 
 Both contenders have the world of the end-to-end scenarios, the real engine among it, and nothing
-installed. As a program, `first_run CONTENDER PREFIX FOLDER`, this is one run of one contender.
+installed. As a program, `first_run CONTENDER LAUNCHER FOLDER`, this is one run of one contender.
 """
 
 import json
@@ -34,8 +34,7 @@ def first_run(bench: Bench) -> list[Line]:
     def contender(name: str) -> Run:
         # The system's own interpreter is the one that the accessibility library's bindings are for.
         taken = run(
-            ["/usr/bin/python3", "-m", "side_by_side.first_run", name, f"{bench.build}/prefix",
-             bench.folder],
+            ["/usr/bin/python3", "-m", "side_by_side.first_run", name, bench.launcher, bench.folder],
             cwd=Path(__file__).parents[1], stderr=subprocess.DEVNULL)
         return Run(taken.report["the game's window"], report=taken.report)
 
@@ -115,12 +114,12 @@ def wait_for_game(world: World, stages: Stages) -> None:
     stages.reach("the game's window")
 
 
-def main(name: str, prefix: str, folder: str) -> None:
+def main(name: str, program: str, folder: str) -> None:
     scratch = private_world.enter()
     output = Path(folder) / f"first-run-{os.getpid()}"
     output.mkdir()
     try:
-        with World(Path(prefix), scratch, output) as world:
+        with World(Path(program), scratch, output, private_world.System()) as world:
             world.offer_game()
             world.offer_real_engine()
             world.web.start()

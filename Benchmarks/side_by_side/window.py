@@ -53,7 +53,7 @@ def start(bench: Bench) -> list[Line]:
             "an empty Qt Widgets window",
             mebibytes(median(empty)),
             paired_ratio(ours, empty),
-            1.4,
+            1.3,
         ),
     ]
 
