@@ -20,7 +20,7 @@ namespace {
 
 QString startBus()
 {
-    auto& bus = *new QProcess; // It ends with this program.
+    static auto& bus = *new QProcess; // It ends with this program.
     bus.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     bus.start(u"dbus-daemon"_s, {u"--config-file="_s + QStringLiteral(BUS_CONFIGURATION),
                                  u"--nofork"_s, u"--print-address"_s});
