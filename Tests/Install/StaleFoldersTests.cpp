@@ -116,6 +116,18 @@ TEST_F(StaleFoldersTest, areMovedBackIfTheirTargetIsMissing)
     EXPECT_EQ(home.names(root()), QStringList{u"Game"_s});
 }
 
+TEST_F(StaleFoldersTest, supersedeTheirTargetsIfTheyAreComplete)
+{
+    home.write(root(u"Game.new-"_s + uuid + u".complete/new"_s));
+    home.write(root(u"Game/half"_s));
+    home.write(EngineManager().folder() + u".new-"_s + uuid + u".complete/godot"_s);
+    clearLeftovers();
+    EXPECT_EQ(home.names(root()), (QStringList{u"Engine"_s, u"Game"_s}));
+    EXPECT_EQ(home.names(root(u"Game"_s)), QStringList{u"new"_s});
+    EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList{EngineManager::version()});
+    EXPECT_TRUE(home.exists(EngineManager().folder() + u"/godot"_s));
+}
+
 TEST_F(StaleFoldersTest, areNotTheFoldersThatAreJustBeingMade)
 {
     const ForkedProcess cleaner([] {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What "Remove everything" removes, and what it leaves alone.
 
+#include "Install/Paths.h"
 #include "Support/Await.h"
 #include "Support/BusyPool.h"
 #include "Support/InAnotherProcess.h"
@@ -66,6 +67,16 @@ int runAgainWithOwnMounts()
             return ::execl(program.constData(), program.constData(), argument.constData(), nullptr);
         });
 }
+
+/// Continues the current test only in a process with mounts of its own.
+#define RUN_WITH_OWN_MOUNTS()                                                                      \
+    if (!qEnvironmentVariableIsSet(ownMounts)) {                                                   \
+        const auto status = runAgainWithOwnMounts();                                               \
+        if (status == noOwnMounts)                                                                 \
+            GTEST_SKIP() << "Mount namespaces are not permitted here.";                            \
+        EXPECT_EQ(status, 0);                                                                      \
+        return;                                                                                    \
+    }
 
 #endif
 
@@ -140,13 +151,7 @@ TEST_F(RemovalTest, removesOnlyTheLinkOfAGameThatIsALink)
 
 TEST_F(RemovalTest, leavesAFolderThatIsMountedIntoTheGameAloneAndSaysSo)
 {
-    if (!qEnvironmentVariableIsSet(ownMounts)) {
-        const auto status = runAgainWithOwnMounts();
-        if (status == noOwnMounts)
-            GTEST_SKIP() << "Mount namespaces are not permitted here.";
-        EXPECT_EQ(status, 0);
-        return;
-    }
+    RUN_WITH_OWN_MOUNTS();
     installGame();
     const auto kept = home.write(u"elsewhere/kept"_s);
     const auto place = home.makeFolder(root(u"Game/tetherwalk-master/mounted"_s));
@@ -169,6 +174,24 @@ TEST_F(RemovalTest, leavesAFolderThatIsMountedIntoTheGameAloneAndSaysSo)
     EXPECT_EQ(model().phase(), Phase::notDownloaded());
     EXPECT_FALSE(exists({}));
     EXPECT_TRUE(QFile::exists(kept));
+}
+
+TEST_F(RemovalTest, leavesNoPartOfAGameThatCannotBeRenamed)
+{
+    RUN_WITH_OWN_MOUNTS();
+    installGame();
+    installManyFiles();
+    const auto mountPoint = QFileInfo(root()).path();
+    if (!mountOverlay(mountPoint, home.path(u"layers"_s)))
+        GTEST_SKIP() << "No overlay can be mounted here.";
+    startModel().removeEverything();
+    ASSERT_TRUE(waitUntil([] { return !Paths::completeFolders().isEmpty(); }));
+    EXPECT_TRUE(model().confirmQuit());
+    EXPECT_FALSE(Paths::completeFolders().isEmpty()) << "The deletion was too fast to interrupt.";
+    EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
+    EXPECT_EQ(home.names(root(u"Game"_s)), QStringList());
+    EXPECT_EQ(leftovers(), QStringList());
+    EXPECT_EQ(::umount2(QFile::encodeName(mountPoint).constData(), MNT_DETACH), 0);
 }
 
 #endif

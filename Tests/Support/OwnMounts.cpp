@@ -3,12 +3,18 @@
 
 #include "System/FileDescriptor.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <string>
 
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,4 +50,16 @@ bool separateMounts()
 {
     return (::geteuid() == 0 || becomeAdministrator()) && ::unshare(CLONE_NEWNS) == 0 &&
            makeMountsPrivate();
+}
+
+bool mountOverlay(const QString& folder, const QString& layers)
+{
+    const QDir parent(layers);
+    const auto options = u"lowerdir=%1,upperdir=%2/upper,workdir=%2/work,userxattr"_s;
+    if (!parent.mkpath(u"upper"_s) || !parent.mkpath(u"work"_s) ||
+        ::mount("overlay", QFile::encodeName(folder).constData(), "overlay", 0,
+                QFile::encodeName(options.arg(folder, layers)).constData()) != 0)
+        return false;
+    // The system makes a folder here that only an administrator could delete.
+    return ::chmod(QFile::encodeName(parent.filePath(u"work/work"_s)).constData(), S_IRWXU) == 0;
 }

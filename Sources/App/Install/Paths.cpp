@@ -6,6 +6,7 @@
 #include "Project/GameFacts.h"
 #include "System/DirectoryWalk.h"
 #include "System/Errors.h"
+#include "System/FileTree.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,11 +41,12 @@ QString temporaryFolder()
 constexpr qsizetype uuidLength = 36;
 
 /// Returns the folders in `parent`, and links to folders, whose name is `prefix`, a regular
-/// expression, and a UUID.
-QStringList foldersNamed(const QString& parent, const QString& prefix)
+/// expression, a UUID and `suffix`.
+QStringList foldersNamed(const QString& parent, const QString& prefix, const QString& suffix = {})
 {
     const QRegularExpression name(QRegularExpression::anchoredPattern(
-        prefix + u"[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"_s));
+        prefix + u"[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"_s +
+        QRegularExpression::escape(suffix)));
     const QDir folder(parent);
     QStringList found;
     const auto names =
@@ -54,11 +56,23 @@ QStringList foldersNamed(const QString& parent, const QString& prefix)
     return found;
 }
 
-/// Returns the folders beside the game and the engine builds with `infix` and a UUID in their name.
-QStringList foldersWithInfix(const QString& infix)
+/// Returns the folders beside the game and the engine builds whose names have `infix`, a UUID and
+/// `suffix` after their target's.
+QStringList foldersBesideTargets(const QString& infix, const QString& suffix = {})
 {
     const auto prefix = u"[^/]+"_s + QRegularExpression::escape(infix);
-    return foldersNamed(Paths::root(), prefix) + foldersNamed(Paths::engines(), prefix);
+    return foldersNamed(Paths::root(), prefix, suffix) +
+           foldersNamed(Paths::engines(), prefix, suffix);
+}
+
+/// Returns the same folders, each with the path of its target.
+QList<std::pair<QString, QString>> foldersWithTargets(const QString& infix,
+                                                      const QString& suffix = {})
+{
+    QList<std::pair<QString, QString>> folders;
+    for (const auto& folder : foldersBesideTargets(infix, suffix))
+        folders.append({folder, folder.chopped(infix.size() + uuidLength + suffix.size())});
+    return folders;
 }
 
 /// Returns the bytes allocated for a regular file; 0 for anything else.
@@ -117,15 +131,17 @@ QString Paths::newBackupFolder(const QString& target)
 
 QStringList Paths::stagingFolders()
 {
-    return foldersWithInfix(stagingInfix);
+    return foldersBesideTargets(stagingInfix);
 }
 
 QList<std::pair<QString, QString>> Paths::backupFolders()
 {
-    QList<std::pair<QString, QString>> folders;
-    for (const auto& folder : foldersWithInfix(backupInfix))
-        folders.append({folder, folder.chopped(backupInfix.size() + uuidLength)});
-    return folders;
+    return foldersWithTargets(backupInfix);
+}
+
+QList<std::pair<QString, QString>> Paths::completeFolders()
+{
+    return foldersWithTargets(stagingInfix, FileTree::completeSuffix);
 }
 
 TemporaryFolder Paths::newTempDir()

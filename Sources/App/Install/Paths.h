@@ -45,6 +45,10 @@ QStringList stagingFolders();
 /// Returns the existing backup folders, each with the path of its target.
 QList<std::pair<QString, QString>> backupFolders();
 
+/// Returns the existing folders that must supersede their targets, each with the path of its
+/// target.
+QList<std::pair<QString, QString>> completeFolders();
+
 /// Creates a folder "CavernyxPlatformer-" + a random UUID with mode 0700, in `$TMPDIR`, or in
 /// `/tmp` if that is not an existing absolute path. Throws PlatformError.
 TemporaryFolder newTempDir();

@@ -12,6 +12,8 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
     if (!lock.isHeld() || lock.isGameRunning())
         return {};
     try {
+        for (const auto& [complete, target] : Paths::completeFolders())
+            FileTree::supersede(target, complete);
         auto folders = Paths::stagingFolders();
         for (const auto& [backup, target] : Paths::backupFolders()) {
             if (FileTree::exists(target) || FileTree::rename(backup, target) != 0)
@@ -19,7 +21,7 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
         }
         return folders;
     } catch (const PlatformError&) {
-        return {}; // There is no home folder.
+        return {}; // There is no home folder, or a folder cannot be changed.
     }
 }
 

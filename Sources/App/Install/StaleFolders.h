@@ -10,9 +10,9 @@ class InstallationLock;
 /// Staging, backup and temporary folders that a killed or cancelled launcher has left.
 namespace StaleFolders {
 
-/// Moves each backup folder without a target back to its target, and returns the other stale
-/// folders below the storage root. Does nothing unless `lock` is held and no game runs. No
-/// installation may run meanwhile.
+/// Moves each backup folder without a target back to its target, finishes what
+/// FileTree::supersede() began, and returns the other stale folders below the storage root. Does
+/// nothing unless `lock` is held and no game runs. No installation may run meanwhile.
 QStringList restoreAndList(const InstallationLock& lock);
 
 /// Removes `folders`, and the temporary folders of this user whose owner has ended. Ignores errors.

@@ -22,13 +22,22 @@ namespace {
 
 constexpr int copiedLogLines = 2000;
 
+/// Replaces a folder that cannot be renamed by an empty one.
+void emptyInPlace(const QString& folder, const std::stop_token& stop)
+{
+    const QString empty = Paths::newStagingFolder(folder) + FileTree::completeSuffix;
+    Paths::ensure(empty);
+    FileTree::supersede(folder, empty, stop);
+}
+
 /// Renames the game and the engines, so that a partly deleted folder is never at its final path.
-/// Deletes a folder that cannot be renamed.
 void moveAside(const std::stop_token& stop)
 {
     for (const auto& folder : {Paths::game(), Paths::engines()}) {
         const auto error = FileTree::rename(folder, Paths::newStagingFolder(folder));
-        if (error != 0 && error != ENOENT)
+        if (error == EXDEV)
+            emptyInPlace(folder, stop);
+        else if (error != 0 && error != ENOENT)
             FileTree::removeBestEffort(folder, stop);
     }
 }

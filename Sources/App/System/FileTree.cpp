@@ -10,7 +10,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <tuple>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,27 +51,29 @@ void throwIfNotMoved(int error, const QString& from, const QString& to)
             PlatformError::tr("Could not move “%1” to “%2”").arg(from, to), error);
 }
 
-/// Renames the old folder. Deletes it on EXDEV: overlayfs cannot rename a folder of its lower
-/// layer.
-void moveAside(const QString& target, const QString& backup, const std::stop_token& stop)
+void move(const QString& from, const QString& to)
 {
-    const auto error = FileTree::rename(target, backup);
-    if (error == EXDEV)
-        FileTree::remove(target, stop);
-    else if (error != ENOENT)
-        throwIfNotMoved(error, target, backup);
+    throwIfNotMoved(FileTree::rename(from, to), from, to);
 }
 
 void replaceInTwoSteps(const QString& target, const QString& staging, const QString& backup,
                        const std::stop_token& stop)
 {
-    moveAside(target, backup, stop);
+    const auto backupError = FileTree::rename(target, backup);
+    if (backupError == EXDEV) {
+        const QString complete = staging + FileTree::completeSuffix;
+        move(staging, complete);
+        return FileTree::supersede(target, complete, stop);
+    }
+    if (backupError != ENOENT)
+        throwIfNotMoved(backupError, target, backup);
     const auto error = FileTree::rename(staging, target);
     if (error == 0) {
-        std::ignore = FileTree::rename(backup, staging);
+        if (backupError == 0)
+            move(backup, staging);
         return;
     }
-    if (FileTree::exists(backup) && FileTree::rename(backup, target) != 0) {
+    if (backupError == 0 && FileTree::rename(backup, target) != 0) {
         throw PlatformError(PlatformError::tr("Could not move “%1” to “%2”. What was there before "
                                               "is now at “%3”.")
                                 .arg(staging, target, backup));
@@ -118,4 +119,11 @@ void FileTree::replace(const QString& target, const QString& staging, const QStr
         replaceInTwoSteps(target, staging, backup, stop);
     // The caller deletes the old folder next, so the renames must be on the disk first.
     syncDirectory(QFileInfo(target).path(), stop);
+}
+
+void FileTree::supersede(const QString& target, const QString& complete,
+                         const std::stop_token& stop)
+{
+    remove(target, stop);
+    move(complete, target);
 }

@@ -29,10 +29,18 @@ void removeBestEffort(const QString& path, const std::stop_token& stop = {}) noe
 ///
 /// Exchanges the two atomically where the file system supports it. Elsewhere it renames `target` to
 /// `backup`, an unused path in the same parent, and then `staging` to `target`; a later start must
-/// rename `backup` back if there is no `target`. Throws PlatformError, or Cancelled when `stop` is
-/// requested before the first rename. The old folder is then intact at `target`, unless the message
-/// names another path.
+/// rename `backup` back if there is no `target`. A folder in the lower layer of overlayfs cannot be
+/// renamed: there `staging` gets the suffix `completeSuffix` and supersedes `target`, which a later
+/// start must repeat. Throws PlatformError, or Cancelled when `stop` is requested. The old folder
+/// is then intact at `target`, unless the message names another path or a later start has to
+/// finish.
 void replace(const QString& target, const QString& staging, const QString& backup,
              const std::stop_token& stop = {});
+
+inline constexpr QLatin1StringView completeSuffix(".complete");
+
+/// Deletes `target` and renames `complete` to it. Throws PlatformError, or Cancelled when `stop` is
+/// requested; `target` may then be partly deleted, and the call can be repeated.
+void supersede(const QString& target, const QString& complete, const std::stop_token& stop = {});
 
 } // namespace FileTree
