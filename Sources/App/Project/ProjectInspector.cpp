@@ -179,7 +179,7 @@ std::optional<ProjectInfo> ProjectInspector::inspect(const QString& folder)
         return std::nullopt;
     ProjectInfo info;
     info.folder = folder;
-    for (const auto line : QStringView(*text).split(u'\n'))
+    for (const auto line : qTokenize(QStringView(*text), u'\n'))
         readLine(Text::trimmedBlanks(line), info);
     if (info.configVersion == 0)
         return std::nullopt;
