@@ -6,6 +6,12 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#if defined(Q_OS_LINUX)
+#include "Support/WithoutSystemCall.h"
+#include "System/Errors.h"
+
+#include <sys/syscall.h>
+#endif
 
 using ZipDamageTest = ZipExtractorTest;
 
@@ -18,6 +24,21 @@ TEST_F(ZipDamageTest, refusesWhatIsNoArchive)
         EXPECT_TRUE(log.value(0).startsWith(u"The archive cannot be read: "_s));
     }
 }
+
+#if defined(Q_OS_LINUX)
+TEST_F(ZipDamageTest, tellsAFileThatCannotBeReadFromADamagedArchive)
+{
+    const auto archive = ZipWriter().addFile("first", "some bytes").archive();
+    for (const auto reading : {unsigned{SYS_pread64}, unsigned{SYS_read}}) {
+        const auto sentence = sentenceWithout(reading, EIO, [&] {
+            extract(archive);
+            throw PlatformError(log.value(0));
+        });
+        EXPECT_EQ(sentence, u"Could not read “%1”: Input/output error."_s.arg(
+                                folder.path(u"the archive.zip"_s)));
+    }
+}
+#endif
 
 TEST_F(ZipDamageTest, refusesATruncatedArchiveAtEveryLength)
 {
