@@ -163,6 +163,7 @@ TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
     waitForPhase(Phase::Kind::downloading);
     model().cancelSetup();
     waitForFlow();
+    EXPECT_FALSE(stagingFolders().isEmpty()) << "The cancel has waited for the deletion.";
     expectNothingInstalled();
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Model/SetupTest.h"
+#include "Support/Await.h"
 
 #include <QDir>
 #include <chrono>
@@ -45,6 +46,9 @@ TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
         model().phase(),
         Phase::needs(
             u"The engine download did not match its official checksum, so it was discarded."_s));
+    EXPECT_EQ(model().progress(), std::nullopt);
+    EXPECT_EQ(model().progressText(), QString());
+    EXPECT_TRUE(waitUntil([this] { return !model().installedSize().isEmpty(); }));
     EXPECT_FALSE(exists(u"Engine"_s));
     EXPECT_TRUE(exists(u"Game"_s));
     EXPECT_EQ(leftovers(), QStringList());

@@ -34,7 +34,6 @@ QCoro::Task<> AppModel::launch(QString engine, QString project)
     const auto status = co_await runGame(engine, arguments);
     const auto elapsed = std::chrono::steady_clock::now() - start;
 
-    m_stillStarting = false;
     concludePlay(PlayOutcome::judge(m_userStopped, elapsed, status, m_durations.startupThreshold));
 }
 
