@@ -46,12 +46,22 @@ TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
         model().phase(),
         Phase::needs(
             u"The engine download did not match its official checksum, so it was discarded."_s));
-    EXPECT_EQ(model().progress(), std::nullopt);
-    EXPECT_EQ(model().progressText(), QString());
     EXPECT_TRUE(waitUntil([this] { return !model().installedSize().isEmpty(); }));
     EXPECT_FALSE(exists(u"Engine"_s));
     EXPECT_TRUE(exists(u"Game"_s));
     EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(SetupFailureTest, showsNoProgressOfADownloadThatFailed)
+{
+    durations.stallTimeout = 500ms;
+    startModel();
+    enterDownload(50, 200);
+    ASSERT_EQ(model().progress(), 0.25);
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::Kind::needs);
+    EXPECT_EQ(model().progress(), std::nullopt);
+    EXPECT_EQ(model().progressText(), QString());
 }
 
 TEST_F(SetupFailureTest, goesOnWhereAFailedRunStopped)
