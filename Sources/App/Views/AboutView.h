@@ -3,7 +3,7 @@
 
 #include "Controls/Sheet.h"
 
-/// The sheet that credits the game and the engine and says what leaves the machine.
+/// The sheet with the credits of the game and the engine, and what is downloaded and sent.
 class AboutView final : public Sheet
 {
     Q_OBJECT

@@ -31,8 +31,8 @@ namespace {
 
 constexpr auto padding = 20;
 
-/// A label lays out all of its text at once, and a fact comes from a file of any length. It is cut
-/// where a character ends as a reader sees it, which may be several code points.
+/// Returns `fact`, which comes from a file of any length, short enough to be laid out without
+/// blocking. Cuts between graphemes.
 QString shortened(const QString& fact)
 {
     constexpr auto maxLength = 2000;
@@ -55,8 +55,7 @@ ContentView::ContentView(AppModel& model)
     , m_panel(new PlayPanel(model))
 {
     setAccessibleRole(*this, QAccessible::Window);
-    // One sheet at a time, and none over a question: assistive technology can press the buttons of
-    // a blocked window.
+    // Opens no second sheet: assistive technology can press the buttons of a blocked window.
     auto* const settings = new BorderedButton(tr("Settings\u2026"), [this] {
         if (!QApplication::activeModalWidget())
             (new SettingsView(m_model, this))->open();
@@ -92,7 +91,7 @@ QWidget* ContentView::controlsBlock()
     //: The title above the keys and buttons that the game is played with.
     QList<StackItem> rows{new TextLabel(TextStyle::headline, tr("Controls"))};
     for (const auto& [action, input] : GameFacts::controls) {
-        // Both have the same font size, so their baselines meet when both are at the top.
+        // Both have the same font size, so aligning the tops aligns the baselines.
         auto* const left = new TextLabel([] { return textFont(TextStyle::body, QFont::Medium); },
                                          GameFacts::translated(action));
         auto* const right =
@@ -125,7 +124,7 @@ void ContentView::refreshFacts()
 void ContentView::scrollTo(QWidget* disclosed)
 {
     QTimer::singleShot(0, disclosed, [this, disclosed] {
-        // Each layout tells its parent's layout by an event, up to the column's.
+        // A layout notifies the layout above it by an event.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         ensureWidgetVisible(disclosed, 0, padding);
     });
@@ -159,7 +158,7 @@ bool ContentView::event(QEvent* event)
     if (event->type() == QEvent::ApplicationFontChange)
         fitActions();
     const auto handled = ScrollColumn::event(event);
-    // What is not visible yet has not been laid out.
+    // A hidden window is not laid out.
     if (event->type() == QEvent::Show)
         keepPlayInView();
     return handled;
@@ -167,7 +166,7 @@ bool ContentView::event(QEvent* event)
 
 void ContentView::keyPressEvent(QKeyEvent* event)
 {
-    // Keys that the control under the focus has not used.
+    // The focused control has ignored the key.
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         ScrollColumn::keyPressEvent(event);
     else if (!event->isAutoRepeat() && !(event->modifiers() & ~Qt::KeypadModifier))

@@ -7,8 +7,8 @@ class AppModel;
 class PlayPanel;
 class TextLabel;
 
-/// The root of the main window: a scrolling column with the banner, the game's description and
-/// controls, the play panel, and the buttons that open the two sheets.
+/// The main window: a scrolling column with the banner, the game's description and controls, the
+/// play panel, and the buttons that open the two sheets.
 class ContentView final : public ScrollColumn
 {
     Q_OBJECT
@@ -27,15 +27,15 @@ protected:
 
 private:
     [[nodiscard]] QWidget* controlsBlock();
-    /// Makes the column of actions wide enough for the widest word in a large font.
+    /// Makes the column of actions as wide as its widest word.
     void fitActions();
     void refreshFacts();
-    /// Scrolls just as far as makes `disclosed` visible.
+    /// Scrolls no further than needed to show `disclosed`.
     void scrollTo(QWidget* disclosed);
-    /// Sets the minimum size, or as much of it as is available. A window that has its minimum size
-    /// keeps it.
+    /// Sets the minimum size, limited to `available`. Also resizes the window if it had the former
+    /// minimum size.
     void fit(QSize available);
-    /// Scrolls just as far as brings Play into view, unless the player has scrolled.
+    /// Scrolls no further than needed to show Play, unless the player has scrolled.
     void keepPlayInView();
 
     AppModel& m_model;
@@ -43,6 +43,6 @@ private:
     TextLabel* m_credits;
     PlayPanel* m_panel;
     QList<TextLabel*> m_actions;
-    /// Where keepPlayInView() has scrolled to. Elsewhere the player has scrolled.
+    /// The scroll position set by keepPlayInView(). At any other, the player has scrolled.
     int m_startPosition = 0;
 };

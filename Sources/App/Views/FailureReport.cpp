@@ -24,7 +24,7 @@ void FailureReport::build()
     //: The button that copies the text of a failure.
     auto* const copy = new BorderedButton(tr("Copy"), [this] { m_model.copyFailure(); });
     stackVertically(*this, {.spacing = 6}, {m_box, {copy, Qt::AlignLeading}});
-    // Widgets made later come last in the tab order otherwise.
+    // By default, widgets created later come last in the tab order.
     setTabOrder(previousInFocusChain(), &m_box->edit());
     setTabOrder(&m_box->edit(), copy);
 }

@@ -21,6 +21,6 @@ private:
     void refresh();
 
     AppModel& m_model;
-    /// Null until the first report is shown: most players never see one, and it costs memory.
+    /// Null until the first report is shown, since most players never see one.
     TextBox* m_box = nullptr;
 };

@@ -16,12 +16,12 @@
 
 namespace {
 
-/// The size of the symbol at a font size of 56, and the room around it for its shadow.
+/// The size of the symbol, and the margin around it for its shadow.
 constexpr auto symbolSize = QSize(76, 56);
 constexpr auto shadowRadius = 6;
 constexpr auto shadowMargin = 2 * shadowRadius;
 
-/// Sets one colour of a text for light and dark, as the banner looks the same in both.
+/// Sets the colour of a text. It does not depend on the palette, and neither does the banner.
 void setColor(TextLabel& text, const QColor& color)
 {
     text.setWordWrap(false);
@@ -39,7 +39,7 @@ QLinearGradient background(const QRectF& rect)
     return gradient;
 }
 
-/// The six platforms, centred and standing on the bottom edge of `rect`.
+/// The six platforms, centred on the bottom edge of `rect`.
 QPainterPath silhouette(const QRectF& rect)
 {
     constexpr auto count = 6;
@@ -63,9 +63,9 @@ QPainterPath silhouette(const QRectF& rect)
 } // namespace
 
 HeaderArt::HeaderArt()
-    : m_symbolRoom(new QWidget)
+    : m_symbolSpace(new QWidget)
 {
-    m_symbolRoom->setFixedSize(symbolSize);
+    m_symbolSpace->setFixedSize(symbolSize);
     auto* const title = new TextLabel([] { return systemFont(30, QFont::Bold); },
                                       GameFacts::launcherName.toString());
     auto* const subtitle =
@@ -74,7 +74,7 @@ HeaderArt::HeaderArt()
     setColor(*subtitle, QColor::fromRgbF(1, 1, 1, 0.85F));
     auto* const texts = verticalStack({.spacing = 2}, {title, subtitle});
     auto* const foreground =
-        horizontalStack({.spacing = 14}, {m_symbolRoom, {texts, Qt::AlignCenter}});
+        horizontalStack({.spacing = 14}, {m_symbolSpace, {texts, Qt::AlignCenter}});
     stackVertically(*this, {}, {{foreground, Qt::AlignCenter}});
     setFixedHeight(150);
 }
@@ -88,7 +88,7 @@ void HeaderArt::paintEvent(QPaintEvent*)
     if (isRightToLeft())
         mirror(painter, width());
     painter.fillPath(banner, background(rect()));
-    // In a narrow banner the outer platforms reach into the rounded corners.
+    // In a narrow banner the outer platforms overlap the rounded corners.
     painter.fillPath(silhouette(rect()).intersected(banner),
                      SystemColors::withOpacity(Qt::black, 0.25));
     painter.restore();
@@ -103,12 +103,12 @@ void HeaderArt::paintSymbol(QPainter& painter)
         Glyphs::gameController(QRectF(QPointF(shadowMargin, shadowMargin), symbolSize));
     const auto scale = devicePixelRatioF();
     if (m_symbolShadow.devicePixelRatio() != scale || m_symbolShadow.isNull()) {
-        const auto room =
+        const auto size =
             symbolSize.grownBy({shadowMargin, shadowMargin, shadowMargin, shadowMargin});
-        m_symbolShadow = softShadow(glyph, room, scale, shadowRadius,
+        m_symbolShadow = softShadow(glyph, size, scale, shadowRadius,
                                     SystemColors::withOpacity(Qt::black, 0.33));
     }
-    painter.translate(m_symbolRoom->mapTo(this, QPoint(-shadowMargin, -shadowMargin)));
+    painter.translate(m_symbolSpace->mapTo(this, QPoint(-shadowMargin, -shadowMargin)));
     painter.drawImage(0, 0, m_symbolShadow);
     painter.fillPath(glyph, Qt::white);
 }

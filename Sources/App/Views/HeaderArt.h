@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// The banner: a gradient with a row of dark platforms along its bottom, and in front of them a
-/// game controller, the program's name and a subtitle.
+/// The banner: a gradient, a row of dark platforms along its bottom, and in front a game
+/// controller, the program's name and a subtitle.
 class HeaderArt final : public QWidget
 {
     Q_OBJECT
@@ -19,9 +19,9 @@ protected:
 private:
     void paintSymbol(QPainter& painter);
 
-    /// Takes the symbol's room in the layout; the banner paints it there, as its shadow reaches
-    /// beyond that room.
-    QWidget* m_symbolRoom;
-    /// Drawn once for each device pixel ratio.
+    /// Reserves the symbol's space in the layout. The banner paints the symbol, because its shadow
+    /// is larger than that space.
+    QWidget* m_symbolSpace;
+    /// Cached; depends on the device pixel ratio.
     QImage m_symbolShadow;
 };

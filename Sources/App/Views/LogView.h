@@ -7,10 +7,7 @@ class AppModel;
 class LongTextEdit;
 class QPushButton;
 
-/// The log as one selectable text, and a button that copies all of it.
-///
-/// The view starts at the top and never scrolls by itself, neither when lines are added nor when
-/// the oldest are dropped.
+/// The log as one selectable text, and a button that copies all of it. It never scrolls by itself.
 class LogView final : public QWidget
 {
     Q_OBJECT
@@ -18,7 +15,7 @@ class LogView final : public QWidget
 public:
     explicit LogView(AppModel& model);
 
-    /// Puts the log right after `widget` in the tab order.
+    /// Inserts the log after `widget` in the tab order.
     void followInTabOrder(QWidget& widget);
 
 private:

@@ -88,8 +88,8 @@ void PlayPanel::refreshStatus()
     m_dot->setStatus(statusColor(m_model), tr("Status: %1 \u2013 %2").arg(title, detail));
     m_title->setText(title);
     m_detail->setText(detail);
-    // The panel has the focus while Play is disabled, and otherwise Play has it at first. These
-    // setters notify assistive technology even of an unchanged value.
+    // The panel has the focus while Play is disabled. These setters notify assistive technology
+    // even if the value is unchanged.
     if (accessibleName() != title)
         setAccessibleName(title);
     if (accessibleDescription() != detail) {
@@ -114,8 +114,8 @@ void PlayPanel::refreshButtons()
     const auto busy = m_model.isBusy();
     const auto stop = m_model.phase() == Phase::Kind::playing;
     const auto cancel = m_model.phase().isSetup();
-    // The panel takes the focus from a button that is disabled or hidden. Qt would move it to the
-    // next one, where a second press of the space bar might cancel what the first one started.
+    // The panel takes the focus from a button that is to be disabled or hidden. Qt would move it to
+    // the next button, where a second press of the space bar could cancel what the first started.
     const auto* const focus = window()->focusWidget();
     if ((busy && focus == m_play) || (!stop && focus == m_stop) || (!cancel && focus == m_cancel))
         setFocus(Qt::OtherFocusReason);

@@ -11,11 +11,9 @@ class QPushButton;
 class StatusDot;
 class TextLabel;
 
-/// Where the player starts and follows everything: status, progress, Play with Stop and Cancel, the
-/// failure report and the log.
+/// The status, the progress, the buttons Play, Stop and Cancel, the failure report and the log.
 ///
-/// It keeps no state. After each change of the model it sets everything it shows; a setter that
-/// finds its value unchanged does nothing.
+/// It keeps no state: after each change of the model it sets all values again.
 class PlayPanel final : public RoundedBox
 {
     Q_OBJECT
@@ -27,7 +25,7 @@ public:
     [[nodiscard]] PlayButton& playButton() { return *m_play; }
 
 Q_SIGNALS:
-    /// The log is shown now. It gets its size on the next event-loop iteration.
+    /// `log` is now shown. It gets its size on the next event-loop iteration.
     void disclosed(QWidget* log);
 
 private:
@@ -49,6 +47,6 @@ private:
     QPushButton* m_cancel;
     QPushButton* m_showLog;
     QWidget* m_logBlock;
-    /// Exists only while it is shown.
+    /// Null while hidden.
     LogView* m_log = nullptr;
 };

@@ -27,7 +27,7 @@ QString title(ResolutionChoice choice, Qt::LayoutDirection direction)
         //: Among resolutions: the one that the game comes with.
         return SettingsView::tr("Game default");
     const auto size = rawValue(choice).replace(u'x', u" \u00d7 "_s);
-    // The width comes first also in a line that is read from the right.
+    // Keeps the width before the height in right-to-left text.
     return direction == Qt::RightToLeft ? u'\u200e' + size : size;
 }
 
@@ -139,7 +139,7 @@ bool SettingsView::event(QEvent* event)
 
 void SettingsView::closeAfter(void (AppModel::*action)())
 {
-    // The action asks first, and the sheet may be closed while the question stands.
+    // The action may ask a question, and the sheet may be closed meanwhile.
     const QPointer<SettingsView> sheet(this);
     (m_model.*action)();
     if (sheet)
@@ -153,13 +153,13 @@ void SettingsView::refresh()
     const auto& size = m_model.installedSize();
     const auto choice = std::ranges::find(allResolutionChoices, m_model.resolution());
 
-    // What is only shown is not the player's choice.
+    // Showing a setting must not change it.
     const QSignalBlocker windowBlocker(m_window);
     const QSignalBlocker resolutionBlocker(m_resolution);
     m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
     m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));
-    // Screen readers take the name from the label and do not find the choice. This setter notifies
-    // them even of an unchanged value.
+    // Screen readers do not find the choice by themselves. This setter notifies them even if the
+    // value is unchanged.
     if (m_resolution->accessibleDescription() != m_resolution->currentText())
         m_resolution->setAccessibleDescription(m_resolution->currentText());
     m_update->setEnabled(!busy);

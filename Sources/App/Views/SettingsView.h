@@ -12,7 +12,7 @@ class SegmentedPicker;
 class TextLabel;
 
 /// The sheet with the two display settings of the next launch and the maintenance actions. Every
-/// change is written to the model at once.
+/// change is passed to the model at once.
 class SettingsView final : public Sheet
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private:
 
     [[nodiscard]] QWidget* displayPickers();
     [[nodiscard]] QWidget* pickerRow(const QString& text, QWidget* control);
-    /// Puts the labels before the controls, or above them where there is no room for that.
+    /// Puts the labels before the controls, or above them if they do not fit side by side.
     void arrangePickers();
     void closeAfter(void (AppModel::*action)());
     void refresh();
