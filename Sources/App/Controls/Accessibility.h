@@ -3,10 +3,10 @@
 
 #include <QAccessible>
 
-/// Tells assistive technology that `widget` has `role`, where Qt gives its class another one or
-/// none. To be called in the widget's constructor.
+/// Sets the role of `widget` for assistive technology, if the default of its class does not fit.
+/// Call it in the constructor of the widget.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-/// Has assistive technology press push buttons at once. Qt animates such a press and acts 100 ms
-/// later, when the button may be gone. May be called more than once.
+/// Makes push buttons act at once when assistive technology presses them. Qt animates the press and
+/// acts 100 ms later, when the button may be deleted. May be called several times.
 void installAccessibleButtons();

@@ -70,7 +70,7 @@ void TextBox::paintEvent(QPaintEvent* event)
         ControlPainter::paintFocusRing(painter, rect(), cornerRadius,
                                        SystemColors::focusRing(colors));
     } else if (SystemColors::isDark(colors) && !SystemColors::isHighContrast(colors)) {
-        // The tint is hardly visible in dark mode, so the box gets an outline there.
+        // The tint is hardly visible in dark mode.
         ControlPainter::paintRoundedRect(
             painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
             SystemColors::withOpacity(colors.color(QPalette::WindowText), 0.08), Qt::NoBrush);

@@ -6,13 +6,13 @@
 
 class LongTextEdit;
 
-/// A panel with rounded corners behind its children.
+/// A container with a tinted background and rounded corners.
 class RoundedBox : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Returns the colour of the panel. Called for each repaint.
+    /// Returns the colour of the background. Called for each repaint.
     using Tint = QColor (*)(const QPalette& palette);
 
     RoundedBox(double radius, Tint tint);
@@ -25,16 +25,16 @@ private:
     Tint m_tint;
 };
 
-/// A tinted box with a long read-only text in a fixed-width font, which wraps and scrolls.
+/// A box with a long read-only text in a fixed-width font, which wraps and scrolls.
 class TextBox final : public RoundedBox
 {
     Q_OBJECT
 
 public:
-    /// `name` is for assistive technology. `height` is that of the text, without the box's padding.
+    /// `name` is for assistive technology. `height` is the height of the text without the padding.
     TextBox(const QString& name, int height, Tint tint);
 
-    /// Shows `text` from its beginning. Does nothing if it is shown already.
+    /// Shows `text` from its beginning. Does nothing if the text is unchanged.
     void setText(const QString& text);
     [[nodiscard]] LongTextEdit& edit() { return *m_edit; }
 

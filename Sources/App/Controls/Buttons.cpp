@@ -17,13 +17,13 @@
 
 namespace {
 
-/// Of the disclosure button: the chevron's centre; where the title begins, which is below the
-/// status title of the panel; and the room around the title for the focus ring.
+/// The disclosure button: the centre of the chevron, the start of the title, aligned with the
+/// status title above it, and the margin of the title for the focus ring.
 constexpr auto chevronCentre = 8;
 constexpr auto titleStart = 18;
 constexpr auto titleMargin = 5;
 
-/// Of the Play button: its symbol, and the room around its label.
+/// The Play button: the size of its symbol, and the padding of its label.
 constexpr auto playSymbolSize = QSizeF(16, 18);
 constexpr auto playPadding = 4;
 
@@ -39,7 +39,7 @@ public:
         const auto key = static_cast<QKeyEvent*>(event)->key();
         if (key != Qt::Key_Return && key != Qt::Key_Enter)
             return false;
-        // An ignored event goes on to the parent, and in the end to the window.
+        // An ignored event is passed to the parent, and at last to the window.
         event->ignore();
         return true;
     }
@@ -165,7 +165,7 @@ void PlayButton::paintEvent(QPaintEvent*)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Text as large and bold as this needs a darker accent colour in high contrast only.
+    // White text this large and bold is readable on blue, except in high contrast.
     const auto accent = SystemColors::isHighContrast(palette())
                             ? SystemColors::accentUnderText(palette())
                             : SystemColors::blue(palette());

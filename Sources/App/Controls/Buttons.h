@@ -5,12 +5,12 @@
 
 #include <functional>
 
-/// Makes `control` ignore Return and Enter, so that they reach the default button of its window. On
-/// some desktops they press whatever has the focus otherwise.
+/// Makes `control` ignore Return and Enter, so that they press the default button of its window. On
+/// some desktops they would press the focused control.
 void forwardReturnKey(QWidget& control);
 
-/// An ordinary push button, whose title wraps where there is no room for it on one line. The space
-/// bar presses it, Return does not; a click does not move the focus.
+/// An ordinary push button, whose title wraps if it does not fit on one line. The space bar presses
+/// it, Return does not. A click does not move the focus.
 class BorderedButton : public QPushButton
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ protected:
     void initStyleOption(QStyleOptionButton* option) const override;
 };
 
-/// A checkable title with a chevron before it, which points down while the button is checked.
+/// A checkable button without a bezel: a chevron, which points down while checked, and the title.
 class DisclosureButton final : public BorderedButton
 {
     Q_OBJECT
@@ -49,8 +49,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The Play button: large, as wide as its parent allows, with a play symbol before the title, and
-/// filled with the accent colour. It is the default button of its window.
+/// The large Play button, filled with the accent colour, with a symbol before the title. It is the
+/// default button of its window.
 class PlayButton final : public QPushButton
 {
     Q_OBJECT

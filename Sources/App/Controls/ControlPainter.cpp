@@ -16,7 +16,7 @@ namespace ControlPainter {
 
 namespace {
 
-/// `color` as it looks on a disabled, pressed or hovered control, which the `overlay` changes.
+/// Returns `color` blended with `overlay` on a pressed or hovered control, faded on a disabled one.
 QColor inState(const QColor& color, QStyle::State state, const QColor& overlay)
 {
     if (!state.testFlag(QStyle::State_Enabled))
@@ -28,10 +28,10 @@ QColor inState(const QColor& color, QStyle::State state, const QColor& overlay)
     return color;
 }
 
-/// The width that a title has in a control of `width`.
+/// The width available to a title in a control of `width`.
 int titleWidth(const QString& title, const QFont& font, int width)
 {
-    // The size hint rounds the title's width, so it gets a pixel more on each side.
+    // One pixel more on each side, because size hints are rounded.
     const auto usual = width - 2 * (horizontalPadding - 1);
     return WrappedText::widestWord(title, font) <= usual ? usual : width - 2 * minHorizontalPadding;
 }
@@ -101,7 +101,7 @@ void paintProminentBezel(QPainter& painter, const QRectF& rect, QStyle::State st
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
     const auto isEnabled = state.testFlag(QStyle::State_Enabled);
-    // Hovering darkens it in dark mode too, since its title is white.
+    // Black also in dark mode, since the title is white.
     const auto face =
         isEnabled ? inState(accent, state, Qt::black) : SystemColors::withOpacity(text, 0.12);
     paintTintedBox(painter, rect, radius, face, palette, isEnabled);

@@ -31,8 +31,7 @@ bool Dimmer::eventFilter(QObject*, QEvent* event)
         resize(parentWidget()->size());
         break;
     case QEvent::WindowActivate:
-        // On the next event-loop iteration: window managers ignore a request that is older than the
-        // activation.
+        // Not at once: window managers ignore a request that is older than the activation.
         if (isVisible()) {
             QTimer::singleShot(0, this, [] {
                 if (auto* const front = QApplication::activeModalWidget())

@@ -3,15 +3,15 @@
 
 #include <QWidget>
 
-/// Darkens a window while a sheet or an alert blocks it, so that what is in front stands out where
-/// the desktop draws neither frame nor shadow around it. If a window manager activates the blocked
-/// window, the keyboard is handed on to the one in front.
+/// Darkens a window while a sheet or an alert blocks it, since some desktops draw neither a frame
+/// nor a shadow around those. If a window manager activates the blocked window, activates the sheet
+/// or alert instead.
 class Dimmer final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Belongs to `window`.
+    /// Becomes a child of `window`.
     explicit Dimmer(QWidget& window);
 
 protected:

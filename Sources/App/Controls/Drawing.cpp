@@ -12,7 +12,7 @@
 
 namespace {
 
-/// How far along each side a continuous corner reaches, in radii.
+/// The length of a continuous corner along each side, in radii.
 constexpr auto cornerReach = 1.528665;
 
 /// Adds one corner to `path`, from the end of its horizontal side to the end of its vertical one.

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// What QPainter has no call for.
 #pragma once
 
 #include <QColor>
@@ -10,15 +9,13 @@ class QPainterPath;
 class QRectF;
 class QSize;
 
-/// Mirrors everything that `painter` draws from now on, for right-to-left layouts. `width` is that
-/// of the painted widget.
+/// Mirrors the painter's coordinates horizontally, for a right-to-left widget of `width`.
 void mirror(QPainter& painter, int width);
 
-/// A rectangle with continuous corners: their curvature grows gradually from the straight sides,
-/// which looks softer than a quarter circle of the same radius.
+/// A rectangle with continuous corners: their curvature grows gradually from the straight sides.
 [[nodiscard]] QPainterPath continuousRoundedRect(const QRectF& rect, double radius);
 
-/// The blurred silhouette of `shape` in `color` on a transparent image. `size` and `radius`, which
-/// is how far the blur reaches, are device-independent pixels; `scale` is the device pixel ratio.
+/// An image with the blurred silhouette of `shape` in `color`. `size` and the blur's `radius` are
+/// in device-independent pixels; `scale` is the device pixel ratio.
 [[nodiscard]] QImage softShadow(const QPainterPath& shape, const QSize& size, double scale,
                                 double radius, const QColor& color);

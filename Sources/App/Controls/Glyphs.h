@@ -8,8 +8,7 @@ class QRectF;
 /// The window's symbols as vector paths.
 namespace Glyphs {
 
-/// A game controller with its directional pad and buttons cut out, to be filled. As wide as `rect`
-/// and vertically centred in it.
+/// A game controller, to be filled. As wide as `rect` and vertically centred in it.
 [[nodiscard]] QPainterPath gameController(const QRectF& rect);
 
 /// A triangle with rounded corners that points to the right, to be filled.

@@ -22,14 +22,13 @@ namespace {
 constexpr auto popUpArrowsWidth = 26;
 constexpr auto animationDuration = 200;
 
-/// Whether this is the button that Return presses, which is filled with the accent colour.
 bool isDefaultButton(const QStyleOption& option)
 {
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
     return button && button->features.testFlag(QStyleOptionButton::DefaultButton);
 }
 
-/// Whether a menu row is a choice of a pop-up button rather than a command.
+/// Returns true for the menu of a combo box, whose items are choices rather than commands.
 bool isChoice(const QWidget* menu)
 {
     return qobject_cast<const QComboBox*>(menu);
@@ -81,7 +80,7 @@ void LauncherStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         }
         return;
     case PE_FrameFocusRect:
-        // A button's bezel has a ring of its own.
+        // A button's bezel includes the ring.
         if (!qstyleoption_cast<const QStyleOptionButton*>(option) &&
             !(widget && widget->inherits("QPushButton")))
             ControlPainter::paintFocusRing(*painter, option->rect, 4,

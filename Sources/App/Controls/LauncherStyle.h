@@ -3,10 +3,8 @@
 
 #include <QProxyStyle>
 
-/// The style of the stock controls: Fusion's behaviour, drawn by ControlPainter.
-///
-/// Everything is drawn from the palette that the control has at that moment. There is no style
-/// sheet: it would cost more at start-up than the whole window.
+/// The style of Qt's controls: the Fusion style, drawn by ControlPainter with the colours of the
+/// current palette. A style sheet would take longer to load than the whole window.
 class LauncherStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -14,14 +12,14 @@ class LauncherStyle final : public QProxyStyle
 public:
     LauncherStyle();
 
-    /// Without motion, whatever is animated stands still. Widgets hear of it as a change of style.
+    /// Switches animations off or on. Sends QEvent::StyleChange to all widgets if that is a change.
     void setReducesMotion(bool reduces);
 
-    /// Light or dark as the platform's own theme has it.
+    /// Light or dark like the palette of the platform's theme.
     [[nodiscard]] QPalette standardPalette() const override;
 
     using QProxyStyle::polish;
-    /// Sheets and alerts get an edge of their own: not every desktop draws one around them.
+    /// Gives dialogs an edge, since not every desktop draws one.
     void polish(QWidget* widget) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

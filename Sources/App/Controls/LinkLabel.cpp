@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A link that assistive technology can press; a label can only be read.
+/// Assistive technology can press it, unlike a label.
 class AccessibleLink final : public QAccessibleWidget
 {
 public:
@@ -50,7 +50,7 @@ LinkLabel::LinkLabel(TextStyle style, const QUrl& address)
     setTextFormat(Qt::RichText);
     showAddress();
     setAccessibleName(address.toString());
-    // With LinksAccessibleByKeyboard, Tab would stop at the label and once more at its link.
+    // With LinksAccessibleByKeyboard, Tab would stop twice, at the label and at its link.
     setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     setFocusPolicy(Qt::StrongFocus);
     setOpenExternalLinks(true);
@@ -74,7 +74,7 @@ bool LinkLabel::event(QEvent* event)
 void LinkLabel::showAddress()
 {
     const auto text = m_address.toString(QUrl::FullyEncoded).toHtmlEscaped();
-    // QLabel takes the link colour from the palette when another text is set.
+    // QLabel updates the link colour only if the text changes.
     setText({});
     setText(u"<a href=\"%1\">%1</a>"_s.arg(text));
 }

@@ -8,8 +8,8 @@
 #include <QPointer>
 #include <QUrl>
 
-/// A web address that opens in the player's browser. A click and the space bar open it; Return goes
-/// to the default button of the window.
+/// A web address. A click or the space bar opens it in the player's browser; Return presses the
+/// default button of the window.
 class LinkLabel final : public QLabel
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     void open() const;
 
-    /// The size of the address on one line: the focus ring goes around nothing else.
+    /// The size of the address on one line, so that the focus ring encloses nothing else.
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -32,6 +32,6 @@ private:
     void showAddress();
 
     QUrl m_address;
-    /// Lies around this widget, and so belongs to the parent.
+    /// A child of this label's parent, since it is larger than the label.
     QPointer<QFocusFrame> m_ring;
 };

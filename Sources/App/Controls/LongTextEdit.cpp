@@ -15,15 +15,15 @@ namespace {
 /// The limits of a slice. Each takes a few milliseconds on a slow machine.
 constexpr auto maxParagraphsPerSlice = 500;
 constexpr auto maxCharactersPerSlice = 64 * 1024;
-/// In characters. Laid out in a few milliseconds, in any script.
+/// In characters. Laid out in a few milliseconds in any script.
 constexpr auto maxParagraphLength = 4096;
-/// How far before its limit a paragraph may end so that it ends with a whole word.
+/// How much shorter a paragraph may be so that it ends with a whole word.
 constexpr auto maxWordLength = 128;
 
 /// The user state of a text block that continues the line of the block before it.
 constexpr auto continuesLine = 1;
 
-/// Replaces the characters that would end a paragraph by ones that break the line within it.
+/// Replaces paragraph separators by line separators.
 QString withoutParagraphEnds(QString line)
 {
     if (line.endsWith(u'\r'))
@@ -33,7 +33,7 @@ QString withoutParagraphEnds(QString line)
     return line;
 }
 
-/// The length of the first paragraph of `text`: whole words, or at least whole letters.
+/// Returns the length of the first paragraph of `text`. Cuts between words, else between graphemes.
 qsizetype paragraphLength(QStringView text)
 {
     if (text.size() <= maxParagraphLength)

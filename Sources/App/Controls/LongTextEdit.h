@@ -6,8 +6,8 @@
 
 /// A read-only text of any number of lines of any length, which can be selected and copied.
 ///
-/// Added lines are inserted in slices of a few milliseconds, so that the window answers meanwhile.
-/// Qt lays out a paragraph in one go, so a very long line becomes several paragraphs. They look
+/// To keep the window responsive, added lines are inserted in slices of a few milliseconds, and a
+/// very long line becomes several paragraphs, because Qt lays out a paragraph at once. They look
 /// like one wrapped line, and are copied as one.
 class LongTextEdit final : public QPlainTextEdit
 {
@@ -18,10 +18,9 @@ public:
 
     /// Adds lines at the end. The view does not scroll.
     void appendLines(const QStringList& lines);
-    /// Removes the first `count` lines. The lines in view stay where they are, unless they are
-    /// among the removed.
+    /// Removes the first `count` lines. The remaining lines in view do not move.
     void removeFirstLines(qsizetype count);
-    /// The number of lines, those not inserted yet included.
+    /// The number of lines, including those not inserted yet.
     [[nodiscard]] qsizetype lineCount() const { return m_lineCount; }
 
     /// The lines inserted so far, joined by line feeds.
@@ -44,7 +43,7 @@ private:
     qsizetype m_lineCount = 0;
     /// The number of lines that have at least one paragraph in the document.
     qsizetype m_insertedLines = 0;
-    /// What is not in the document yet.
+    /// The paragraphs still to be inserted.
     QList<Paragraph> m_pending;
     QTimer m_sliceTimer;
 };

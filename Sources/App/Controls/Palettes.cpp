@@ -44,7 +44,8 @@ QPalette makePalette(const Colors& colors)
     return palette;
 }
 
-/// A theme without a palette of its own makes Qt use the Fusion style's; ours takes its place.
+/// Sets the palette of the platform's theme. If it has none, Qt uses the Fusion style's; this sets
+/// one of ours instead.
 void applyThemePalette()
 {
     QApplication::setPalette(QPalette());

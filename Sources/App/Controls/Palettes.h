@@ -5,7 +5,7 @@
 
 #include <QPalette>
 
-/// The palettes of the launcher, for platforms that bring none of their own.
+/// The palettes of the launcher, for platforms whose theme has none.
 namespace Palettes {
 
 [[nodiscard]] QPalette light();
@@ -13,8 +13,8 @@ namespace Palettes {
 [[nodiscard]] QPalette highContrastLight();
 [[nodiscard]] QPalette highContrastDark();
 
-/// Sets the application's palette: the platform theme's own where that is as wanted, otherwise, or
-/// where the theme has none, one of ours.
+/// Sets the application's palette: the palette of the platform's theme if it is as `wanted`, else
+/// one of the above.
 void apply(const Appearance& wanted);
 
 } // namespace Palettes

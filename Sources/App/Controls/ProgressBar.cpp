@@ -17,27 +17,27 @@
 
 namespace {
 
-/// Assistive technology hears of each tenth only: it would read out every change of the value.
+/// Assistive technology reads out every change of the value.
 constexpr auto steps = 10;
-/// Fine enough for a download of gigabytes to move smoothly on any screen.
-constexpr auto finestSteps = 10'000;
-/// The length of the travelling piece, as a share of the bar.
+/// The bar is redrawn only when it has visibly changed.
+constexpr auto drawnSteps = 10'000;
+/// The length of the moving piece, as a fraction of the bar.
 constexpr auto pieceLength = 0.3;
 
 } // namespace
 
 ProgressBar::ProgressBar(const QString& name)
-    : m_travel(new QVariantAnimation(this))
+    : m_animation(new QVariantAnimation(this))
 {
     setAccessibleName(name);
     setTextVisible(false);
     setRange(0, 0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_travel->setStartValue(-pieceLength);
-    m_travel->setEndValue(1.0);
-    m_travel->setDuration(1600);
-    m_travel->setLoopCount(-1);
-    connect(m_travel, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    m_animation->setStartValue(-pieceLength);
+    m_animation->setEndValue(1.0);
+    m_animation->setDuration(1600);
+    m_animation->setLoopCount(-1);
+    connect(m_animation, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
 
 void ProgressBar::setFraction(std::optional<double> fraction)
@@ -46,7 +46,7 @@ void ProgressBar::setFraction(std::optional<double> fraction)
     if (maximum() != range)
         setRange(0, range);
     const auto filled =
-        std::round(std::clamp(fraction.value_or(0), 0.0, 1.0) * finestSteps) / finestSteps;
+        std::round(std::clamp(fraction.value_or(0), 0.0, 1.0) * drawnSteps) / drawnSteps;
     if (std::exchange(m_filled, filled) != filled)
         update();
     if (fraction)
@@ -95,7 +95,8 @@ std::pair<double, double> ProgressBar::filledPart() const
 {
     if (!isIndeterminate())
         return {0, m_filled};
-    const auto start = isAnimated() ? m_travel->currentValue().toDouble() : (1 - pieceLength) / 2;
+    const auto start =
+        isAnimated() ? m_animation->currentValue().toDouble() : (1 - pieceLength) / 2;
     return {std::max(0.0, start), std::min(1.0, start + pieceLength)};
 }
 
@@ -107,7 +108,7 @@ bool ProgressBar::isAnimated() const
 void ProgressBar::updateAnimation()
 {
     if (isIndeterminate() && isVisible() && isAnimated())
-        m_travel->start();
+        m_animation->start();
     else
-        m_travel->stop();
+        m_animation->stop();
 }

@@ -8,8 +8,8 @@
 
 class QVariantAnimation;
 
-/// A thin linear progress bar. When indeterminate, a short piece travels along it, or stands in its
-/// middle if the style has no animations. The animation runs only while the bar is visible.
+/// A thin progress bar. While indeterminate, a short piece moves along it, or stays in the middle
+/// if the style has no animations. The animation runs only while the bar is visible.
 class ProgressBar final : public QProgressBar
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ public:
     /// `name` is for assistive technology.
     explicit ProgressBar(const QString& name);
 
-    /// 0 to 1; without a value the bar is indeterminate. The value of QProgressBar, in tenths, is
-    /// for assistive technology.
+    /// 0 to 1; nothing makes the bar indeterminate. Sets QProgressBar's value, which is for
+    /// assistive technology, in tenths.
     void setFraction(std::optional<double> fraction);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -36,8 +36,8 @@ private:
     [[nodiscard]] bool isAnimated() const;
     void updateAnimation();
 
-    /// 0 to 1, unless the bar is indeterminate.
+    /// 0 to 1; unused if the bar is indeterminate.
     double m_filled = 0;
-    /// Of the start of the travelling piece.
-    QVariantAnimation* m_travel;
+    /// Moves the start of the piece.
+    QVariantAnimation* m_animation;
 };

@@ -21,7 +21,7 @@ bool ScreenFit::eventFilter(QObject*, QEvent* event)
                 Qt::UniqueConnection);
         setScreen(m_window.screen());
     } else if (event->type() == QEvent::Move) {
-        // The desktop adds its frame only after the window has been shown.
+        // The window gets its frame some time after it is shown.
         fit();
     }
     return false;
@@ -39,7 +39,7 @@ void ScreenFit::setScreen(QScreen* screen)
 
 void ScreenFit::fit()
 {
-    // A sheet that has no frame yet gets one like that of the window below it.
+    // A sheet without a frame will get one like the window below it.
     const auto* const framed = m_window.windowHandle() ? &m_window : m_window.parentWidget();
     const auto* const handle = framed ? framed->windowHandle() : nullptr;
     const auto frame = handle ? handle->frameMargins() : QMargins();

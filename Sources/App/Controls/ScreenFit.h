@@ -10,14 +10,14 @@
 
 class QWidget;
 
-/// Tells a window how large it can be on its screen, between the desktop's panels and inside its
-/// frame. Follows the window to other screens.
+/// Tells a window the size available to it: the screen without the desktop's panels and the
+/// window's frame. Follows the window to other screens.
 class ScreenFit final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to `window`. Calls `fit` with that size, now and whenever it may have changed.
+    /// Becomes a child of `window`. Calls `fit` now and whenever the size may have changed.
     ScreenFit(QWidget& window, const std::function<void(QSize)>& fit);
 
 protected:

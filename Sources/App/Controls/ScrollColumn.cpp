@@ -22,7 +22,7 @@ void ScrollColumn::setColumn(int spacing, const QMargins& padding, const QList<S
 
 int ScrollColumn::columnHeight(int width) const
 {
-    // Without the scroll bar, and so without the width that it has been given from the padding.
+    // As if there were no scroll bar.
     const auto& layout = *widget()->layout();
     const auto margins = layout.contentsMargins();
     const auto reserved = m_padding.left() + m_padding.right() - margins.left() - margins.right();
@@ -45,7 +45,7 @@ void ScrollColumn::scrollByKey(QKeyEvent& event)
 
 bool ScrollColumn::eventFilter(QObject* object, QEvent* event)
 {
-    // A scroll area keeps from its own parent that its content changes its size.
+    // A scroll area does not tell its parent layout that its content has changed.
     if (object == widget() && event->type() == QEvent::LayoutRequest)
         updateGeometry();
     return QScrollArea::eventFilter(object, event);

@@ -5,7 +5,7 @@
 
 #include <QScrollArea>
 
-/// A vertical stack that scrolls where it is higher than its room.
+/// A vertical stack that scrolls if it does not fit.
 class ScrollColumn : public QScrollArea
 {
     Q_OBJECT
@@ -13,13 +13,13 @@ class ScrollColumn : public QScrollArea
 public:
     using QScrollArea::QScrollArea;
 
-    /// The height of the whole column at a width.
+    /// The height of the whole column for a width.
     [[nodiscard]] int columnHeight(int width) const;
 
-    /// Lays out `children`, with `padding` around all of them.
+    /// Adds `children` with `padding` around all of them. Call it once.
     void setColumn(int spacing, const QMargins& padding, const QList<StackItem>& children);
 
-    /// Scrolls as a key says that no control has used. Ignores a key that does not scroll.
+    /// Scrolls if `event` is a scrolling key, and ignores it otherwise.
     void scrollByKey(QKeyEvent& event);
 
 protected:
@@ -27,8 +27,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { scrollByKey(*event); }
 
 private:
-    /// Takes the scroll bar's width from the padding, so that no text wraps differently when it
-    /// comes and goes.
+    /// Takes the width of a visible scroll bar from the padding, so that the content keeps its
+    /// width.
     void reserveScrollBarSpace();
 
     QMargins m_padding;

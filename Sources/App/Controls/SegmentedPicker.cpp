@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A radio button that looks like a raised plate while it is checked.
+/// A radio button drawn as a plate, which is filled while checked.
 class Segment final : public QRadioButton
 {
 public:

@@ -8,20 +8,19 @@
 
 class QRadioButton;
 
-/// A choice between a few values, shown side by side. Its segments are radio buttons: the arrow
-/// keys change the choice, Tab leaves the picker.
+/// A choice between a few values, shown side by side as radio buttons without indicators.
 class SegmentedPicker final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `name` is for assistive technology. The first segment is chosen.
+    /// `name` is for assistive technology. The first value is chosen.
     SegmentedPicker(const QString& name, const QStringList& titles);
 
     void setCurrent(int index);
 
 Q_SIGNALS:
-    /// Another segment has been chosen, by the player or by the program.
+    /// Another value has been chosen, by the player or by setCurrent().
     void currentChanged(int index);
 
 protected:

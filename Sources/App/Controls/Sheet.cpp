@@ -38,10 +38,10 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     m_bottomRow = horizontalStack({}, {spacer, done});
     stackVertically(*this, {.spacing = 0}, {m_content, m_bottomRow});
     new Dimmer(*this);
-    // The window's own shortcuts do not work while it is blocked.
+    // The shortcuts of the main window do not work while it is blocked.
     new QShortcut(QKeySequence::Close, this, [this] { reject(); });
     new QShortcut(QKeySequence::Quit, this, &QCoreApplication::quit);
-    // Here a key that was meant for the window changes nothing.
+    // A key that was meant for the main window then changes no setting.
     done->setFocus(Qt::OtherFocusReason);
 }
 
@@ -49,7 +49,7 @@ void Sheet::setContent(int spacing, const QList<StackItem>& children)
 {
     m_content->setColumn(spacing, {padding, padding, padding, 0}, children);
     m_bottomRow->layout()->setContentsMargins(padding, spacing, padding, padding);
-    // The edge of the sheet is drawn below them.
+    // Otherwise they would cover the edge of the sheet.
     m_content->viewport()->setAutoFillBackground(false);
     m_content->widget()->setAutoFillBackground(false);
     new ScreenFit(*this, [this](QSize available) {
@@ -60,7 +60,7 @@ void Sheet::setContent(int spacing, const QList<StackItem>& children)
 
 QSize Sheet::sizeHint() const
 {
-    // The texts wrap, so the height follows from the width.
+    // The texts wrap, so the height depends on the width.
     const auto width = minimumWidth();
     const auto height = m_content->columnHeight(width) + m_bottomRow->sizeHint().height();
     return {width, std::min(height, m_available.height())};

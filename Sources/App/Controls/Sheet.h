@@ -7,24 +7,24 @@
 
 class ScrollColumn;
 
-/// A sheet over the main window, exactly 440 wide and as high as its content. On a screen with less
-/// room the content scrolls above the Done button. That button, Return from anywhere in the sheet,
-/// Escape and the shortcut that closes a window close it.
+/// A sheet over the main window, 440 wide and as high as its content; on a small screen the content
+/// scrolls above the Done button. That button, Return, Escape and the shortcut for closing a window
+/// close it.
 class Sheet : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `parent` is the window that the sheet blocks while it is open.
+    /// `parent` is the window that an open sheet blocks.
     Sheet(const QString& title, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    /// The width of the children of a sheet.
+    /// The width of the children.
     static constexpr auto contentWidth = 400;
 
-    /// Lays out the children, and below them the row with the Done button.
+    /// Adds the children above the Done button. Call it once, in the constructor.
     void setContent(int spacing, const QList<StackItem>& children);
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -36,6 +36,6 @@ private:
 
     ScrollColumn* m_content;
     QWidget* m_bottomRow;
-    /// The room that the screen has for the sheet.
+    /// The size available on the screen.
     QSize m_available;
 };

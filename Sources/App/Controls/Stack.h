@@ -18,20 +18,20 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The space between the children of a stack, and around all of them.
+/// The space between the children of a stack, and around all of them, in pixels.
 struct StackLayout
 {
     int spacing = defaultSpacing;
     int padding = 0;
 };
 
-/// A child of a stack: a widget that fills its cell; or, with a `side`, keeps its own size there.
+/// A child of a stack. Fills its cell; with an alignment it has its size hint instead.
 struct StackItem
 {
     constexpr StackItem(QWidget* child, // NOLINT(google-explicit-constructor): plain view trees
-                        Qt::Alignment side = {})
+                        Qt::Alignment childAlignment = {})
         : widget(child)
-        , alignment(side)
+        , alignment(childAlignment)
     {
     }
 
@@ -42,12 +42,12 @@ struct StackItem
 /// A flexible space.
 inline constexpr StackItem spacer(nullptr);
 
-/// Lays out `children`, which `parent` takes over, from top to bottom. A hidden child takes no
-/// space, nor does the spacing before it.
+/// Lays out `children` in `parent`, which takes ownership, from top to bottom. A hidden child and
+/// its spacing take no space.
 void stackVertically(QWidget& parent, StackLayout layout, const QList<StackItem>& children);
 
-/// A widget that lays out `children` from top to bottom.
+/// Returns a new widget with `children` from top to bottom.
 [[nodiscard]] QWidget* verticalStack(StackLayout layout, const QList<StackItem>& children);
 
-/// A widget that lays out `children` side by side, vertically centred.
+/// Returns a new widget with `children` side by side, vertically centred by default.
 [[nodiscard]] QWidget* horizontalStack(StackLayout layout, const QList<StackItem>& children);

@@ -9,7 +9,7 @@
 StatusDot::StatusDot(Color initial)
     : m_color(initial)
 {
-    // Screen readers read this role out whenever it appears, wherever the focus is.
+    // Screen readers read out a notification that appears, wherever the focus is.
     setAccessibleRole(*this, QAccessible::Notification);
     setFixedSize(10, 10);
 }
@@ -25,7 +25,7 @@ void StatusDot::setStatus(Color status, const QString& meaning)
     setAccessibleName(meaning);
     if (!isVisible())
         return;
-    // On Linux, Qt keeps alerts from the accessibility bus; there the second event is what counts.
+    // On Linux, Qt does not send alerts over the accessibility bus, but the second event.
     for (const auto type : {QAccessible::Alert, QAccessible::ObjectShow}) {
         QAccessibleEvent event(this, type);
         QAccessible::updateAccessibility(&event);

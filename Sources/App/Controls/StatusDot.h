@@ -4,8 +4,8 @@
 #include <QColor>
 #include <QWidget>
 
-/// A small disc that shows the status as a colour. To assistive technology it is a notification
-/// that says the status in words, which is read out when they change.
+/// A small disc that shows the status as a colour. For assistive technology it is a notification
+/// with the status in words, which is read out when it changes.
 class StatusDot final : public QWidget
 {
     Q_OBJECT

@@ -8,11 +8,10 @@ namespace SystemColors {
 
 namespace {
 
-/// The minimum contrast of text of ordinary size in the accessibility guidelines, and of enhanced
-/// contrast there.
+/// The minimum contrast of text: WCAG level AA, and in high contrast level AAA.
 double minContrast(const QPalette& palette)
 {
-    // A little more than 7, since colours are rounded.
+    // Slightly above 7, since colours are rounded.
     return isHighContrast(palette) ? 7.1 : 4.5;
 }
 
@@ -29,7 +28,7 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
-/// Returns `color` mixed with just enough of `admixture` for that contrast to `other`.
+/// Returns `color` mixed with just enough of `admixture` for the `wanted` contrast to `other`.
 QColor mixed(const QColor& color, const QColor& admixture, const QColor& other, double wanted)
 {
     for (auto percent = 0; percent < 100; percent += 2) {
@@ -40,8 +39,8 @@ QColor mixed(const QColor& color, const QColor& admixture, const QColor& other, 
     return admixture;
 }
 
-/// The window's text at the lowest opacity, from `minPercent` on, that is readable on the window
-/// and on its panels.
+/// The text colour at the lowest opacity from `minPercent` that is readable on the window and on
+/// its panels.
 QColor fadedText(const QPalette& palette, int minPercent)
 {
     const auto window = palette.color(QPalette::Window);

@@ -4,14 +4,14 @@
 #include <QColor>
 #include <QPalette>
 
-/// The colours that a palette has no role for. Each follows from the palette that is passed in, so
-/// that a change between light and dark needs a repaint only.
+/// Colours without a role in QPalette. They depend only on the palette that is passed in, so a
+/// change between light and dark needs only a repaint.
 namespace SystemColors {
 
 [[nodiscard]] bool isDark(const QPalette& palette);
 
-/// Whether the palette is one for players who ask for contrast: all but black and white. Every edge
-/// is then as strong as the text, and text has a contrast of at least 7.
+/// Returns true for a palette of almost only black and white. Edges then have the colour of the
+/// text, and text has a contrast of at least 7.
 [[nodiscard]] bool isHighContrast(const QPalette& palette);
 
 [[nodiscard]] QColor blue(const QPalette& palette);
@@ -20,8 +20,7 @@ namespace SystemColors {
 [[nodiscard]] QColor red(const QPalette& palette);
 [[nodiscard]] QColor gray(const QPalette& palette);
 
-/// The window's text at an opacity of about 55 %, high enough to be readable on the window and on
-/// its panels.
+/// The text colour at an opacity of 55 % or more, readable on the window and on its panels.
 [[nodiscard]] QColor secondaryText(const QPalette& palette);
 
 [[nodiscard]] QColor disabledText(const QPalette& palette);
@@ -43,18 +42,17 @@ namespace SystemColors {
 /// `color` at `opacity`, 0 to 1.
 [[nodiscard]] QColor withOpacity(const QColor& color, double opacity);
 
-/// Returns how a translucent `color` looks on `background`.
+/// Returns the colour of a translucent `color` on `background`.
 [[nodiscard]] QColor blended(const QColor& color, const QColor& background);
 
-/// The contrast between two opaque colours, 1 to 21, as the accessibility guidelines define it.
+/// The contrast ratio of two opaque colours, 1 to 21, as WCAG defines it.
 [[nodiscard]] double contrast(const QColor& one, const QColor& other);
 
-/// `color`, mixed with as little of the palette's text colour as makes it readable on `background`.
+/// Returns `color` mixed with just enough of the text colour to be readable on `background`.
 [[nodiscard]] QColor readable(const QColor& color, const QColor& background,
                               const QPalette& palette);
 
-/// The accent colour below white text of ordinary size: blue, darkened as little as makes that text
-/// readable.
+/// The accent colour behind white text: blue, darkened just enough to make the text readable.
 [[nodiscard]] QColor accentUnderText(const QPalette& palette);
 
 } // namespace SystemColors

@@ -40,7 +40,7 @@ QSize TextLabel::sizeHint() const
 
 QSize TextLabel::minimumSizeHint() const
 {
-    // Only the width matters: the height follows from the width that the layout assigns.
+    // Only the width matters: the layout asks heightForWidth() for the height.
     constexpr auto minWrappedWidth = 80;
     const auto size = sizes().oneLine;
     return {wordWrap() ? std::min(size.width(), minWrappedWidth) : size.width(), size.height()};
@@ -59,7 +59,7 @@ int TextLabel::heightForWidth(int width) const
 
 void TextLabel::paintEvent(QPaintEvent*)
 {
-    // Not QLabel's, which aligns a text by its own direction rather than by the window's.
+    // QLabel would align the text by its own direction instead of the window's.
     QPainter painter(this);
     painter.setPen(foregroundRole() == QPalette::PlaceholderText
                        ? SystemColors::secondaryText(palette())

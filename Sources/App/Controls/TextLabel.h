@@ -11,10 +11,7 @@
 /// The two strengths of the window's text.
 enum class TextTone { primary, secondary };
 
-/// A text in one of the window's styles, which wraps to as many lines as it needs; inside a word
-/// only if that is wider than the label.
-///
-/// Plain text only: nothing that a repository or a server says is taken for markup. It follows the
+/// A plain text that wraps, inside a word only if the word is wider than the label. Follows the
 /// application's font and palette.
 class TextLabel final : public QLabel
 {
@@ -36,8 +33,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// The sizes of `text` in `font`. Kept because layouts ask for them again and again: without
-    /// this, the window takes half as long again to be laid out.
+    /// The sizes of `text` in `font`. Without this cache, the layout of the window takes half as
+    /// long again.
     struct Sizes
     {
         QString text;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The size of `style` in points where body has 13.
+/// The size of `style` in points if body has 13.
 double pointsAtBody13(TextStyle style)
 {
     switch (style) {
@@ -28,7 +28,7 @@ double pointsAtBody13(TextStyle style)
     Q_UNREACHABLE();
 }
 
-/// Scales the size that the application's font has, in points or in pixels.
+/// Sets the size of `font`, in the unit that the application's font has.
 void setSize(QFont& font, TextStyle style)
 {
     const auto body = QGuiApplication::font();

@@ -13,7 +13,7 @@ namespace WrappedText {
 
 namespace {
 
-/// Returns `text` with the character that ends a line in a QTextLayout for each newline.
+/// Replaces each newline by the line separator of QTextLayout.
 QString separated(QString text)
 {
     return text.replace(u'\n', QChar::LineSeparator);
@@ -68,7 +68,7 @@ void paint(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
 {
     auto option = wrapping(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setAlignment(QStyle::visualAlignment(direction, alignment));
-    // A sentence without such letters ends on the right, also in a window that is read from there.
+    // Otherwise the full stop of an English sentence would be on the left.
     const auto isMirrored = std::any_of(text.begin(), text.end(), isReadFromTheRight);
     option.setTextDirection(isMirrored ? direction : Qt::LeftToRight);
     QTextLayout layout(separated(text), painter.font());

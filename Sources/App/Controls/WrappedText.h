@@ -8,17 +8,17 @@ class QPainter;
 class QRect;
 class QString;
 
-/// Plain text that wraps between words, and inside a word only where that is wider than the line.
+/// Plain text that wraps between words, and inside a word only if it is wider than the line.
 namespace WrappedText {
 
-/// The height of `text` in lines of `width`.
+/// Returns the height of `text` wrapped to `width`.
 [[nodiscard]] int height(const QString& text, const QFont& font, int width);
 
-/// The width of the widest word of `text`.
+/// Returns the width of the widest word of `text`.
 [[nodiscard]] int widestWord(const QString& text, const QFont& font);
 
-/// Draws `text` with the painter's font and pen. A leading alignment follows `direction`, and
-/// so does the order of the words if some are written from the right.
+/// Draws `text` with the painter's font and pen. `direction` decides what a leading alignment
+/// means, and the order of the words if some are right-to-left.
 void paint(QPainter& painter, const QRect& rect, Qt::Alignment alignment,
            Qt::LayoutDirection direction, const QString& text);
 
