@@ -17,15 +17,15 @@ AppDelegate::AppDelegate(AppModel& model, QWidget& window)
 {
     qApp->installEventFilter(this);
     connect(&m_model, &AppModel::flowEnded, this, &AppDelegate::quitWhenIdle);
-    // The session ends, unless another program prevents it. The quit event that follows then asks
-    // no question. The signal wants a direct connection.
+    // The desktop ends the session; a quit event follows, which then asks no question. The signal
+    // requires a direct connection.
     connect(
         qApp, &QGuiApplication::commitDataRequest, this, [this] { m_sessionEnds = true; },
         Qt::DirectConnection);
 
     auto* const quit = new QAction(&m_window);
     quit->setShortcuts({QKeySequence::Quit, QKeySequence::Close});
-    quit->setAutoRepeat(false); // A key that is held since it has closed a sheet.
+    quit->setAutoRepeat(false); // The key may still be held after closing a sheet.
     connect(quit, &QAction::triggered, &m_window, &QWidget::close);
     m_window.addAction(quit);
 }
@@ -39,12 +39,12 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldTerminate()
 {
-    // A second request while the player is asked, or while the program quits, changes nothing.
+    // A second request has no effect.
     if (m_asking || m_quitting)
         return m_quitting;
     {
         const QScopedValueRollback asking(m_asking, true);
-        // The system may have ended the program, and with it the question.
+        // terminate() may have been called during the question.
         if (!m_model.confirmQuit() || m_quitting)
             return m_quitting;
     }
@@ -64,7 +64,7 @@ void AppDelegate::beginToQuit()
 {
     m_quitting = true;
     Q_EMIT terminating();
-    // An open question counts as declined once it is hidden.
+    // Hiding an open question declines it.
     const auto windows = QApplication::topLevelWidgets();
     for (auto* const window : windows)
         window->hide();
@@ -75,8 +75,8 @@ void AppDelegate::activate(const QByteArray& activationToken)
 {
     if (m_quitting)
         return;
-    // Qt reads the token from the environment, on Wayland only. It is removed at once, so that no
-    // child inherits it; elsewhere the environment, which other threads read, stays untouched.
+    // Qt reads the token from the environment, on Wayland only. It is removed at once so that no
+    // child process inherits it. Not set elsewhere, because other threads read the environment.
     constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
     const auto setsToken =
         !activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1);

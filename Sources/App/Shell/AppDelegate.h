@@ -6,10 +6,8 @@
 class AppModel;
 class QWidget;
 
-/// Brings the window to the front when the program has started, and decides when the program ends.
-///
-/// It ends when its window is closed, after a question if the game runs, or when the system tells
-/// it to; in each case only after everything that the model has started has ended.
+/// Shows the window, and ends the program: when the window is closed, after a question if the game
+/// runs, or when the system ends the session. It exits only after the model's flow has ended.
 class AppDelegate final : public QObject
 {
     Q_OBJECT
@@ -18,16 +16,16 @@ public:
     /// Both must outlive the delegate.
     AppDelegate(AppModel& model, QWidget& window);
 
-    /// Shows the window in front.
+    /// Shows the window and brings it to the front.
     void applicationDidFinishLaunching();
-    /// Asks the model whether the program may quit, and if so begins to. Returns false when the
-    /// player declined; the window then stays.
+    /// Asks the model whether the program may quit, and begins to quit if so. Returns false if the
+    /// player declined.
     bool applicationShouldTerminate();
-    /// Begins to quit without a question, because the system ends the program.
+    /// Begins to quit without a question.
     void terminate();
     /// Brings the window to the front because the program was started again. A Wayland desktop
-    /// allows that only with the `activationToken` of that start; others may just mark the window
-    /// as wanting attention.
+    /// requires the `activationToken` of that start; other desktops may only highlight the window
+    /// in the task bar.
     void activate(const QByteArray& activationToken);
 
 Q_SIGNALS:

@@ -36,13 +36,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Sets what has to be known before the application is constructed.
+/// Sets what must be set before the application is constructed.
 void prepare()
 {
     QCoreApplication::setApplicationName(GameFacts::launcherName.toString());
     QCoreApplication::setApplicationVersion(QString::fromUtf8(CAVERNYX_VERSION));
     QGuiApplication::setDesktopFileName(GameFacts::applicationId.toString());
-    // Fractional scales are not rounded, so that sizes stay exact.
+    // Does not round fractional scale factors.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication::setStyle(new LauncherStyle);
@@ -51,7 +51,7 @@ void prepare()
 std::mutex messagesMutex;
 QStringList startMessages;
 
-/// Turns Qt's fatal error for a display that cannot be opened into one sentence and exit status 1.
+/// Turns Qt's fatal error "no display" into one sentence and exit status 1.
 void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     const std::lock_guard guard(messagesMutex);
@@ -63,7 +63,7 @@ void handleStartMessage(QtMsgType type, const QMessageLogContext&, const QString
     std::_Exit(EXIT_FAILURE);
 }
 
-/// Qt's messages meanwhile are printed afterwards, since they may belong to the fatal error.
+/// Prints Qt's messages afterwards, since they may belong to the fatal error.
 QApplication makeApplication(int& argumentCount, char** arguments)
 {
     qInstallMessageHandler(handleStartMessage);
@@ -73,18 +73,17 @@ QApplication makeApplication(int& argumentCount, char** arguments)
             std::fprintf(stderr, "%s\n", qPrintable(message));
     });
     prepare();
-    const FontConfiguration fonts; // Read while Qt connects to the display.
+    const FontConfiguration fonts; // Loads while Qt connects to the display.
     return QApplication(argumentCount, arguments);
 }
 
-/// Makes every window look as the player wants it.
 void setAppearance(const Appearance& appearance)
 {
     Palettes::apply(appearance);
     static_cast<LauncherStyle*>(QApplication::style())->setReducesMotion(appearance.reducedMotion);
 }
 
-/// The icon in the sizes that the window and its alerts show. The desktop uses the installed ones.
+/// The icon in the sizes of the window's frame and its alerts. The desktop uses the installed ones.
 QIcon programIcon()
 {
     QIcon icon;
@@ -97,25 +96,25 @@ QIcon programIcon()
     return icon;
 }
 
-/// To be read before the application is constructed, which unsets these variables.
+/// Call it before the application is constructed, which unsets these variables.
 QByteArray activationToken()
 {
     const auto token = qgetenv("XDG_ACTIVATION_TOKEN");
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
-/// Never destroyed: if the program ends without releasing the lock, its process keeps it until
-/// everything that works on the files is gone.
+/// Never destroyed: if the program ends without releasing the lock, the process holds it until its
+/// last thread has ended.
 InstallationLock& installationLock()
 {
     static auto& lock = *new InstallationLock(Paths::lockFile());
     return lock;
 }
 
-/// Lets the next start go on while this process is still ending.
+/// Allows another launcher to start while this process is still ending.
 void releaseLock()
 {
-    // All children have ended. What else changes the installation runs on this pool.
+    // Whatever else changes the installation runs on this pool; all child processes have ended.
     workerPool().waitForDone();
     installationLock().release();
 }
@@ -131,7 +130,7 @@ QString translationsFolder()
 AppModel& AppModel::shared()
 {
     static WidgetDesktop desktop;
-    // Never destroyed: it serves until the process ends.
+    // Never destroyed: it is used until the process ends.
     static auto& model = *new AppModel(desktop, installationLock());
     return model;
 }
@@ -142,7 +141,7 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
     , m_application(makeApplication(m_argumentCount, m_arguments))
     , m_translation(translationsFolder(), QLocale().uiLanguages())
 {
-    // A blinking cursor in the read-only texts would wake the processor for nothing.
+    // A blinking cursor in a read-only text would wake the processor.
     QApplication::setCursorFlashTime(0);
     // The delegate decides when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -152,7 +151,7 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
 int CavernyxPlatformerApp::run()
 {
     try {
-        // The lock creates the folder that the server's name is derived from.
+        // First, because it creates the folder that serverName() resolves.
         auto& lock = installationLock();
         SingleInstance instance(lock, SingleInstance::serverName(Paths::lockFile()));
         return run(instance);
@@ -182,7 +181,7 @@ int CavernyxPlatformerApp::run(SingleInstance& instance)
 
 SingleInstance::Start CavernyxPlatformerApp::start(SingleInstance& instance)
 {
-    // Usually the other launcher comes to the front sooner.
+    // The other launcher usually answers sooner.
     constexpr auto maxSilence = 300ms;
     std::unique_ptr<QMessageBox> message;
     QTimer timer;

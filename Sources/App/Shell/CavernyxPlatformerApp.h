@@ -6,20 +6,20 @@
 
 #include <QApplication>
 
-/// The application: one model, one window, one delegate and the event loop. It reads no command
-/// line, so Qt's options have no effect.
+/// The application: the model, the window, the delegate and the event loop. Ignores the command
+/// line, Qt's options included.
 class CavernyxPlatformerApp final
 {
     Q_DECLARE_TR_FUNCTIONS(CavernyxPlatformerApp)
 
 public:
-    /// `programName` must outlive the application. Ends the program with one sentence and status 1
-    /// if no display can be opened.
+    /// `programName` must outlive the application. If no display can be opened, prints a sentence
+    /// and exits with status 1.
     explicit CavernyxPlatformerApp(char* programName);
 
-    /// Runs until the player quits and returns the exit status. If another launcher serves the same
-    /// installation, brings that to the front instead and returns at once. Ends with one sentence
-    /// and status 1 if no folder is known for the installation.
+    /// Runs until the player quits. Returns the exit status. If another launcher uses the same
+    /// installation, brings that to the front instead. Shows a warning and returns 1 if that does
+    /// not answer, or if no folder is known for the installation.
     int run();
 
 private:
@@ -30,7 +30,7 @@ private:
 
     int m_argumentCount = 1;
     char* m_arguments[2];
-    /// The desktop's permission for a window of this start to come to the front.
+    /// Allows the window to come to the front on a Wayland desktop.
     QByteArray m_activationToken;
     QApplication m_application;
     Translation m_translation;

@@ -33,16 +33,16 @@ void SetupMonitor::update()
         m_sleepInhibition.reset();
     m_taskBarProgress.update(m_model, !m_isInFront);
     if (wasSetup && !m_isSetup && !m_isInFront)
-        tellEnd();
+        notifyEnd();
 }
 
-void SetupMonitor::tellEnd()
+void SetupMonitor::notifyEnd()
 {
     if (m_model.phase() == Phase::Kind::playing)
         notify(tr("The game is ready and starting."));
     else if (m_model.phase() == Phase::Kind::needs)
         notify(m_model.phase().message());
-    // Otherwise the player has cancelled it.
+    // Otherwise the player has cancelled the setup.
 }
 
 void SetupMonitor::notify(const QString& sentence)

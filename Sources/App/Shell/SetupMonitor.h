@@ -12,31 +12,29 @@
 class AppModel;
 class QWidget;
 
-/// Looks after a setup that the player does not watch: keeps the computer awake, and while the
-/// window is not in front shows the progress on the task bar and tells how the setup has ended.
-///
-/// It asks nothing of the desktop before the first setup.
+/// Keeps the computer awake during a setup. While the window is not in front, also shows the
+/// progress on the task bar, and a notification when the setup has ended.
 class SetupMonitor final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Both must outlive the monitor, which begins before the window is shown.
+    /// Both must outlive the monitor. Construct it before the window is shown.
     SetupMonitor(const AppModel& model, QWidget& window);
 
 Q_SIGNALS:
-    /// The player has clicked on the notification. The window is to come to the front, which a
-    /// Wayland desktop allows with the token.
+    /// The player has clicked the notification, which should bring the window to the front. A
+    /// Wayland desktop requires the token for that.
     void activated(const QByteArray& activationToken);
 
 private:
     void update();
-    void tellEnd();
+    void notifyEnd();
     void notify(const QString& sentence);
 
     const AppModel& m_model;
     QWidget& m_window;
-    /// Also while a sheet or an alert of the window is.
+    /// Also true if a sheet or an alert is in front.
     bool m_isInFront = false;
     bool m_isFlowRunning = false;
     bool m_isSetup = false;

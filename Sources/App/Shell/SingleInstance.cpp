@@ -27,7 +27,7 @@ constexpr auto answerTimeout = 2s;
 constexpr auto retryInterval = 50ms;
 constexpr qsizetype maxTokenLength = 4096;
 
-/// Runs the event loop until it quits, at most for `time`.
+/// Runs `loop` until it quits, at most for `time`.
 void runFor(QEventLoop& loop, milliseconds time)
 {
     QTimer::singleShot(time, &loop, &QEventLoop::quit);
@@ -46,7 +46,7 @@ SingleInstance::~SingleInstance() = default;
 
 QByteArray SingleInstance::serverName(const QString& lockFile)
 {
-    // Several paths may lead to the one lock file.
+    // Several paths may name the same lock file.
     const QFileInfo file(lockFile);
     const auto folder = QFileInfo(file.path()).canonicalFilePath();
     const auto path = folder.isEmpty() ? lockFile : folder + u'/' + file.fileName();
@@ -79,13 +79,13 @@ bool SingleInstance::becomeFirst()
         connect(m_calls.get(), &QSocketNotifier::activated, this, &SingleInstance::acceptCallers);
         return true;
     }
-    // Another launcher may hold no lock, because it cannot or because somebody removed the file. It
-    // takes the lock again when it needs it.
+    // A running launcher holds no lock if the file could not be created or was removed. It acquires
+    // the lock again when it needs it.
     if (LocalSocket::connect(m_serverName).isOpen()) {
         m_lock.release();
         return false;
     }
-    // A later launcher gets no answer and says so.
+    // Nothing listens. This one runs without a socket; a later one will get no answer.
     return true;
 }
 
@@ -107,7 +107,7 @@ void SingleInstance::stopListening()
 {
     m_calls.reset();
     m_listener.close();
-    // Callers that are connected already get no answer either.
+    // Connected callers get no answer either.
     m_callers.clear();
 }
 
@@ -136,7 +136,7 @@ void SingleInstance::serve(std::list<Caller>::iterator caller)
     if (lineFeed >= 0)
         LocalSocket::send(caller->socket, "\n");
     caller->notifier->setEnabled(false);
-    caller->notifier.release()->deleteLater(); // It is calling this function.
+    caller->notifier.release()->deleteLater(); // Its signal calls this function.
     m_callers.erase(caller);
     if (lineFeed >= 0)
         Q_EMIT activated(token);

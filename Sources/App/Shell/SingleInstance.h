@@ -15,19 +15,18 @@ class QDeadlineTimer;
 class QSocketNotifier;
 class InstallationLock;
 
-/// Makes sure that one launcher at a time serves an installation. The first one holds the
-/// installation's lock and listens on a local socket; a later one asks it there to come to the
-/// front, and ends.
+/// Allows only one launcher per installation. The first one holds the installation's lock and
+/// listens on a local socket; a later one asks it over the socket to come to the front, and ends.
 ///
-/// The lock decides which one is first: of two that start at the same time one is, and a killed
-/// launcher does not block the next one. Where there is no lock, who listens is first.
+/// The lock decides which launcher is first, so two that start at the same time do not both become
+/// first, and a killed one does not block the next. If there is no lock, the socket decides.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Start {
-        /// This is the launcher.
+        /// This launcher is the first.
         first,
         /// Another launcher has come to the front instead.
         handedOver,
@@ -39,21 +38,22 @@ public:
     SingleInstance(InstallationLock& lock, QByteArray serverName);
     ~SingleInstance() override;
 
-    /// Returns the socket's name for one user and one lock file. It is the same whatever
-    /// symbolic links lead to the file's folder, which must exist.
+    /// Returns the socket's name for this user and the lock file. Resolves symbolic links of the
+    /// file's folder, which must exist.
     static QByteArray serverName(const QString& lockFile);
 
-    /// Becomes the first launcher, or hands `activationToken` over to it, the desktop's permission
-    /// to come to the front. Waits up to `timeout` for a launcher that is about to end, and then
-    /// takes its place. Meanwhile the event loop runs.
+    /// Becomes the first launcher, or sends `activationToken` to the first one, which needs it to
+    /// come to the front. If the first one is ending, waits up to `timeout` to become the first.
+    /// Runs the event loop meanwhile.
     Start start(const QByteArray& activationToken,
                 std::chrono::milliseconds timeout = std::chrono::seconds{4});
 
-    /// Makes later launchers wait for the end of this one instead of handing over to it.
+    /// From now on, later launchers wait for the end of this one.
     void stopListening();
 
 Q_SIGNALS:
-    /// The program was started again and wants its window in front. The token may be empty.
+    /// The program was started again, which should bring the window to the front. The token may be
+    /// empty.
     void activated(const QByteArray& activationToken);
 
 private:
@@ -61,7 +61,7 @@ private:
     bool handOver(const QByteArray& activationToken, const QDeadlineTimer& deadline);
     void acceptCallers();
 
-    /// A later launcher that is connected.
+    /// A connected later launcher.
     struct Caller
     {
         FileDescriptor socket;

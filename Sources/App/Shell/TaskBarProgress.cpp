@@ -10,9 +10,9 @@
 
 namespace {
 
-/// The game's download, the engine's, and the import, of which it is not known how far it is.
+/// The download of the game, that of the engine, and the import, whose progress is unknown.
 constexpr int steps = 3;
-/// For the sake of the desktop, which draws each of them.
+/// The desktop redraws the task bar for each update.
 constexpr int minMillisecondsBetweenUpdates = 100;
 
 } // namespace
@@ -35,9 +35,9 @@ void TaskBarProgress::advance(const AppModel& model)
 {
     if (const auto before = std::exchange(m_step, model.stepText()); before != m_step) {
         m_stepsDone += before.isEmpty() ? 0 : 1;
-        m_sinceShown.invalidate(); // No other change may follow for long.
+        m_sinceShown.invalidate(); // Shown at once: the next change may be a long time away.
     }
-    // Also where a download was skipped.
+    // Also if a download was skipped.
     if (model.phase() == Phase::Kind::settingUp)
         m_stepsDone = steps - 1;
     const auto percent = (m_stepsDone + model.progress().value_or(0)) * 100 / steps;

@@ -6,12 +6,12 @@
 
 class AppModel;
 
-/// How far a setup as a whole is, on the task bar. It never goes back.
+/// Shows the progress of a whole setup on the task bar. The value never decreases.
 class TaskBarProgress final
 {
 public:
-    /// To be called after each change of the model. Shows the progress while a setup runs and
-    /// `isWanted`, and takes it away otherwise.
+    /// Call it after each change of the model. Shows the progress if a setup runs and `isWanted`,
+    /// and hides it otherwise.
     void update(const AppModel& model, bool isWanted);
 
 private:

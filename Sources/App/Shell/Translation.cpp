@@ -15,9 +15,8 @@ Translation::Translation(const QString& folder, const QStringList& preferredLang
         const QLocale locale(language);
         if (locale.language() == QLocale::English)
             return;
-        // Where the player's country has no file, that of the country in which most speak the
-        // language and write its script: Brazil's for Portugal, but not mainland China's for
-        // Taiwan.
+        // Without a file for the player's country, takes that of the language's principal country
+        // with the same script: Brazil's for Portugal, but not mainland China's for Taiwan.
         const QLocale principal(locale.language(), locale.script(), QLocale::AnyTerritory);
         for (const auto& name : {locale.name(), principal.name()}) {
             if (m_texts.load(u"%1_%2"_s.arg(GameFacts::programName, name), folder)) {
@@ -34,6 +33,6 @@ void Translation::install()
     QCoreApplication::installTranslator(&m_texts);
     if (m_qtTexts.load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qtTexts);
-    // Not left to Qt's own texts, which may be missing and whose direction is not always right.
+    // Qt takes the direction from its own texts, which may be missing or wrong.
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }

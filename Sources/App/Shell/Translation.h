@@ -5,13 +5,12 @@
 #include <QStringList>
 #include <QTranslator>
 
-/// The language of the window's texts, and the direction in which it is read, while this lives.
+/// The language of the texts and the direction of the layout. Installed while the object exists.
 class Translation final
 {
 public:
-    /// Takes the first of the languages, given as by QLocale::uiLanguages(), that `folder` has a
-    /// file for. English, in which the texts are written, needs none, and is also the language
-    /// where no other is found.
+    /// Installs the first of the languages, in the format of QLocale::uiLanguages(), that has a
+    /// file in `folder`. English needs no file, and is the default.
     Translation(const QString& folder, const QStringList& preferredLanguages);
 
 private:

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The window in front: a sheet if one is open, else the main window.
+/// Returns an open sheet, else the main window.
 QWidget* frontWindow()
 {
     if (auto* const modal = QApplication::activeModalWidget())
@@ -39,8 +39,8 @@ QWidget* mainWindow(QWidget* window)
     return window;
 }
 
-/// An alert over the window in front. Its parent is the main window, so that it survives a sheet
-/// that is closed behind it: assistive technology can press the buttons of a blocked window.
+/// An alert over the window in front. Its parent is the main window, because a sheet below it may
+/// be closed: assistive technology can press the buttons of a blocked window.
 class Alert final : public QMessageBox
 {
 public:
@@ -53,15 +53,15 @@ public:
         setTextFormat(Qt::PlainText);
         setText(title);
         setInformativeText(message);
-        // QMessageBox gives access to its labels by these object names only.
+        // QMessageBox has no other access to its labels.
         if (auto* const label = findChild<QLabel*>(u"qt_msgbox_label"_s))
             label->setFont(textFont(TextStyle::headline));
         if (auto* const label = findChild<QLabel*>(u"qt_msgbox_informativelabel"_s))
             label->setMinimumWidth(300);
-        // Setting the texts has created a new layout.
+        // Not earlier: setText() creates a new layout.
         layout()->setContentsMargins(20, 20, 20, 20);
         if (front) {
-            winId(); // Creates the window that the desktop is to keep in front.
+            winId(); // Creates windowHandle().
             windowHandle()->setTransientParent(front->windowHandle());
         }
     }

@@ -5,8 +5,8 @@
 
 #include <QCoreApplication>
 
-/// The player's desktop: alerts over the window, the clipboard and the file browser. If there is no
-/// file browser, an alert names the folder.
+/// The player's desktop: alerts, the clipboard and the file browser. If there is no file browser,
+/// an alert names the folder.
 class WidgetDesktop final : public Desktop
 {
     Q_DECLARE_TR_FUNCTIONS(WidgetDesktop)
@@ -15,6 +15,6 @@ public:
     bool confirm(const QString& title, const QString& message, const QString& button) override;
     void copyText(const QString& text) override;
     void openFolder(const QString& path) override;
-    /// Opens the parent folder if the file browser cannot show the folder selected.
+    /// Opens the parent folder if no file browser can select the folder.
     void revealFolder(const QString& path) override;
 };
