@@ -26,11 +26,11 @@ using Clock = std::chrono::steady_clock;
 namespace {
 
 constexpr int maxRedirects = 10;
-/// What a server may send along with a redirect.
+/// The maximum size in bytes of the body of a redirect.
 constexpr qint64 maxRedirectBody = 65'536;
-/// Fewer calls for the same bytes than with the library's own 16 KiB.
+/// In bytes. Takes fewer system calls than libcurl's default of 16 KiB.
 constexpr long bufferSize = 262'144;
-/// How long a request for the stop may go unnoticed if the wake-up call is lost.
+/// How late a stop request is noticed if curl_multi_wakeup() fails.
 constexpr milliseconds pollInterval{1000};
 
 template<auto function>
@@ -56,7 +56,8 @@ bool isHostOrBelow(QStringView host, QStringView domain)
     return host == domain || host.endsWith(u'.' + domain.toString());
 }
 
-/// The player was promised that nothing but GitHub is contacted.
+/// Throws PlatformError if a redirect of `download` to `next` must not be followed: the player was
+/// promised that only GitHub is contacted.
 void checkRedirect(const QUrl& download, const QUrl& next)
 {
     const auto host = next.host();
@@ -80,7 +81,7 @@ QByteArray userAgent()
         .toUtf8();
 }
 
-/// One request, without what it may be redirected to.
+/// One request, without redirects.
 class Request final
 {
 public:
@@ -93,8 +94,7 @@ public:
         , m_stop(stop)
         , m_proxy(ProxySettings::proxyFor(url, stop))
     {
-        // The bytes as they are: a compressed body would be unpacked on the way, so that neither
-        // its length nor an early end of it could be told. And no header without a use.
+        // A compressed body has another length than the file. "Accept:" removes that header.
         m_headers.reset(curl_slist_append(nullptr, "Accept-Encoding: identity"));
         curl_slist_append(m_headers.get(), "Accept:");
         set(CURLOPT_HTTPHEADER, m_headers.get());
@@ -108,7 +108,7 @@ public:
         const auto trusted = certificateFile(info<char*>(CURLINFO_CAINFO));
         set(CURLOPT_CAINFO, trusted.isEmpty() ? nullptr : trusted.constData());
         set(CURLOPT_NOSIGNAL, 1L);
-        // A lookup of a host's name that does not end is left behind.
+        // Does not wait for the thread of a DNS lookup.
         set(CURLOPT_QUICK_EXIT, 1L);
         set(CURLOPT_BUFFERSIZE, bufferSize);
         set(CURLOPT_HEADERFUNCTION, &Request::readHeaderLine);
@@ -117,7 +117,7 @@ public:
         set(CURLOPT_WRITEDATA, this);
     }
 
-    /// Returns the address that the server redirects to, or nothing after the final answer.
+    /// Returns the target of a redirect; nothing after the final response.
     std::optional<QUrl> perform()
     {
         const Multi multi(curl_multi_init());
@@ -170,7 +170,7 @@ private:
         return message ? message->data.result : CURLE_FAILED_INIT;
     }
 
-    /// The library calls this with each line of a head; an empty one ends it.
+    /// A callback of libcurl, called with each header line; an empty one ends the headers.
     static std::size_t readHeaderLine(const char* line, std::size_t, std::size_t size,
                                       void* request)
     {
@@ -179,7 +179,7 @@ private:
             QByteArrayView(line, static_cast<qsizetype>(size)).trimmed().isEmpty();
         const auto status = self.status();
         return self.attempt([&] {
-            // What begins with 1 announces the answer, and is none.
+            // A status below 200 is informational.
             if (endsHead && status >= 200 && !isRedirectStatus(status))
                 self.begin();
             return true;
@@ -188,7 +188,7 @@ private:
                    : 0;
     }
 
-    /// The library calls this with each piece of a body.
+    /// A callback of libcurl, called with each piece of a body.
     static std::size_t write(const char* bytes, std::size_t, std::size_t size, void* request)
     {
         auto& self = *static_cast<Request*>(request);
@@ -197,7 +197,7 @@ private:
                    : CURL_WRITEFUNC_ERROR;
     }
 
-    /// Runs `step`, from which no exception may reach the library. Returns whether to go on.
+    /// Returns the result of `step`, or keeps its exception and returns false: libcurl is C.
     template<typename Step>
     bool attempt(Step step)
     {
@@ -228,7 +228,7 @@ private:
                          info<curl_off_t>(CURLINFO_CONTENT_LENGTH_DOWNLOAD_T));
     }
 
-    // Before the body has begun, the time counts from the request, whatever drips in.
+    // Before the body, only the start of the request counts, not what headers arrive.
     void throwIfStalled() const
     {
         if (Clock::now() - m_lastByte >= m_stallTimeout)

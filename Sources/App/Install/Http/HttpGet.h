@@ -8,25 +8,24 @@
 #include <functional>
 #include <stop_token>
 
-/// Takes what an HTTP GET brings, on the thread that runs it. What either function throws ends the
-/// transfer and is thrown by it.
+/// Receives the response of httpGet(), on its thread. An exception ends the transfer; httpGet()
+/// rethrows it.
 struct HttpReceiver
 {
-    /// The final answer has come; `length` is the announced size of its body in bytes, or -1.
-    /// Called once, before the body.
+    /// Called once, before the body of the final response. `length` is the announced size of the
+    /// body in bytes, or -1.
     std::function<void(int status, qint64 length)> begin;
-    /// The next piece of the body, valid during the call only.
+    /// Called with each piece of the body, which is valid only during the call.
     std::function<void(QByteArrayView piece)> take;
 };
 
-/// GETs `url` and hands the final answer to `receiver`. Blocks until all of it has come.
+/// Requests `url` and passes the final response to `receiver`, whatever its status. Blocks.
 ///
-/// Redirects are followed, at most ten, to https on GitHub's hosts and to the host of `url` only.
-/// The body comes as the server sent it, in pieces, and is never held in memory as a whole. Nothing
-/// is cached or remembered.
+/// Follows at most ten redirects, only to https on GitHub's hosts and to the host of `url`. The
+/// body is not decoded. Nothing is cached.
 ///
 /// Throws PlatformError, with a sentence that says what the player can do, if the network or the
-/// proxy fails, if a server does not answer or is silent for `stallTimeout`, and for a redirect
-/// that is not followed. Throws Cancelled within a second after `stop` is requested.
+/// proxy fails, if a server sends nothing for `stallTimeout`, or if a redirect is refused. Throws
+/// Cancelled within a second after `stop` is requested.
 void httpGet(const QUrl& url, const HttpReceiver& receiver, std::chrono::milliseconds stallTimeout,
              const std::stop_token& stop);

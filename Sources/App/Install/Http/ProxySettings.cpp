@@ -18,7 +18,7 @@ namespace {
 
 constexpr auto desktopTimeout = 2s;
 
-/// The value of the first of the variables that is set and not empty.
+/// Returns the value of the first variable that is set and not empty.
 std::optional<QString> firstSet(std::initializer_list<const char*> variables)
 {
     for (const auto* const variable : variables) {
@@ -28,17 +28,16 @@ std::optional<QString> firstSet(std::initializer_list<const char*> variables)
     return std::nullopt;
 }
 
-/// What the environment says, whether or not the host is exempt from it.
+/// Returns the proxy of the environment. Ignores no_proxy.
 std::optional<QString> addressFromEnvironment(const QUrl& url)
 {
-    // A web server's CGI variable of the name HTTP_PROXY is a stranger's word, so only the name in
-    // lower case counts.
+    // Not HTTP_PROXY: in a CGI program, a client can set it by its header "Proxy".
     return url.scheme() == "https"_L1
                ? firstSet({"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY"})
                : firstSet({"http_proxy", "all_proxy", "ALL_PROXY"});
 }
 
-/// Whether the environment exempts the host: by name, by a domain above it, or with all others.
+/// Returns true if no_proxy lists the host, a domain above it, or "*".
 bool isExempt(const QString& host)
 {
     auto entries = firstSet({"no_proxy", "NO_PROXY"}).value_or(QString());
@@ -76,7 +75,7 @@ QString addressOf(const QNetworkProxy& proxy)
 
 QString addressFromDesktop(const QUrl& url, const std::stop_token& stop)
 {
-    // It may run a script that it loads from the network.
+    // May run a script (PAC) from the network.
     const auto address = runAbandonable(
         [url] {
             const auto proxies = QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url));
@@ -90,7 +89,7 @@ QString shownNameOf(const QString& address)
 {
     const QUrl url(address.contains("://"_L1) ? address : u"http://"_s + address);
     if (!url.isValid() || url.host().isEmpty())
-        return address.section(u'@', -1); // Malformed, without a password.
+        return address.section(u'@', -1); // Malformed. Removes a password.
     return url.port() < 0 ? url.host() : u"%1:%2"_s.arg(url.host()).arg(url.port());
 }
 

@@ -6,16 +6,16 @@
 
 #include <stop_token>
 
-/// The proxy that a request is to go through.
+/// The proxy of a request.
 struct ProxySettings
 {
-    /// Its address as a URL, with the user's name and password if it has some; empty for none.
+    /// Its address as a URL, with a user name and password if it needs them; empty for no proxy.
     QString address;
-    /// Its host and port, for a sentence.
+    /// Its host and port, for a message.
     QString shownName;
 
-    /// The proxy for `url`: what the environment says (https_proxy, http_proxy, all_proxy and
-    /// no_proxy, as curl reads them), else what the desktop says. A desktop that does not answer
-    /// within two seconds, or before `stop` is requested, has no proxy. Blocks.
+    /// Returns the proxy for `url` from the environment (https_proxy, http_proxy, all_proxy and
+    /// no_proxy, as curl reads them), else from the desktop's settings. Returns no proxy if the
+    /// desktop does not answer within two seconds, or if `stop` is requested. Blocks.
     static ProxySettings proxyFor(const QUrl& url, const std::stop_token& stop);
 };

@@ -16,7 +16,7 @@ QString certificateReason(const FailedRequest& request)
         return PlatformError::tr("The certificate of “%1” has expired. Check the date and time of "
                                  "this computer.")
             .arg(request.host);
-    // libcurl compares the names itself, before it asks for the result of the chain.
+    // libcurl compares the host names itself, before it asks OpenSSL for the result.
     case X509_V_ERR_UNSPECIFIED:
     case X509_V_OK:
     case X509_V_ERR_HOSTNAME_MISMATCH:
@@ -45,7 +45,7 @@ QString proxyReason(const FailedRequest& request)
         .arg(request.proxy);
 }
 
-/// Whether the request did not get past its proxy.
+/// Returns true if the proxy, not the host, is the cause.
 bool failedAtProxy(const FailedRequest& request)
 {
     if (request.proxy.isEmpty())
@@ -98,7 +98,7 @@ QString reason(const FailedRequest& request)
     case CURLE_OUT_OF_MEMORY:
         return PlatformError::tr("There is not enough memory. Close other programs and try again.");
     case CURLE_WEIRD_SERVER_REPLY:
-    case CURLE_WRITE_ERROR: // More came with a redirect than is read.
+    case CURLE_WRITE_ERROR: // The body of a redirect is too large.
     case CURLE_HTTP2:
     case CURLE_HTTP2_STREAM:
     case CURLE_UNSUPPORTED_PROTOCOL:

@@ -10,28 +10,27 @@
 
 #include <chrono>
 
-/// What is known of a request that failed.
+/// The details of a failed request.
 struct FailedRequest
 {
-    /// The address that the download began with.
+    /// The first URL, before any redirect.
     QUrl download;
-    /// The host that was asked last: a redirect may have led to it.
+    /// The host of the failed request, which may be the target of a redirect.
     QString host;
-    /// The proxy on the way, for a sentence; empty if there is none.
+    /// The proxy's host and port; empty if there is none.
     QString proxy;
     CURLcode result = CURLE_OK;
-    /// The status that the proxy answered a CONNECT with; 0 if there was none.
+    /// The status of the proxy's response to CONNECT; 0 if there was none.
     long proxyStatus = 0;
     /// Whether TLS was established with the host.
     bool isSecured = false;
-    /// Why the certificate was refused (X509_V_ERR_…), if it was.
+    /// Why the certificate was refused (X509_V_ERR_…).
     long certificateError = 0;
 };
 
-/// Says what went wrong, whose fault it may be and what the player can do, without the library's
-/// own words.
+/// Returns an error that says what failed and what the player can do.
 [[nodiscard]] PlatformError transferError(const FailedRequest& request);
 
-/// Says that the host did not answer within `timeout`, or has been silent for that long.
+/// Returns the error for a host that has sent nothing for `timeout`, at all or since it answered.
 [[nodiscard]] PlatformError stallError(const FailedRequest& request, bool hasAnswered,
                                        std::chrono::milliseconds timeout);

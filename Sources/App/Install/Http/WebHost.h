@@ -3,6 +3,6 @@
 
 #include <QString>
 
-/// The scheme and host of the site that serves the game and the engine, without a trailing slash.
+/// Returns the scheme and host of the server of the game and the engine, without a trailing slash.
 /// The program and the tests each link their own definition.
 QString webHost();

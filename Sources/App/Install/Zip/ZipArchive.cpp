@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The maximum length of a link's target, and one byte to detect a longer one.
+/// One byte more than the maximum length of a link's target, to detect a longer one.
 constexpr std::size_t maxTargetRead = 2049;
 
 ZipError unreadable(const QString& reason)
@@ -33,7 +33,7 @@ ZipError damaged(const QString& shownName)
     return ZipError(u"The archive entry “%1” is damaged."_s.arg(shownName));
 }
 
-/// Throws that the entry cannot be read, or else that it is damaged.
+/// Throws PlatformError if the system reported `error`, else ZipError.
 [[noreturn]] void throwFailure(zip_error_t& error, const QString& shownName)
 {
     if (zip_error_system_type(&error) == ZIP_ET_SYS) {
@@ -44,7 +44,7 @@ ZipError damaged(const QString& shownName)
     throw damaged(shownName);
 }
 
-/// Why the archive cannot be opened. Throws PlatformError if the file cannot be read at all.
+/// Returns why the archive cannot be opened. Throws PlatformError if the file cannot be read.
 QString openFailure(int error, const InputFile& file)
 {
     switch (error) {
@@ -82,8 +82,9 @@ Number numberAt(const QByteArray& bytes, qsizetype offset)
     return hasNumber ? qFromLittleEndian<Number>(bytes.constData() + offset) : Number();
 }
 
-/// The number of entries that the records at the archive's end announce: a record of 22 bytes and a
-/// comment; for more than 65,534 entries, a locator of 20 bytes before it leads to a larger record.
+/// Returns the number of entries in the end of central directory record: 22 bytes and a comment.
+/// For more than 65,534 entries, the zip64 locator, 20 bytes before it, has the offset of the zip64
+/// record.
 quint64 announcedEntryCount(const InputFile& file)
 {
     constexpr qint64 maxEndSize = 20 + 22 + 65'535;
@@ -93,11 +94,11 @@ quint64 announcedEntryCount(const InputFile& file)
     const auto count = numberAt<quint16>(end, record + 10);
     if (record < 20 || count != std::numeric_limits<quint16>::max())
         return count;
-    const auto largeRecord = numberAt<qint64>(end, record - 20 + 8);
-    return largeRecord < 0 ? count : numberAt<quint64>(bytesAt(file, largeRecord, 56), 32);
+    const auto zip64Record = numberAt<qint64>(end, record - 20 + 8);
+    return zip64Record < 0 ? count : numberAt<quint64>(bytesAt(file, zip64Record, 56), 32);
 }
 
-/// The Unix mode; 0 when the archive was made on a system without modes.
+/// Returns the Unix mode; 0 if the archive was made on another system.
 quint32 modeOf(zip* archive, quint64 index)
 {
     zip_uint8_t system = 0;
@@ -111,7 +112,7 @@ ZipEntry::Kind kindOf(quint32 mode, const QByteArray& name)
 {
     const auto isNamedAsFolder = name.endsWith('/');
     switch (mode & S_IFMT) {
-    case 0: // There is no mode, or none of it says.
+    case 0: // The mode is unknown or has no file type.
         return isNamedAsFolder ? ZipEntry::Kind::folder : ZipEntry::Kind::file;
     case S_IFREG:
         return isNamedAsFolder ? ZipEntry::Kind::other : ZipEntry::Kind::file;
@@ -146,10 +147,10 @@ QByteArrayView ZipArchive::Content::read(std::span<char> buffer)
 
 ZipArchive::ZipArchive(const InputFile& file)
 {
-    // The library reads the whole directory into memory.
+    // libzip reads the whole directory into memory.
     if (announcedEntryCount(file) > maxEntries)
         throw ZipError(u"The archive has too many files and folders."_s);
-    // The library closes the descriptor that it is given.
+    // libzip takes ownership of the descriptor.
     FileDescriptor descriptor(::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0));
     int error = ZIP_ER_OPEN;
     if (descriptor.isOpen())
@@ -181,7 +182,7 @@ ZipEntry ZipArchive::entry(quint64 index) const
         status.comp_method == ZIP_CM_STORE || status.comp_method == ZIP_CM_DEFLATE;
     entry.size = status.size;
     entry.compressedSize = status.comp_size;
-    // The library does not check the checksum of an entry without content.
+    // libzip does not check the checksum of an empty entry.
     if (status.comp_size == 0 && status.crc != 0)
         throw damaged(entry.shownName());
     if (entry.kind == ZipEntry::Kind::link && !entry.isEncrypted && entry.hasKnownMethod) {

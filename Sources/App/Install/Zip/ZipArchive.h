@@ -12,10 +12,8 @@ class InputFile;
 struct zip;
 struct zip_file;
 
-/// A zip archive that is open for reading.
-///
-/// It reads the directory at the archive's end. An archive whose local headers contradict the
-/// directory, and one without a directory, a truncated one above all, is refused.
+/// A zip archive, open for reading. An archive without a central directory (such as a truncated
+/// one), or whose local headers differ from it, is refused.
 class ZipArchive final
 {
 public:
@@ -23,8 +21,8 @@ public:
     class Content final
     {
     public:
-        /// Reads into `buffer` and returns what was read; nothing at the end. Throws ZipError, at
-        /// the end also if the content does not have the checksum of the entry.
+        /// Reads into `buffer` and returns what was read; empty at the end. Throws ZipError, at the
+        /// end also for a wrong checksum.
         QByteArrayView read(std::span<char> buffer);
 
     private:
@@ -37,17 +35,17 @@ public:
         QString m_shownName;
     };
 
-    /// Far above any real game.
+    /// Far more than any real game has.
     static constexpr quint64 maxEntries = 500'000;
 
-    /// Throws ZipError if `file` is no zip archive or has more than `maxEntries`, PlatformError if
-    /// it cannot be read.
+    /// Throws ZipError if `file` is no valid zip archive or has more than `maxEntries` entries;
+    /// PlatformError if it cannot be read.
     explicit ZipArchive(const InputFile& file);
 
     [[nodiscard]] quint64 entryCount() const;
-    /// The headers of the entry at `index`, and a link's target. Throws ZipError.
+    /// Reads the headers of the entry at `index`, and the target of a link. Throws ZipError.
     [[nodiscard]] ZipEntry entry(quint64 index) const;
-    /// Throws ZipError.
+    /// Opens the content of the entry at `index`. Throws ZipError.
     [[nodiscard]] Content open(quint64 index, const ZipEntry& entry) const;
 
 private:

@@ -6,8 +6,7 @@
 
 #include <stdexcept>
 
-/// Why an archive is not unpacked: one sentence, as a tool would print it. It stays within the
-/// unpacking, which writes it to the log and ends with a status.
+/// Why an archive is not unpacked: one sentence, not translated. ZipExtractor writes it to the log.
 class ZipError final : public std::runtime_error
 {
 public:
@@ -19,18 +18,18 @@ public:
     [[nodiscard]] QString message() const { return QString::fromUtf8(what()); }
 };
 
-/// One entry of a zip archive as its headers describe it. Nothing of it has been checked.
+/// One entry of a zip archive as its headers describe it, not validated.
 struct ZipEntry
 {
     enum class Kind { file, folder, link, other };
 
-    /// The name as the archive has it.
+    /// The raw name.
     QByteArray name;
     Kind kind = Kind::other;
     bool isExecutable = false;
     bool setsUserOrGroup = false;
     bool isEncrypted = false;
-    /// Whether it is stored or deflated.
+    /// True if it is stored or deflated.
     bool hasKnownMethod = true;
     /// The sizes of the content in bytes.
     quint64 size = 0;
@@ -38,6 +37,6 @@ struct ZipEntry
     /// A link's target.
     QByteArray target;
 
-    /// The name for a sentence: on one line, of bounded length.
+    /// Returns the name for a message: one line of limited length.
     [[nodiscard]] QString shownName() const;
 };

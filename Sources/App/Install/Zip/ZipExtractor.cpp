@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::size_t bufferSize = 131'072;
 
-/// Returns the entries once all of them have been found to be harmless.
+/// Returns all entries. Throws ZipError if the archive must not be unpacked.
 std::vector<ZipEntry> vetted(const ZipArchive& archive, qint64 archiveSize,
                              const QString& destination, std::optional<qint64> freeSpace,
                              const std::stop_token& stop)
@@ -51,7 +51,8 @@ std::vector<ZipEntry> vetted(const ZipArchive& archive, qint64 archiveSize,
     return entries;
 }
 
-/// The bytes on disk are exactly those that were announced, and that the space was checked for.
+/// Throws ZipError if the content is not as long as announced, which is what the free space was
+/// checked for.
 void unpackFile(ZipArchive::Content&& content, const ZipEntry& entry, OutputFile&& file,
                 std::span<char> buffer, const std::stop_token& stop)
 {
@@ -98,7 +99,7 @@ void unpack(const ZipArchive& archive, const std::vector<ZipEntry>& entries, Zip
     tree.makeLinks(stop);
 }
 
-/// Returns the memory of a large archive to the system; the allocator would keep it.
+/// Returns the memory used for a large archive to the system.
 void trimMemory()
 {
 #if defined(__GLIBC__)

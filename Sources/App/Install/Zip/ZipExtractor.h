@@ -9,15 +9,15 @@
 
 class InputFile;
 
-/// Unpacks zip archives in process, and reports as a tool would: in lines, and with a status.
+/// Unpacks zip archives in this process. Reports like a command line tool, by log lines and a
+/// status.
 namespace ZipExtractor {
 
-/// Unpacks `archive` into the existing, empty folder `destination`, and returns 0; or 1 when the
-/// archive is damaged, not to be trusted, or cannot be written, with a line for `log` that says
-/// why. An archive that is not to be trusted, or too large for the disk, is refused before anything
-/// of it is unpacked. Folders and executable files get the mode 0755 and other files 0644, as far
-/// as the user's mask allows; symbolic links are kept. Throws Cancelled when `stop` is requested.
-/// Blocks.
+/// Unpacks `archive` into the existing, empty folder `destination`. Returns 0; or 1 after a line to
+/// `log` that says why, if the archive is damaged or unsafe, or if a file cannot be written. An
+/// unsafe archive, or one too large for the disk, is refused before anything is unpacked. Folders
+/// and executable files get the mode 0755, other files 0644, both limited by the umask. Symbolic
+/// links are kept. Throws Cancelled when `stop` is requested. Blocks.
 int extract(const InputFile& archive, const QString& destination, const LogCallback& log,
             const std::stop_token& stop);
 

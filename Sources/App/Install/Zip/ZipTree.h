@@ -13,27 +13,24 @@
 #include <unordered_set>
 #include <vector>
 
-/// The files, folders and links that an archive is unpacked to, below one folder.
-///
-/// Links are made last, so that no file is written through one. Paths are relative to the folder
-/// and must have been vetted.
+/// Creates the files, folders and links of an archive in one folder. Creates links last, so that no
+/// file is written through a link. Paths are relative to the folder and must have been vetted.
 class ZipTree final
 {
 public:
-    /// Below the existing folder `destination`. Throws PlatformError.
+    /// Opens the existing folder `destination`. Throws PlatformError.
     explicit ZipTree(const QString& destination);
 
     /// Creates the folder and its missing parents. An existing folder is kept. An empty path means
-    /// the folder itself. Throws PlatformError.
+    /// the destination. Throws PlatformError.
     void makeFolder(const std::string& path);
 
-    /// Creates the file, with the folders above. Throws PlatformError.
+    /// Creates the file and its missing parents. Throws PlatformError.
     OutputFile makeFile(const QByteArray& path, bool executable);
 
     void addLink(const QByteArray& path, const QByteArray& target);
 
-    /// Creates the links that were added. Throws PlatformError, or Cancelled when `stop` is
-    /// requested.
+    /// Creates the links that were added. Throws PlatformError or Cancelled.
     void makeLinks(const std::stop_token& stop);
 
     /// The free bytes of the file system; nothing if unknown.

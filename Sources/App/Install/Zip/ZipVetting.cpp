@@ -14,19 +14,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Real archives stay far below these; they keep every path usable by the system calls.
+// Far more than in real archives, and short enough for every system call.
 constexpr qsizetype maxPartLength = 255;
 constexpr qsizetype maxPathLength = 2048;
 constexpr qsizetype maxDepth = 128;
-/// Far above any real game. Names can imply a hundred folders each, so that what is remembered of
-/// an archive could otherwise take fifty times the memory that its directory does.
+/// Far more than any real game has. One name can imply a hundred folders, so without these limits
+/// the paths could take fifty times the memory of the directory.
 constexpr std::size_t maxPaths = 500'000;
 constexpr std::size_t maxPathBytes = std::size_t{256} * 1024 * 1024;
-/// As many links as the system itself would follow in one path.
+/// As many links as Linux follows in one path.
 constexpr int maxLinkDepth = 40;
-/// Some seconds of work. A chain of long links could otherwise take hours to follow.
+/// Takes some seconds. Without this limit, a chain of long links could take hours.
 constexpr int maxStepsOfAllLinks = 2'000'000;
-/// Above any file, and small enough that their sum does not overflow.
+/// Larger than any file, and small enough that the sum does not overflow.
 constexpr quint64 maxContent = quint64{1} << 40;
 
 ZipError refusal(const ZipEntry& entry, const QString& reason)
@@ -47,7 +47,7 @@ std::vector<std::string_view> partsOf(std::string_view path)
     return parts;
 }
 
-/// The parts of `first`, to be walked before those of `rest`, in the reverse order of the walk.
+/// Pushes the parts of `first` onto the stack `rest`, so that the first part is on top.
 void pushParts(std::vector<std::string>& rest, std::string_view first)
 {
     const auto parts = partsOf(first);
@@ -115,13 +115,13 @@ void ZipVetting::checkOverlap(qint64 archiveSize) const
 
 void ZipVetting::addSizes(const ZipEntry& entry)
 {
-    // Two headers and the content; there may be more, but not less.
+    // The minimum size of the two headers.
     constexpr quint64 headersSize = 30 + 46;
     m_archivedSize += headersSize + 2 * static_cast<quint64>(entry.name.size()) +
                       std::min(entry.compressedSize, maxContent);
     if (entry.kind != ZipEntry::Kind::file)
         return;
-    // A sum beyond all disks is as good as any other of that kind.
+    // Saturates: no disk is that large.
     constexpr quint64 max = std::numeric_limits<qint64>::max();
     m_totalSize = entry.size > max - m_totalSize ? max : m_totalSize + entry.size;
 }
@@ -171,8 +171,8 @@ void ZipVetting::checkLink(const std::string& link, int& stepsLeft,
         entry.name = QByteArray::fromStdString(link);
         throw refusal(entry, reason);
     };
-    // Walked as the system would: a link on the way is replaced by where it leads. Text alone does
-    // not tell, for after a link, ".." is not the folder that the link stands in.
+    // Walks the path like the system, replacing each link by its target: after a link, ".." is not
+    // the folder that contains the link.
     std::vector<std::string> rest{std::string(partsOf(link).back())};
     auto here = folderOf(link);
     int linksOnTheWay = 0;
@@ -188,12 +188,12 @@ void ZipVetting::checkLink(const std::string& link, int& stepsLeft,
             here = folderOf(here);
             continue;
         }
-        // Not one expression: GCC 12 takes part of the temporary for uninitialised.
+        // Not one expression: GCC 12 warns of an uninitialised temporary.
         auto next = here;
         if (!next.empty())
             next += '/';
         next += part;
-        // The system follows no longer path either, and each step costs as much as it is long.
+        // The system follows no longer path either.
         if (next.size() > static_cast<std::size_t>(maxPathLength))
             refuse(u"leads along too long a path"_s);
         const auto known = m_paths.find(next);

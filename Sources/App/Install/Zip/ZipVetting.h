@@ -10,35 +10,34 @@
 #include <string>
 #include <unordered_map>
 
-/// Decides whether an archive may be unpacked, from the headers of all its entries.
+/// Decides from the headers of all entries whether an archive may be unpacked.
 ///
-/// An archive of a game or an engine holds files, folders and links between them, each once. An
-/// entry that could write or lead outside of the folder, overwrite another entry, or become a
-/// device refuses the whole archive; so do more paths than a game can have, since all are kept in
-/// memory.
+/// Refuses the whole archive if an entry is neither a file, a folder nor a link, if a path or a
+/// link leads outside of the folder, if a path occurs twice, or if there are more paths than a game
+/// can have, since all are kept in memory.
 class ZipVetting final
 {
 public:
-    /// Takes the next entry. Throws ZipError when it must not be unpacked.
+    /// Adds the next entry. Throws ZipError if it must not be unpacked.
     void add(const ZipEntry& entry);
 
-    /// Call it after the last entry. Throws ZipError if the entries are larger than the archive,
-    /// because some share their content.
+    /// Call it after the last entry. Throws ZipError if the entries are larger than the archive, so
+    /// that some must overlap.
     void checkOverlap(qint64 archiveSize) const;
 
-    /// Call it after the last entry. Throws ZipError when a link leads outside of the folder,
-    /// through others or not; and Cancelled when `stop` is requested.
+    /// Call it after the last entry. Throws ZipError if a link leads outside of the folder,
+    /// directly or through other links; Cancelled when `stop` is requested.
     void checkLinks(const std::stop_token& stop) const;
 
-    /// The bytes that the files will take.
+    /// The size of all files in bytes.
     [[nodiscard]] qint64 totalSize() const { return static_cast<qint64>(m_totalSize); }
 
-    /// Returns the path of the entry in the folder: its name without "." and empty parts. It is
-    /// empty for the folder itself. Throws ZipError for a name that leads elsewhere.
+    /// Returns the relative path of the entry: its name without "." and empty parts; empty for the
+    /// folder itself. Throws ZipError if the name leads outside of the folder.
     static QByteArray entryPath(const ZipEntry& entry);
 
 private:
-    /// What the archive has at a path. A folder may be implied by the names of other entries.
+    /// What is at a path. A folder may have no entry of its own.
     struct PathInfo
     {
         ZipEntry::Kind kind = ZipEntry::Kind::folder;
