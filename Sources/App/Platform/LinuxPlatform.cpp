@@ -106,16 +106,6 @@ std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFol
     return std::nullopt;
 }
 
-std::optional<ToolCommand> LinuxPlatform::unpackCommand(const QString&, const QString&) const
-{
-    return std::nullopt;
-}
-
-std::optional<ToolCommand> LinuxPlatform::clearQuarantineCommand(const QString&) const
-{
-    return std::nullopt;
-}
-
 QString LinuxPlatform::savesFolder(const QString& gameName) const
 {
     return applicationSupport() + u"/godot/app_userdata/"_s + engineFolderName(gameName);

@@ -24,10 +24,6 @@ public:
     /// string order if there are several.
     [[nodiscard]] std::optional<QString>
     findEngineProgram(const QString& engineFolder) const override;
-    [[nodiscard]] std::optional<ToolCommand>
-    unpackCommand(const QString& archive, const QString& destination) const override;
-    [[nodiscard]] std::optional<ToolCommand>
-    clearQuarantineCommand(const QString& folder) const override;
     /// `applicationSupport()/godot/app_userdata/<name>`, with characters of the name replaced.
     [[nodiscard]] QString savesFolder(const QString& gameName) const override;
 

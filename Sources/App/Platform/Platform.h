@@ -33,21 +33,26 @@ public:
     [[nodiscard]] virtual QString configuration() const = 0;
 
     /// Returns the end of the engine archive's name: the edition, the system and the processor,
-    /// with
-    /// ".zip". Throws AppError if there is no build for the processor.
+    /// with ".zip". Throws AppError if there is no build for the processor.
     [[nodiscard]] virtual QString engineArchiveSuffix(bool mono) const = 0;
 
     /// Returns the engine program in an installed engine folder, if there is one.
     [[nodiscard]] virtual std::optional<QString>
     findEngineProgram(const QString& engineFolder) const = 0;
 
-    /// Returns the tool that unpacks a zip archive; nothing where the launcher unpacks it itself.
+    /// Returns the tool that unpacks a zip archive; nothing if the launcher unpacks it itself.
     [[nodiscard]] virtual std::optional<ToolCommand>
-    unpackCommand(const QString& archive, const QString& destination) const = 0;
+    unpackCommand(const QString& /*archive*/, const QString& /*destination*/) const
+    {
+        return std::nullopt;
+    }
 
     /// Returns the tool that removes the quarantine attribute of a folder; nothing if none exists.
     [[nodiscard]] virtual std::optional<ToolCommand>
-    clearQuarantineCommand(const QString& folder) const = 0;
+    clearQuarantineCommand(const QString& /*folder*/) const
+    {
+        return std::nullopt;
+    }
 
     /// Returns the engine's folder for the saves of the game `gameName`. It may not exist.
     [[nodiscard]] virtual QString savesFolder(const QString& gameName) const = 0;
