@@ -81,22 +81,18 @@ void unpack(const ZipArchive& archive, const std::vector<ZipEntry>& entries, Zip
         throwIfCancelled(stop);
         const auto& entry = entries[index];
         const auto path = ZipVetting::entryPath(entry);
-        switch (entry.kind) {
-        case ZipEntry::Kind::file:
+        if (entry.kind == ZipEntry::Kind::folder)
+            tree.makeFolder(path.toStdString());
+        else if (entry.kind == ZipEntry::Kind::file)
             unpackFile(archive.open(index, entry), entry, tree.makeFile(path, entry.isExecutable),
                        buffer, stop);
-            break;
-        case ZipEntry::Kind::folder:
-            tree.makeFolder(path.toStdString());
-            break;
-        case ZipEntry::Kind::link:
-            tree.addLink(path, entry.target);
-            break;
-        case ZipEntry::Kind::other:
-            break;
-        }
     }
-    tree.makeLinks(stop);
+    // Last, so that no file is written through a link.
+    for (const auto& entry : entries) {
+        throwIfCancelled(stop);
+        if (entry.kind == ZipEntry::Kind::link)
+            tree.makeLink(ZipVetting::entryPath(entry), entry.target);
+    }
 }
 
 /// Returns the memory used for a large archive to the system.

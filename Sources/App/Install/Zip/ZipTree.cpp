@@ -52,21 +52,13 @@ OutputFile ZipTree::makeFile(const QByteArray& path, bool executable)
     return OutputFile(m_folder.get(), path, executable ? executableMode : plainMode);
 }
 
-void ZipTree::addLink(const QByteArray& path, const QByteArray& target)
+void ZipTree::makeLink(const QByteArray& path, const QByteArray& target)
 {
-    m_links.push_back({path, target});
-}
-
-void ZipTree::makeLinks(const std::stop_token& stop)
-{
-    for (const auto& link : m_links) {
-        throwIfCancelled(stop);
-        makeFolderAbove(link.path);
-        if (::symlinkat(link.target.constData(), m_folder.get(), link.path.constData()) != 0) {
-            throw PlatformError::fromErrno(PlatformError::tr("Could not create the link “%1”")
-                                               .arg(QFile::decodeName(link.path)),
-                                           errno);
-        }
+    makeFolderAbove(path);
+    if (::symlinkat(target.constData(), m_folder.get(), path.constData()) != 0) {
+        throw PlatformError::fromErrno(
+            PlatformError::tr("Could not create the link “%1”").arg(QFile::decodeName(path)),
+            errno);
     }
 }
 
