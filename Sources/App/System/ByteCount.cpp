@@ -5,8 +5,8 @@
 #include <QLocale>
 
 #include <array>
-
-using namespace Qt::StringLiterals;
+#include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -29,31 +29,11 @@ constexpr std::array units{
     Unit{1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("Unit", "%1 PB")},
 };
 
-QString withoutTrailingZeros(QString number)
-{
-    if (!number.contains(u'.'))
-        return number;
-    while (number.endsWith(u'0'))
-        number.chop(1);
-    if (number.endsWith(u'.'))
-        number.chop(1);
-    return number;
-}
-
-QString inUnit(qint64 bytes, const Unit& unit)
+/// Returns the amount in `unit`, rounded to its decimals.
+double inUnit(qint64 bytes, const Unit& unit)
 {
     const auto amount = static_cast<double>(bytes) / static_cast<double>(unit.bytes);
-    return withoutTrailingZeros(QString::number(amount, 'f', unit.decimals));
-}
-
-/// Returns a number such as "7.3" as it is written in the player's locale.
-QString localized(const QString& number)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    const auto point = number.indexOf(u'.');
-    const auto decimals = point < 0 ? 0 : number.size() - point - 1;
-    return locale.toString(number.toDouble(), 'f', static_cast<int>(decimals));
+    return QString::number(amount, 'f', unit.decimals).toDouble();
 }
 
 } // namespace
@@ -66,13 +46,13 @@ QString formattedByteCount(qint64 bytes)
         return Unit::tr("1 byte");
     if (bytes > -1'000 && bytes < 1'000)
         return Unit::tr("%n bytes", nullptr, static_cast<int>(bytes));
-    const auto magnitude = bytes < 0 ? -static_cast<double>(bytes) : static_cast<double>(bytes);
-    std::size_t index = 0;
-    while (index + 1 < units.size() && magnitude >= static_cast<double>(units[index + 1].bytes))
-        ++index;
+    auto unit = units.begin();
     // An amount that rounds up to 1000 is written as 1 of the next unit.
-    auto number = inUnit(bytes, units[index]);
-    if (index + 1 < units.size() && (number == "1000"_L1 || number == "-1000"_L1))
-        number = inUnit(bytes, units[++index]);
-    return Unit::tr(units[index].pattern).arg(localized(number));
+    while (std::abs(inUnit(bytes, *unit)) >= 1'000 && std::next(unit) != units.end())
+        ++unit;
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const auto amount = inUnit(bytes, *unit);
+    return Unit::tr(unit->pattern)
+        .arg(locale.toString(amount, 'f', QLocale::FloatingPointShortest));
 }
