@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Appearance.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include "Platform/BusCall.h"
+
+#include <QDBusArgument>
 #include <QMap>
+#include <QPointer>
 #include <QVariantMap>
 
 #include <utility>
@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto service = "org.freedesktop.portal.Desktop"_L1;
-constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
-constexpr auto settings = "org.freedesktop.portal.Settings"_L1;
 const auto portable = u"org.freedesktop.appearance"_s;
 const auto gnome = u"org.gnome.desktop.interface"_s;
 
@@ -51,7 +48,8 @@ AppearancePortal::AppearancePortal()
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, settings, u"SettingChanged"_s, this,
+    bus.connect(u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
+                u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QDBusMessage)));
     ask();
 }
@@ -65,17 +63,13 @@ void AppearancePortal::settingChanged(const QDBusMessage& change)
 
 void AppearancePortal::ask()
 {
-    auto question = QDBusMessage::createMethodCall(service, path, settings, u"ReadAll"_s);
-    question << QStringList{portable, gnome};
-    auto* const watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this](QDBusPendingCallWatcher* call) {
-                call->deleteLater();
-                const auto arguments = call->reply().arguments();
-                if (!call->isError() && !arguments.isEmpty())
-                    take(appearance(qdbus_cast<Settings>(arguments.constFirst())));
-            });
+    auto call = portalCall(u"Settings"_s, u"ReadAll"_s);
+    call << QStringList{portable, gnome};
+    callOverBus(QDBusConnection::sessionBus(), call,
+                [self = QPointer(this)](const QDBusMessage& reply) {
+                    if (self && reply.type() == QDBusMessage::ReplyMessage)
+                        self->take(appearance(qdbus_cast<Settings>(reply.arguments().value(0))));
+                });
 }
 
 void AppearancePortal::take(const Appearance& appearance)

@@ -5,7 +5,7 @@
 
 class QDBusMessage;
 
-/// How the player wants windows to look, as far as the desktop tells.
+/// How windows should look, according to the desktop's settings.
 struct Appearance
 {
     enum class Scheme { none, dark, light };
@@ -17,10 +17,8 @@ struct Appearance
     bool operator==(const Appearance&) const = default;
 };
 
-/// The appearance that the desktop's portal tells over the session bus.
-///
-/// Asks once without waiting, and again after each change. Without a session bus or a portal no
-/// signal comes.
+/// Reads the appearance from the desktop's portal over the session bus, at construction and after
+/// each change. Does not block. Without a session bus or a portal, emits nothing.
 class AppearancePortal final : public QObject
 {
     Q_OBJECT
@@ -29,7 +27,7 @@ public:
     AppearancePortal();
 
 Q_SIGNALS:
-    /// The portal has told something else than before. Before its first answer it has told nothing.
+    /// The appearance has changed. It is Appearance() at first.
     void changed(const Appearance& appearance);
 
 private Q_SLOTS:

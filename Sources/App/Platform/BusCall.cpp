@@ -7,18 +7,27 @@
 
 #include <limits>
 
-void callOverBus(const QDBusConnection& bus, const QDBusMessage& question,
+using namespace Qt::StringLiterals;
+
+QDBusMessage portalCall(const QString& interface, const QString& method)
+{
+    return QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s,
+                                          u"/org/freedesktop/portal/desktop"_s,
+                                          u"org.freedesktop.portal."_s + interface, method);
+}
+
+void callOverBus(const QDBusConnection& bus, const QDBusMessage& call,
                  const std::function<void(const QDBusMessage& reply)>& answered)
 {
     if (!bus.isConnected()) {
-        answered(question.createErrorReply(QDBusError::Disconnected, {}));
+        answered(call.createErrorReply(QDBusError::Disconnected, {}));
         return;
     }
     constexpr auto noTimeout = std::numeric_limits<int>::max();
-    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, noTimeout), qApp);
+    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, noTimeout), qApp);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     [answered](QDBusPendingCallWatcher* call) {
-                         call->deleteLater();
-                         answered(call->reply());
+                     [answered](QDBusPendingCallWatcher* finished) {
+                         finished->deleteLater();
+                         answered(finished->reply());
                      });
 }

@@ -6,8 +6,12 @@
 
 #include <functional>
 
-/// Sends `question` without waiting, and calls `answered` with the reply, which may be an error, on
-/// the main thread; also a reply that comes late, when it may be time to give back what it grants.
-/// Without a bus it is an error at once.
-void callOverBus(const QDBusConnection& bus, const QDBusMessage& question,
+/// Returns a call of a method of the desktop's portal, "Settings" being the interface
+/// "org.freedesktop.portal.Settings".
+QDBusMessage portalCall(const QString& interface, const QString& method);
+
+/// Sends `call` and returns at once. Calls `answered` with the reply, which may be an error, on the
+/// main thread. There is no time limit, so that what a late reply grants can be given back. Without
+/// a bus, calls `answered` at once with an error.
+void callOverBus(const QDBusConnection& bus, const QDBusMessage& call,
                  const std::function<void(const QDBusMessage& reply)>& answered);

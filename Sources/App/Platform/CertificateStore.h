@@ -6,7 +6,7 @@
 #include <array>
 #include <span>
 
-/// Where Debian, Fedora, openSUSE and Arch, in this order, keep the certificates that they trust.
+/// The trusted certificates of Debian, Fedora, openSUSE and Arch, in this order.
 inline constexpr std::array<const char*, 4> usualCertificateFiles{
     "/etc/ssl/certs/ca-certificates.crt",
     "/etc/pki/tls/certs/ca-bundle.crt",
@@ -14,8 +14,8 @@ inline constexpr std::array<const char*, 4> usualCertificateFiles{
     "/etc/ssl/cert.pem",
 };
 
-/// Returns the first file that exists: `builtIn`, which the network library was compiled for, then
-/// the usual ones. A program that runs elsewhere than it was built finds the certificates by these.
-/// Empty if there is none: what is trusted can then only lie in a folder by hashes.
+/// Returns the first file that exists: `builtIn`, the default of the network library, which may
+/// have been built on another distribution, then the usual ones. Returns nothing if none exists;
+/// libcurl then uses its folder of certificates.
 QByteArray certificateFile(const QByteArray& builtIn,
                            std::span<const char* const> usual = usualCertificateFiles);

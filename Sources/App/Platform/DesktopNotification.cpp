@@ -23,7 +23,7 @@ const auto serverInterface = u"org.freedesktop.Notifications"_s;
 const auto portalId = u"notification"_s;
 const auto portalAction = u"activate"_s;
 
-/// Inside a sandbox the portal is the way to the desktop's notifications.
+/// A sandbox hides the notification server; the portal shows notifications instead.
 bool isSandboxed()
 {
     return QFile::exists(u"/.flatpak-info"_s) || qEnvironmentVariableIsSet("SNAP");
@@ -34,7 +34,7 @@ QDBusMessage serverCall(const QString& method)
     return QDBusMessage::createMethodCall(serverInterface, serverPath, serverInterface, method);
 }
 
-/// The token among the parameters of an action, which newer portals add.
+/// Returns the token in the parameters of an action; empty for an older portal.
 QByteArray activationToken(const QVariant& parameters)
 {
     for (auto parameter : qdbus_cast<QVariantList>(parameters)) {
@@ -66,8 +66,7 @@ DesktopNotification::~DesktopNotification()
 
 void DesktopNotification::showThroughPortal(const QString& title, const QString& body)
 {
-    auto question = QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s, portalPath,
-                                                   portalInterface, u"AddNotification"_s);
+    auto question = portalCall(u"Notification"_s, u"AddNotification"_s);
     question << portalId
              << QVariantMap{
                     {u"title"_s, title}, {u"body"_s, body}, {u"default-action"_s, portalAction}};
@@ -79,8 +78,8 @@ void DesktopNotification::showThroughPortal(const QString& title, const QString&
     });
 }
 
-/// Asks first what the server can do: some show text as it is and others as markup, and some open
-/// a dialog for a notification with actions.
+/// Asks for the capabilities first: some servers show the text as markup, and some show a dialog
+/// for a notification with actions.
 void DesktopNotification::askServer(const QString& applicationId, const QString& title,
                                     const QString& body)
 {
@@ -126,8 +125,8 @@ void DesktopNotification::show(
                 });
 }
 
-/// Listens to the program that has sent `reply`. To name its service instead would make Qt ask the
-/// bus for the owner, and wait.
+/// Connects to the unique name that sent `reply`. With a well-known name, Qt would block while it
+/// asks the bus for the owner.
 void DesktopNotification::listen(const QDBusMessage& reply)
 {
     auto bus = QDBusConnection::sessionBus();

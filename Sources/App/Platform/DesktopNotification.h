@@ -10,9 +10,8 @@
 class QDBusConnection;
 class QDBusMessage;
 
-/// A notification of the player's desktop, withdrawn when the object is destroyed.
-///
-/// Asks without waiting; where the desktop shows no notifications, nothing happens.
+/// A notification of the desktop, withdrawn when the object is destroyed. Does not block. Has no
+/// effect if the desktop shows no notifications.
 class DesktopNotification final : public QObject
 {
     Q_OBJECT
@@ -23,8 +22,8 @@ public:
     ~DesktopNotification() override;
 
 Q_SIGNALS:
-    /// The player has clicked on it. With the token, where there is one, a Wayland desktop allows
-    /// the application's window to come to the front.
+    /// The player has clicked the notification. A Wayland desktop requires the token, which may be
+    /// empty, to bring the application's window to the front.
     void clicked(const QByteArray& activationToken);
 
 private Q_SLOTS:

@@ -24,14 +24,11 @@ QDBusMessage askFileManager(const QString& path)
     return message;
 }
 
-/// A sandbox hides the file manager. The portal asks it on the program's behalf, for what the
-/// program can open itself.
+/// For a sandbox, which hides the file manager. The portal takes an open descriptor.
 QDBusMessage askPortal(const QString& path)
 {
     const FileDescriptor shown(::open(QFile::encodeName(path), O_RDONLY | O_CLOEXEC));
-    auto message = QDBusMessage::createMethodCall(
-        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
-        u"org.freedesktop.portal.OpenURI"_s, u"OpenDirectory"_s);
+    auto message = portalCall(u"OpenURI"_s, u"OpenDirectory"_s);
     message << QString() << QVariant::fromValue(QDBusUnixFileDescriptor(shown.get()))
             << QVariantMap();
     return message;

@@ -5,7 +5,6 @@
 
 #include <functional>
 
-/// Asks the desktop's file browser over the session bus to show `path`, selected in its parent
-/// folder, or in a sandbox the desktop's portal. Returns at once. Calls `onFailure` on the main
-/// thread when no file browser answers.
+/// Asks the desktop's file browser over the session bus, else the portal, to show `path` selected
+/// in its parent folder. Returns at once. Calls `onFailure` on the main thread if neither answers.
 void showInFileBrowser(const QString& path, const std::function<void()>& onFailure);

@@ -15,7 +15,7 @@ FontConfiguration::FontConfiguration()
     try {
         m_thread = std::jthread([] { FcInit(); });
     } catch (const std::system_error&) {
-        // Qt reads it when it needs it.
+        // Qt then loads it itself.
     }
 #endif
 }

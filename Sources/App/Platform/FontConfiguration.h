@@ -3,8 +3,8 @@
 
 #include <thread>
 
-/// Reads the system's font configuration on a second thread, which saves the first text a tenth of
-/// a start. Ends before this object does. Needs no application object.
+/// Loads the system's font configuration on a second thread, which saves a tenth of the start. The
+/// destructor waits for it. Needs no application object.
 class FontConfiguration final
 {
 public:

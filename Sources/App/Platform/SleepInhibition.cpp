@@ -18,10 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How long a service may be silent until the next one is asked, too.
+/// The next service is also asked if one does not answer for this time.
 constexpr std::chrono::seconds maxSilence{2};
 
-/// A call of the object that `reply` comes from, or of another one of the same program.
+/// Returns a call of an object of the program that sent `reply`.
 QDBusMessage callBack(const QDBusMessage& reply, const QString& path, const QString& interface,
                       const QString& method)
 {
@@ -45,9 +45,7 @@ SleepInhibition::~SleepInhibition()
 void SleepInhibition::askPortal()
 {
     constexpr uint suspend = 4;
-    auto question = QDBusMessage::createMethodCall(
-        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
-        u"org.freedesktop.portal.Inhibit"_s, u"Inhibit"_s);
+    auto question = portalCall(u"Inhibit"_s, u"Inhibit"_s);
     const auto anyWindow = QString();
     question << anyWindow << suspend << QVariantMap{{u"reason"_s, m_reason}};
     const auto bus = QDBusConnection::sessionBus();
@@ -67,12 +65,12 @@ void SleepInhibition::askLoginManager()
                                        u"org.freedesktop.login1.Manager"_s, u"Inhibit"_s);
     question.setAutoStartService(false);
     question << u"idle:sleep"_s << QCoreApplication::applicationName() << m_reason << u"block"_s;
-    // It lasts as long as the descriptor is open, which the function closes when it is destroyed.
+    // The inhibition lasts as long as the descriptor is open. Destroying the function closes it.
     const auto makeRelease = [](const QDBusMessage& reply) -> Release {
         const auto descriptor = reply.arguments().value(0).value<QDBusUnixFileDescriptor>();
         return [descriptor] {};
     };
-    // To connect blocks.
+    // Connecting blocks.
     const auto connecting = offThread([] { return QDBusConnection::systemBus(); });
     whenFinished(connecting, this, [=, this](const QDBusConnection& bus) {
         ask(bus, question, makeRelease, [this] { askScreenSaver(); });
@@ -119,7 +117,7 @@ void SleepInhibition::ask(const QDBusConnection& bus, const QDBusMessage& questi
     });
 }
 
-/// What a program has granted may end with it.
+/// Asks the next service if `service` ends, and its inhibition with it.
 void SleepInhibition::watch(const QDBusConnection& bus, const QString& service, const Next& next)
 {
     auto* const watcher =

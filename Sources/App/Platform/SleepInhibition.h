@@ -10,18 +10,16 @@
 class QDBusConnection;
 class QDBusMessage;
 
-/// Keeps the computer from falling asleep by itself until the object is destroyed or the process
-/// ends.
+/// Prevents automatic sleep until the object is destroyed or the process ends.
 ///
-/// Asks without waiting: the desktop's portal, where that does not help the system's login manager,
-/// and then the screen saver. Goes on to the next one also when a service ends or is silent. Where
-/// none helps, the computer falls asleep as usual.
+/// Asks the desktop's portal, then the login manager, then the screen saver: the next one if one
+/// refuses, does not answer or ends. Has no effect if all refuse. Does not block.
 class SleepInhibition final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The desktop may show `reason`, a sentence, to the player.
+    /// The desktop may show the sentence `reason` to the player.
     explicit SleepInhibition(const QString& reason);
     ~SleepInhibition() override;
 
@@ -38,6 +36,6 @@ private:
     void watch(const QDBusConnection& bus, const QString& service, const Next& next);
 
     const QString m_reason;
-    /// Each gives back what one service has granted.
+    /// Each ends one inhibition.
     std::vector<Release> m_releases;
 };

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 void showTaskBarProgress(const QString& applicationId, std::optional<double> progress)
 {
-    // The task bars of several desktops listen to it. Which object sends it does not matter.
+    // Several desktops listen to this signal, from any object path.
     auto update = QDBusMessage::createSignal(u"/com/canonical/unity/launcherentry/1"_s,
                                              u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);
     update << u"application://%1.desktop"_s.arg(applicationId)
