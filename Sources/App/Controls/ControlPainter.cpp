@@ -50,8 +50,8 @@ int minTitleWidth(const QString& title, const QFont& font)
 
 int titleHeight(const QString& title, const QFont& font, int width)
 {
-    const auto text = WrappedText::height(title, font, titleWidth(title, font, width));
-    return std::max(text + 2 * verticalPadding, minHeight);
+    const auto text = WrappedText::size(title, font, titleWidth(title, font, width));
+    return std::max(text.height() + 2 * verticalPadding, minHeight);
 }
 
 void paintTitle(QPainter& painter, const QRect& rect, Qt::LayoutDirection direction,

@@ -23,38 +23,24 @@ TextLabel::TextLabel(TextStyle style, const QString& text, TextTone tone)
 {
 }
 
-TextLabel::Sizes& TextLabel::sizes() const
-{
-    if (m_sizes.text != text() || m_sizes.font != font()) {
-        const QSize oneLine(fontMetrics().size(0, text()).width(),
-                            WrappedText::height(text(), font(), QWIDGETSIZE_MAX));
-        m_sizes = {text(), font(), oneLine, {}};
-    }
-    return m_sizes;
-}
-
 QSize TextLabel::sizeHint() const
 {
-    return sizes().oneLine;
+    return WrappedText::size(text(), font(), QWIDGETSIZE_MAX);
 }
 
 QSize TextLabel::minimumSizeHint() const
 {
     // Only the width matters: the layout asks heightForWidth() for the height.
     constexpr auto minWrappedWidth = 80;
-    const auto size = sizes().oneLine;
+    const auto size = sizeHint();
     return {wordWrap() ? std::min(size.width(), minWrappedWidth) : size.width(), size.height()};
 }
 
 int TextLabel::heightForWidth(int width) const
 {
-    auto& known = sizes();
-    if (width > known.oneLine.width())
-        return known.oneLine.height();
-    const auto [height, isNew] = known.heights.try_emplace(width);
-    if (isNew)
-        height->second = WrappedText::height(text(), font(), width);
-    return height->second;
+    const auto oneLine = sizeHint();
+    return width > oneLine.width() ? oneLine.height()
+                                   : WrappedText::size(text(), font(), width).height();
 }
 
 void TextLabel::paintEvent(QPaintEvent*)

@@ -6,7 +6,6 @@
 #include <QLabel>
 
 #include <functional>
-#include <map>
 
 /// The two strengths of the window's text.
 enum class TextTone { primary, secondary };
@@ -31,18 +30,4 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    /// The sizes of `text` in `font`. Without this cache, the layout of the window takes half as
-    /// long again.
-    struct Sizes
-    {
-        QString text;
-        QFont font;
-        QSize oneLine;
-        std::map<int, int> heights;
-    };
-    [[nodiscard]] Sizes& sizes() const;
-
-    mutable Sizes m_sizes;
 };

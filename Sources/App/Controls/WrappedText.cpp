@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controls/WrappedText.h"
 
+#include <QCache>
 #include <QPainter>
 #include <QStyle>
 #include <QTextLayout>
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace WrappedText {
 
@@ -44,6 +46,36 @@ QTextOption wrapping(QTextOption::WrapMode mode)
     return option;
 }
 
+struct Measurement
+{
+    QString text;
+    QFont font;
+    int width;
+    QTextOption::WrapMode mode;
+
+    bool operator==(const Measurement&) const = default;
+};
+
+std::size_t qHash(const Measurement& measurement, std::size_t seed)
+{
+    return qHashMulti(seed, measurement.text, measurement.font, measurement.width,
+                      static_cast<int>(measurement.mode));
+}
+
+/// Returns the size of the text, from a cache: without it, the layout of the window takes half as
+/// long again.
+QSize knownSize(const Measurement& measurement)
+{
+    constexpr auto maxSizes = 1000;
+    static QCache<Measurement, QSize> sizes(maxSizes);
+    if (const auto* const known = sizes[measurement])
+        return *known;
+    QTextLayout layout(separated(measurement.text), measurement.font);
+    const auto size = layOut(layout, wrapping(measurement.mode), measurement.width);
+    sizes.insert(measurement, new QSize(size));
+    return size;
+}
+
 bool isReadFromTheRight(QChar character)
 {
     return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
@@ -51,16 +83,14 @@ bool isReadFromTheRight(QChar character)
 
 } // namespace
 
-int height(const QString& text, const QFont& font, int width)
+QSize size(const QString& text, const QFont& font, int width)
 {
-    QTextLayout layout(separated(text), font);
-    return layOut(layout, wrapping(QTextOption::WrapAtWordBoundaryOrAnywhere), width).height();
+    return knownSize({text, font, width, QTextOption::WrapAtWordBoundaryOrAnywhere});
 }
 
 int widestWord(const QString& text, const QFont& font)
 {
-    QTextLayout layout(separated(text), font);
-    return layOut(layout, wrapping(QTextOption::WordWrap), 0).width();
+    return knownSize({text, font, 0, QTextOption::WordWrap}).width();
 }
 
 void paint(QPainter& painter, const QRect& rect, Qt::Alignment alignment,

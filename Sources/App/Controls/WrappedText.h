@@ -6,13 +6,15 @@
 class QFont;
 class QPainter;
 class QRect;
+class QSize;
 class QString;
 
-/// Plain text that wraps between words, and inside a word only if it is wider than the line.
+/// Plain text that wraps between words, and inside a word only if it is wider than the line. For
+/// the main thread.
 namespace WrappedText {
 
-/// Returns the height of `text` wrapped to `width`.
-[[nodiscard]] int height(const QString& text, const QFont& font, int width);
+/// Returns the size of `text` wrapped to `width`.
+[[nodiscard]] QSize size(const QString& text, const QFont& font, int width);
 
 /// Returns the width of the widest word of `text`.
 [[nodiscard]] int widestWord(const QString& text, const QFont& font);
