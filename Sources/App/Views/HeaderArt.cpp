@@ -21,6 +21,8 @@ constexpr auto symbolSize = QSize(76, 56);
 constexpr auto shadowRadius = 6;
 constexpr auto shadowMargin = 2 * shadowRadius;
 
+constexpr auto cornerRadius = 16;
+
 /// Sets the colour of a text. It does not depend on the palette, and neither does the banner.
 void setColor(TextLabel& text, const QColor& color)
 {
@@ -39,8 +41,9 @@ QLinearGradient background(const QRectF& rect)
     return gradient;
 }
 
-/// The six platforms, centred on the bottom edge of `rect`.
-QPainterPath silhouette(const QRectF& rect)
+/// Returns the six platforms, centred on the bottom edge of `rect`. In a narrow banner they are cut
+/// at its rounded corners.
+QPainterPath silhouette(const QRectF& rect, const QPainterPath& banner)
 {
     constexpr auto count = 6;
     constexpr auto spacing = 18;
@@ -57,7 +60,8 @@ QPainterPath silhouette(const QRectF& rect)
         bars.addPath(continuousRoundedRect(bar, 3));
         left += size.width() + spacing;
     }
-    return bars;
+    const auto reachesCorners = bars.boundingRect().left() < rect.left() + 2 * cornerRadius;
+    return reachesCorners ? bars.intersected(banner) : bars; // The intersection is slow.
 }
 
 } // namespace
@@ -81,16 +85,14 @@ HeaderArt::HeaderArt()
 
 void HeaderArt::paintEvent(QPaintEvent*)
 {
-    const auto banner = continuousRoundedRect(rect(), 16);
+    const auto banner = continuousRoundedRect(rect(), cornerRadius);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
     if (isRightToLeft())
         mirror(painter, width());
     painter.fillPath(banner, background(rect()));
-    // In a narrow banner the outer platforms overlap the rounded corners.
-    painter.fillPath(silhouette(rect()).intersected(banner),
-                     SystemColors::withOpacity(Qt::black, 0.25));
+    painter.fillPath(silhouette(rect(), banner), SystemColors::withOpacity(Qt::black, 0.25));
     painter.restore();
     if (SystemColors::isHighContrast(palette()))
         painter.fillPath(banner, SystemColors::withOpacity(Qt::black, 0.55));
