@@ -145,7 +145,8 @@ CavernyxPlatformerApp::CavernyxPlatformerApp(char* programName)
     QApplication::setCursorFlashTime(0);
     // The delegate decides when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(programIcon());
+    // The first picture does not wait for the icon.
+    QTimer::singleShot(0, [] { QApplication::setWindowIcon(programIcon()); });
 }
 
 int CavernyxPlatformerApp::run()
