@@ -32,7 +32,7 @@ def started(command: list[str], **how):
 def display():
     """The name of a new display; it chooses a free number itself."""
     reading, writing = os.pipe()
-    command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1000x24"]
+    command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x1000x24", "-noreset"]
     with started(command, pass_fds=[writing], stderr=subprocess.DEVNULL):
         os.close(writing)
         with os.fdopen(reading) as number:

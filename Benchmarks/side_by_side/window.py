@@ -20,7 +20,7 @@ from .desktop import (
     session_bus,
     started,
 )
-from .runs import Run, fresh_folder, in_turn, median, paired_ratio
+from .runs import Run, fresh_folder, in_turn, median, median_wall, paired_ratio
 from .table import Line, mebibytes, seconds
 
 
@@ -41,12 +41,22 @@ def start(bench: Bench) -> list[Line]:
             {
                 "ours": lambda: painted(bench.launcher),
                 "an empty Qt Widgets window": lambda: painted(bench.tool("empty-window")),
+                "a bare one with as many fonts": lambda: painted(bench.tool("labelled-window")),
             },
             bench.rounds * 2,
         )
+    labelled = runs.pop("a bare one with as many fonts")
     ours, empty = ([one.report["resident_kib"] for one in taken] for taken in runs.values())
     return [
         against_fastest("start to the first painted window", runs, 1.3),
+        Line(
+            "the same",
+            seconds(median_wall(runs["ours"])),
+            "a bare one with as many fonts",
+            seconds(median_wall(labelled)),
+            paired_ratio([one.wall for one in runs["ours"]], [one.wall for one in labelled]),
+            1.1,
+        ),
         Line(
             "memory resident then",
             mebibytes(median(ours)),

@@ -160,7 +160,6 @@ QCoro::Task<> AppModel::importAssets(QString engine, ProjectInfo info, std::stop
     const auto log = m_log.callback();
     const auto status =
         co_await m_runner.runImport(engine, info.folder, m_durations.importTimeout, log);
-    throwIfCancelled(stop);
     const auto secondCount = countMissing(info.folder, stop);
     const auto after = co_await secondCount;
     throwIfCancelled(stop);
