@@ -5,9 +5,12 @@
 #include "Views/TextFit.h"
 
 #include "Shell/Translation.h"
+#include "Shell/WidgetDesktop.h"
 
 #include <QDir>
 #include <QLocale>
+#include <QMessageBox>
+#include <QTimer>
 
 #include <string>
 #include <vector>
@@ -83,6 +86,28 @@ TEST_P(LanguageLayout, cutsNothingInTheSheets)
     settings().reject();
     settle();
     expectFitting(about(), "about");
+}
+
+TEST_P(LanguageLayout, cutsNothingInTheAlerts)
+{
+    enter(Phase::Kind::ready);
+    desktop.answer = false;
+    model().updateGame();
+    model().reinstall();
+    model().removeEverything();
+    enter(Phase::Kind::playing);
+    EXPECT_FALSE(model().confirmQuit());
+    ASSERT_EQ(desktop.questions.size(), 4);
+    auto number = 0;
+    for (const auto& question : desktop.questions) {
+        const auto state = "alert-" + std::to_string(++number);
+        QTimer::singleShot(0, &window(), [&] {
+            auto& alert = only<QMessageBox>();
+            expectFitting(alert, state);
+            alert.reject();
+        });
+        EXPECT_FALSE(WidgetDesktop().confirm(question.title, question.message, question.button));
+    }
 }
 
 TEST_P(LanguageLayout, isDrawnInAFontThatHasItsCharacters)
