@@ -6,7 +6,9 @@ import random
 import shutil
 import subprocess
 
-VERSION = "3.5.3-stable"
+from rig import product
+
+VERSION = product.ENGINE_VERSION
 ENGINE_PROGRAM = f"Godot_v{VERSION}_x11.64"
 MARKER = f".setup-v2-{VERSION}"
 

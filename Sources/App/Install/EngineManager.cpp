@@ -19,11 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString editionName(const EngineManager& manager)
-{
-    return EngineManager::version() + (manager.mono ? u"-mono"_s : QString());
-}
-
 /// Sets the execute bit, which an archive may lack.
 void makeExecutable(const QString& program)
 {
@@ -77,7 +72,7 @@ QString installEngine(const EngineManager& manager, const FileDownloader& downlo
         {.announcement = u"Downloading %1 from godotengine/godot releases…"_s.arg(archiveName),
          .url = [&] { return EngineManager::releaseURL(archiveName); },
          .target = manager.folder(),
-         .verify = [&](const InputFile& archive) { verify(archive, expected, log, stop); },
+         .beforeUnpacking = [&](const InputFile& archive) { verify(archive, expected, log, stop); },
          .finish =
              [&](const QString& staging) {
                  if (const auto tool = platform.clearQuarantineCommand(staging))
@@ -99,6 +94,11 @@ QString EngineManager::version()
     return GameFacts::engineVersion.toString();
 }
 
+QString EngineManager::build() const
+{
+    return version() + (mono ? u"-mono"_s : QString());
+}
+
 QString EngineManager::archiveName() const
 {
     return u"Godot_v%1_%2"_s.arg(version(), hostPlatform().engineArchiveSuffix(mono));
@@ -106,12 +106,12 @@ QString EngineManager::archiveName() const
 
 QString EngineManager::folder() const
 {
-    return Paths::engines() + u'/' + editionName(*this);
+    return Paths::engines() + u'/' + build();
 }
 
 QString EngineManager::markerFile() const
 {
-    return Paths::game() + u"/.setup-v2-"_s + editionName(*this);
+    return Paths::game() + u"/.setup-v2-"_s + build();
 }
 
 QUrl EngineManager::releaseURL(const QString& fileName)

@@ -21,7 +21,11 @@ struct EngineManager
     /// Selects the C# edition.
     bool mono = false;
 
+    /// Returns the version without the edition.
     static QString version();
+
+    /// Returns the version and the edition, such as "3.5.3-stable-mono".
+    [[nodiscard]] QString build() const;
 
     /// Returns the archive's name in the release. Throws AppError if there is no build for the
     /// processor.

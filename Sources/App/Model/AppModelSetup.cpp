@@ -127,10 +127,9 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
     } else {
         throwIfCancelled(stop);
         ensureOwner();
-        const auto edition = manager.mono ? u"-mono"_s : QString();
         //: %1 is a version, such as "3.5.3-stable-mono".
-        enter(Phase::downloading(), tr("Step 2 of 4 · Downloading the Godot engine (%1)")
-                                        .arg(EngineManager::version() + edition));
+        enter(Phase::downloading(),
+              tr("Step 2 of 4 · Downloading the Godot engine (%1)").arg(manager.build()));
         const auto installing = manager.install(makeDownloader(), m_log.callback(), stop);
         engine = co_await installing;
     }

@@ -8,7 +8,9 @@ import subprocess
 import zipfile
 from pathlib import Path
 
-VERSION = "3.5.3-stable"
+from rig import product
+
+VERSION = product.ENGINE_VERSION
 REAL_ENGINE = Path("/usr/bin/godot3")
 
 # How the script gets the assets imported: at once, or never.

@@ -1,4 +1,16 @@
 # SPDX-License-Identifier: MIT
-"""The name that the product goes by: the title of its windows and the name of its folders."""
+"""The product's own facts, read from its sources."""
 
-NAME = "Cavernyx Platformer"
+import re
+from pathlib import Path
+
+_FACTS = (Path(__file__).resolve().parents[3] / "Sources/App/Project/GameFacts.h").read_text()
+
+
+def _fact(name: str) -> str:
+    return re.search(rf' {name} = u"([^"]+)";', _FACTS).group(1)
+
+
+# The title of its windows, and the name of its folders.
+NAME = _fact("launcherName")
+ENGINE_VERSION = _fact("engineVersion")

@@ -5,13 +5,15 @@ A tree is a dictionary from a path below a folder, "." for the folder itself, to
 ("file", mode, contents) or ("link", target)."""
 
 import hashlib
+import re
 import stat
 import subprocess
 import tempfile
 from pathlib import Path
 
 OLD, NEW = "old", "new"
-BUILD = "3.5.3-stable"
+FACTS = Path(__file__).resolve().parents[3] / "Sources/App/Project/GameFacts.h"
+BUILD = re.search(r' engineVersion = u"([^"]+)";', FACTS.read_text()).group(1)
 ENGINE = f"Godot_v{BUILD}_x11.64"
 MARKER = f".setup-v2-{BUILD}"
 PROJECT = "tetherwalk-master/game"
