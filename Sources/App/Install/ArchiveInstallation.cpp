@@ -43,7 +43,7 @@ void installArchive(const ArchiveInstallation& what, const FileDownloader& downl
     log(what.announcement);
     const auto archive = downloader.start(what.url(), temporary.path(), stop);
     throwIfCancelled(stop);
-    what.verify(archive);
+    what.beforeUnpacking(archive);
     Paths::ensure(QFileInfo(what.target).path());
     const StagingFolder staging(what.target, stop);
     Unzipper::unzip(archive, staging.path(), log, stop, platform);

@@ -22,8 +22,8 @@ struct ArchiveInstallation
     std::function<QUrl()> url;
     /// The installed folder.
     QString target;
-    /// Checks the archive before it is unpacked. Throws to refuse it.
-    std::function<void(const InputFile& archive)> verify;
+    /// Called with the complete archive before it is unpacked. Throws to refuse it.
+    std::function<void(const InputFile& archive)> beforeUnpacking;
     /// Checks and completes the unpacked folder before it replaces the target. Throws to refuse it.
     std::function<void(const QString& staging)> finish;
 };

@@ -48,7 +48,7 @@ QString install(const FileDownloader& downloader, const LogCallback& log,
              u"Downloading the game source from GitHub (branch %1)…"_s.arg(RepoDownloader::branch),
          .url = RepoDownloader::zipURL,
          .target = game,
-         .verify = [&log](const InputFile&) { log(u"Unpacking the game with ditto…"_s); },
+         .beforeUnpacking = [&log](const InputFile&) { log(u"Unpacking the game with ditto…"_s); },
          .finish = [&game](const QString& staging) { check(staging, game); }},
         downloader, log, stop, hostPlatform());
     const auto project = ProjectInspector::findProject(game);

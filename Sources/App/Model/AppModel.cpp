@@ -26,8 +26,6 @@ namespace {
 const auto fullscreenKey = u"fullscreen"_s;
 const auto resolutionKey = u"resolution"_s;
 
-constexpr int maxLogLines = 2000;
-
 int wholeSeconds(std::chrono::milliseconds duration)
 {
     return static_cast<int>(std::chrono::ceil<std::chrono::seconds>(duration).count());
@@ -39,7 +37,7 @@ AppModel::AppModel(Desktop& desktop, InstallationLock& lock, const Durations& du
     : m_desktop(desktop)
     , m_lock(lock)
     , m_durations(durations)
-    , m_log(maxLogLines, durations.logFlushInterval)
+    , m_log(LogStore::usualMaxLines, durations.logFlushInterval)
     , m_runner(durations)
 {
     m_fullscreen = StoredSettings::value(fullscreenKey).toBool();

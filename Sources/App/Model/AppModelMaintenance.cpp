@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int copiedLogLines = 2000;
-
 /// Replaces a folder that cannot be renamed by an empty one.
 void emptyInPlace(const QString& folder, const std::stop_token& stop)
 {
@@ -201,7 +199,7 @@ void AppModel::copyFailure()
 
 void AppModel::copyLog()
 {
-    m_desktop.copyText(m_log.newest(copiedLogLines).join(u'\n'));
+    m_desktop.copyText(m_log.newest(LogStore::usualMaxLines).join(u'\n'));
 }
 
 bool AppModel::confirmQuit()

@@ -23,8 +23,10 @@ class LogStore final : public QObject
     Q_OBJECT
 
 public:
+    static constexpr int usualMaxLines = 2000;
+
     /// Keeps at most `maxLines` lines. Belongs to the thread that creates it, the main thread.
-    explicit LogStore(int maxLines = 2000,
+    explicit LogStore(int maxLines = usualMaxLines,
                       std::chrono::milliseconds flushInterval = Durations().logFlushInterval);
 
     /// Adds the lines of `text`, empty ones included. Any thread.
