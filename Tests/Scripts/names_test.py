@@ -38,6 +38,21 @@ class NamesTest(unittest.TestCase):
         self.assertIn(f"cavernyx-platformer_{version()}+deb12_amd64.deb", readme)
         self.assertIn(f"cavernyx-platformer-{version()}-x86_64.tar.xz", readme)
 
+    def test_each_language_is_everywhere(self):
+        desktop = (ROOT / "Packaging" / "launcher.desktop.in").read_text()
+        metainfo = (ROOT / "Packaging" / "launcher.metainfo.xml.in").read_text()
+        scenario = (ROOT / "Tests" / "EndToEnd" / "scenarios" / "languages.py").read_text()
+        codes = [file.stem.split("_", 1)[1] for file in (ROOT / "Translations").glob("*.ts")]
+        self.assertGreater(len(codes), 0)
+        for code in codes:
+            with self.subTest(code):
+                for key in ("GenericName", "Comment", "Keywords"):
+                    self.assertIn(f"\n{key}[{code}]=", desktop)
+                self.assertEqual(metainfo.count(f'xml:lang="{code}"'),
+                                 metainfo.count('xml:lang="') / len(codes))
+                self.assertIn(f'    "{code[:2]}_', scenario)
+                self.assertTrue((ROOT / "Translations" / "glossary" / f"{code}.md").is_file())
+
 
 if __name__ == "__main__":
     unittest.main()
