@@ -34,9 +34,7 @@ class InstallationLock;
 ///
 /// Play and the maintenance actions start a flow. One flow runs at a time.
 ///
-/// Five source files: AppModel.cpp holds the state, AppModelFlow.cpp the start and end of a flow,
-/// AppModelSetup.cpp the four steps of the setup, AppModelLaunch.cpp the run of the game,
-/// AppModelMaintenance.cpp the maintenance actions.
+/// ARCHITECTURE.md says which of the five source files holds what.
 class AppModel final : public QObject
 {
     Q_OBJECT
@@ -96,7 +94,8 @@ public:
     /// Stops the running game; that is not a failure. Returns at once; flowEnded() follows.
     void stopGame();
 
-    /// Each asks the player for confirmation, then starts a flow. Does nothing while busy.
+    /// Each asks the player for confirmation, then starts a flow. Does nothing while busy. The
+    /// first two end in playing the game.
     void updateGame();
     void reinstall();
     void removeEverything();

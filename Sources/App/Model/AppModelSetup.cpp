@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The four steps of Play. Each step checks the disk and is skipped if it is already complete.
+// Play, and its first three steps: the game, the engine, the import. Each checks the disk and is
+// skipped if it is already complete.
 #include "Model/AppModel.h"
 
 #include "Install/EngineManager.h"

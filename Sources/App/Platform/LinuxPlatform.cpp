@@ -95,7 +95,7 @@ QString LinuxPlatform::engineArchiveSuffix(bool mono) const
 
 std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFolder) const
 {
-    // The engine's releases have one level at most.
+    // The engine's releases have one level at most. The limit bounds the search in other folders.
     constexpr int maxLevel = 8;
     QStringList level{engineFolder};
     for (int depth = 0; depth <= maxLevel && !level.isEmpty(); ++depth) {

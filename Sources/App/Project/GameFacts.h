@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// Everything specific to the game of this launcher. A launcher for another Godot 3 game changes
-/// this file, the icons, the pictures and the translations.
+/// Everything specific to the game of this launcher. ARCHITECTURE.md says what else a launcher for
+/// another Godot 3 game changes.
 ///
 /// CMake reads the launcher's names from this file, so each of them must be on one line.
 namespace GameFacts {

@@ -3,7 +3,8 @@
 
 #include <chrono>
 
-/// Every time limit and interval. Production uses these defaults; tests shorten them.
+/// The time limits and intervals of the model and of what it runs. Production uses these defaults;
+/// tests shorten them.
 struct Durations
 {
     /// How long the game must stay open before it counts as started.
