@@ -148,9 +148,11 @@ TEST_F(GameUpdateTest, downloadsAfterADeletionThatIsUnderWay)
         EXPECT_EQ(stagingFolders().filter(u".new-"_s), QStringList());
     });
     model().play();
+    model().log().append(u"a line of the new flow"_s);
     waitForPhase(Phase::Kind::downloading);
     waitForFlow();
     EXPECT_GE(requestsOf(gamePath()), 2);
+    EXPECT_TRUE(logged().contains(u"a line of the new flow"_s));
 }
 
 TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
@@ -202,6 +204,18 @@ TEST_F(GameUpdateTest, reinstallsGameAndEngine)
     // The network library repeats a request when the connection closes at the wrong moment.
     EXPECT_GE(requestsOf(gamePath()), 2);
     EXPECT_GE(requestsOf(enginePath()), 2);
+}
+
+TEST_F(GameUpdateTest, forgetsAFailureWhenItReinstalls)
+{
+    serveList({});
+    playToTheEnd();
+    ASSERT_TRUE(model().failureText());
+    serveScript(goodEngine);
+    model().reinstall();
+    waitForFlow();
+    EXPECT_EQ(model().phase(), Phase::ready());
+    EXPECT_FALSE(model().failureText());
 }
 
 } // namespace

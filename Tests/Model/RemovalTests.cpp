@@ -213,6 +213,20 @@ TEST_F(RemovalTest, refusesEverythingUntilTheFoldersAreMovedAside)
     EXPECT_FALSE(exists({}));
 }
 
+TEST_F(RemovalTest, saysThatItWasCancelled)
+{
+    installGame();
+    startModel();
+    {
+        const BusyPool busy;
+        model().removeEverything();
+        model().cancelSetup();
+    }
+    waitForFlow();
+    EXPECT_EQ(logged(), QStringList{u"Cancelled."_s});
+    waitForDeletion();
+}
+
 TEST_F(RemovalTest, saysThatNothingIsDownloadedWhileItStillDeletes)
 {
     installGame();

@@ -78,7 +78,6 @@ QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
     co_await waitForDeletion();
     const auto moving = offThread([stop] { moveAside(stop); });
     co_await moving;
-    throwIfCancelled(stop);
     clearStaleFolders();
     refreshState();
     m_failureText.reset();
