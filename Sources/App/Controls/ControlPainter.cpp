@@ -81,15 +81,14 @@ void paintTintedBox(QPainter& painter, const QRectF& rect, double radius, const 
         paintRoundedRect(painter, rect, radius, Qt::NoPen, tint);
         return;
     }
-    const auto edge = isEnabled ? SystemColors::edge(palette) : SystemColors::disabledEdge(palette);
-    paintRoundedRect(painter, rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, edge, tint);
+    paintRoundedRect(painter, rect.adjusted(0.5, 0.5, -0.5, -0.5), radius,
+                     SystemColors::edge(palette, isEnabled), tint);
 }
 
 void paintBezel(QPainter& painter, const QRectF& rect, QStyle::State state, const QPalette& palette)
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
-    const auto isEnabled = state.testFlag(QStyle::State_Enabled);
-    const auto edge = isEnabled ? SystemColors::edge(palette) : SystemColors::disabledEdge(palette);
+    const auto edge = SystemColors::edge(palette, state.testFlag(QStyle::State_Enabled));
     const auto face = inState(palette.color(QPalette::Active, QPalette::Button), state, text);
     paintRoundedRect(painter, rect.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, edge, face);
     if (showsFocus(state))

@@ -112,17 +112,12 @@ QColor panel(const QPalette& palette)
     return withOpacity(secondary, secondary.alphaF() * panelOpacity);
 }
 
-QColor edge(const QPalette& palette)
+QColor edge(const QPalette& palette, bool isEnabled)
 {
     const auto text = palette.color(QPalette::Active, QPalette::WindowText);
-    return isHighContrast(palette) ? text : withOpacity(text, 0.22);
-}
-
-QColor disabledEdge(const QPalette& palette)
-{
-    return isHighContrast(palette)
-               ? disabledText(palette)
-               : withOpacity(palette.color(QPalette::Active, QPalette::WindowText), 0.12);
+    if (isHighContrast(palette))
+        return isEnabled ? text : disabledText(palette);
+    return withOpacity(text, isEnabled ? 0.22 : 0.12);
 }
 
 QColor focusRing(const QPalette& palette)

@@ -29,9 +29,7 @@ namespace SystemColors {
 [[nodiscard]] QColor panel(const QPalette& palette);
 
 /// The line around a control, a menu or a dialog.
-[[nodiscard]] QColor edge(const QPalette& palette);
-/// The line around a disabled control.
-[[nodiscard]] QColor disabledEdge(const QPalette& palette);
+[[nodiscard]] QColor edge(const QPalette& palette, bool isEnabled = true);
 
 /// The ring around the control that has the focus.
 [[nodiscard]] QColor focusRing(const QPalette& palette);
