@@ -127,6 +127,17 @@ ZipEntry::Kind kindOf(quint32 mode, const QByteArray& name)
 
 } // namespace
 
+QString ZipEntry::shownName() const
+{
+    constexpr qsizetype maxLength = 200;
+    auto shown = QString::fromUtf8(name.first(std::min(name.size(), maxLength * 4)));
+    for (auto& character : shown) {
+        if (!character.isPrint())
+            character = QChar::ReplacementCharacter;
+    }
+    return shown.size() <= maxLength ? shown : shown.first(maxLength) + u'…';
+}
+
 void ZipArchive::Content::Close::operator()(zip_file* file) const
 {
     zip_fclose(file);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Install/Zip/ZipEntry.h"
+#include "Install/Zip/ZipArchive.h"
 
 #include <QByteArray>
 
