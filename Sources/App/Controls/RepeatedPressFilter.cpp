@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -28,13 +29,44 @@ QWidget* pressedControl(QWidget& focused, int key)
     return found == buttons.end() ? nullptr : *found;
 }
 
-} // namespace
-
-RepeatedPressFilter::RepeatedPressFilter(QObject& parent)
-    : QObject(&parent)
+class RepeatedPressFilter final : public QObject
 {
-    qApp->installEventFilter(this);
-}
+public:
+    /// Becomes a child of `parent`.
+    explicit RepeatedPressFilter(QObject& parent)
+        : QObject(&parent)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    struct Press
+    {
+        /// 0 for the left mouse button.
+        int key = Qt::Key_unknown;
+        bool isAutoRepeat = false;
+        quint64 time = 0;
+        QPoint position;
+        QPointer<QWidget> receiver;
+        /// What the press acts on: the receiver, or the default button.
+        QPointer<QWidget> control;
+    };
+
+    /// Returns true if `press` is the last one again: it is sent to each parent of its receiver
+    /// until one accepts it.
+    [[nodiscard]] bool isPropagated(const Press& press) const;
+
+    /// Returns true if `press` belongs to the series of the last one.
+    [[nodiscard]] bool continuesSeries(const Press& press) const;
+    /// Remembers `press`. Returns true if it must be ignored.
+    bool handlePress(Press press);
+
+    Press m_last;
+};
+
+} // namespace
 
 bool RepeatedPressFilter::eventFilter(QObject* object, QEvent* event)
 {
@@ -46,20 +78,20 @@ bool RepeatedPressFilter::eventFilter(QObject* object, QEvent* event)
     case QEvent::MouseButtonDblClick: {
         const auto& mouse = *static_cast<QMouseEvent*>(event);
         return mouse.button() == Qt::LeftButton &&
-               drops({.key = 0,
-                      .time = mouse.timestamp(),
-                      .position = mouse.globalPosition().toPoint(),
-                      .receiver = widget,
-                      .control = widget});
+               handlePress({.key = 0,
+                            .time = mouse.timestamp(),
+                            .position = mouse.globalPosition().toPoint(),
+                            .receiver = widget,
+                            .control = widget});
     }
     case QEvent::KeyPress: {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        return drops({.key = key.key(),
-                      .isAutoRepeat = key.isAutoRepeat(),
-                      .time = key.timestamp(),
-                      .position = {},
-                      .receiver = widget,
-                      .control = pressedControl(*widget, key.key())});
+        return handlePress({.key = key.key(),
+                            .isAutoRepeat = key.isAutoRepeat(),
+                            .time = key.timestamp(),
+                            .position = {},
+                            .receiver = widget,
+                            .control = pressedControl(*widget, key.key())});
     }
     case QEvent::EnabledChange:
     case QEvent::Hide:
@@ -90,15 +122,20 @@ bool RepeatedPressFilter::continuesSeries(const Press& press) const
            (press.isAutoRepeat || press.time - m_last.time < interval);
 }
 
-bool RepeatedPressFilter::drops(Press press)
+bool RepeatedPressFilter::handlePress(Press press)
 {
     // A press without a time is made by the program.
     if (press.time == 0 || isPropagated(press))
         return false;
     const auto isPress = press.key == 0 || press.key == Qt::Key_Space || isReturn(press.key);
-    const auto isDropped = isPress && continuesSeries(press) && press.control != m_last.control;
-    if (isDropped)
+    const auto isIgnored = isPress && continuesSeries(press) && press.control != m_last.control;
+    if (isIgnored)
         press.control = m_last.control;
     m_last = press;
-    return isDropped;
+    return isIgnored;
+}
+
+void ignoreRepeatedPresses(QObject& parent)
+{
+    new RepeatedPressFilter(parent);
 }

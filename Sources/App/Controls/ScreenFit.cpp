@@ -2,8 +2,29 @@
 #include "Controls/ScreenFit.h"
 
 #include <QEvent>
+#include <QPointer>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
+
+namespace {
+
+class ScreenFit final : public QObject
+{
+public:
+    /// Becomes a child of `window`.
+    ScreenFit(QWidget& window, const std::function<void(QSize)>& fit);
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void setScreen(QScreen* screen);
+    void fit();
+
+    QWidget& m_window;
+    std::function<void(QSize)> m_fit;
+    QPointer<QScreen> m_screen;
+};
 
 ScreenFit::ScreenFit(QWidget& window, const std::function<void(QSize)>& fit)
     : QObject(&window)
@@ -44,4 +65,11 @@ void ScreenFit::fit()
     const auto* const handle = framed ? framed->windowHandle() : nullptr;
     const auto frame = handle ? handle->frameMargins() : QMargins();
     m_fit(m_window.screen()->availableSize().shrunkBy(frame));
+}
+
+} // namespace
+
+void fitToScreen(QWidget& window, const std::function<void(QSize)>& fit)
+{
+    new ScreenFit(window, fit);
 }

@@ -52,7 +52,7 @@ void Sheet::setContent(int spacing, const QList<StackItem>& children)
     // Otherwise they would cover the edge of the sheet.
     m_content->viewport()->setAutoFillBackground(false);
     m_content->widget()->setAutoFillBackground(false);
-    new ScreenFit(*this, [this](QSize available) {
+    fitToScreen(*this, [this](QSize available) {
         m_available = available;
         fit();
     });

@@ -75,9 +75,9 @@ ContentView::ContentView(AppModel& model)
                   spacer,
               });
     setWindowTitle(GameFacts::launcherName.toString());
-    new ScreenFit(*this, [this](QSize available) { fit(available); });
+    fitToScreen(*this, [this](QSize available) { fit(available); });
     new Dimmer(*this);
-    new RepeatedPressFilter(*this);
+    ignoreRepeatedPresses(*this);
     m_panel->playButton().setFocus();
 
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ContentView::keepPlayInView);
