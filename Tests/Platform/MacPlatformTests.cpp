@@ -21,6 +21,13 @@ TEST(MacPlatform, keepsDataInTheLibraryOfTheHomeFolder)
               u"/Users/player/Library/Application Support/Godot/app_userdata/Tiny: Game"_s);
 }
 
+TEST(MacPlatform, keepsTranslationsInTheBundlesResources)
+{
+    const auto folder =
+        MacPlatform().translationsFolder(u"/a/Game.app/Contents/MacOS"_s, u"a-game"_s);
+    EXPECT_EQ(QDir::cleanPath(folder), u"/a/Game.app/Contents/Resources/translations"_s);
+}
+
 TEST(MacPlatform, namesOneEngineArchiveForEveryProcessor)
 {
     EXPECT_EQ(MacPlatform().engineArchiveSuffix(false), u"osx.universal.zip"_s);

@@ -106,6 +106,11 @@ std::optional<QString> LinuxPlatform::findEngineProgram(const QString& engineFol
     return std::nullopt;
 }
 
+QString LinuxPlatform::translationsFolder(const QString& programFolder, const QString& name) const
+{
+    return u"%1/../share/%2/translations"_s.arg(programFolder, name);
+}
+
 QString LinuxPlatform::savesFolder(const QString& gameName) const
 {
     return applicationSupport() + u"/godot/app_userdata/"_s + engineFolderName(gameName);

@@ -24,6 +24,9 @@ public:
     /// string order if there are several.
     [[nodiscard]] std::optional<QString>
     findEngineProgram(const QString& engineFolder) const override;
+    /// `share/<name>/translations` beside the program's folder.
+    [[nodiscard]] QString translationsFolder(const QString& programFolder,
+                                             const QString& name) const override;
     /// `applicationSupport()/godot/app_userdata/<name>`, with characters of the name replaced.
     [[nodiscard]] QString savesFolder(const QString& gameName) const override;
 

@@ -74,6 +74,11 @@ std::optional<ToolCommand> MacPlatform::clearQuarantineCommand(const QString& fo
     return ToolCommand{u"/usr/bin/xattr"_s, {u"-dr"_s, u"com.apple.quarantine"_s, folder}};
 }
 
+QString MacPlatform::translationsFolder(const QString& programFolder, const QString&) const
+{
+    return programFolder + u"/../Resources/translations"_s;
+}
+
 QString MacPlatform::savesFolder(const QString& gameName) const
 {
     return applicationSupport() + u"/Godot/app_userdata/"_s + gameName;

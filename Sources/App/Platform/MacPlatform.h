@@ -24,6 +24,9 @@ public:
     /// `/usr/bin/xattr -dr com.apple.quarantine <folder>`.
     [[nodiscard]] std::optional<ToolCommand>
     clearQuarantineCommand(const QString& folder) const override;
+    /// The bundle's `Contents/Resources/translations`.
+    [[nodiscard]] QString translationsFolder(const QString& programFolder,
+                                             const QString& name) const override;
     /// `~/Library/Application Support/Godot/app_userdata/<gameName>`.
     [[nodiscard]] QString savesFolder(const QString& gameName) const override;
 };

@@ -54,6 +54,11 @@ public:
         return std::nullopt;
     }
 
+    /// Returns the folder of the translations of the program `name`, which is in the folder
+    /// `programFolder`.
+    [[nodiscard]] virtual QString translationsFolder(const QString& programFolder,
+                                                     const QString& name) const = 0;
+
     /// Returns the engine's folder for the saves of the game `gameName`. It may not exist.
     [[nodiscard]] virtual QString savesFolder(const QString& gameName) const = 0;
 };

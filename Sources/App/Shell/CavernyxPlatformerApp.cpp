@@ -7,6 +7,7 @@
 #include "Model/AppModel.h"
 #include "Platform/Appearance.h"
 #include "Platform/FontConfiguration.h"
+#include "Platform/Platform.h"
 #include "Project/GameFacts.h"
 #include "Shell/AppDelegate.h"
 #include "Shell/SetupMonitor.h"
@@ -121,8 +122,8 @@ void releaseLock()
 
 QString translationsFolder()
 {
-    return u"%1/../share/%2/translations"_s.arg(QCoreApplication::applicationDirPath(),
-                                                GameFacts::programName);
+    return hostPlatform().translationsFolder(QCoreApplication::applicationDirPath(),
+                                             GameFacts::programName.toString());
 }
 
 } // namespace
