@@ -65,6 +65,7 @@ def install(release: str) -> str:
     system.install(system.put(deb(release)), recommends=True)
     expect_engine_libraries(system)
     play(system, "packaged_play", INSTALLED)
+    play(system, "packaged_wayland", INSTALLED)
     system.remove()
     return "installed, played, and the engine's libraries are there"
 
@@ -100,6 +101,7 @@ def bundle(release: str) -> str:
     system.install(*DESKTOP)
     program = unpack_bundle(system)
     play(system, "packaged_play", program)
+    play(system, "packaged_wayland", program)
     integrate = str(Path(program).parent / "integrate")
     for argument, entries in ((), 1), (("--remove",), 0):
         system.run(integrate, *argument)
