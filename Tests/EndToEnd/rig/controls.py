@@ -75,8 +75,14 @@ class Controls:
 
     def focused(self) -> str:
         """The name of the control that the keyboard speaks to, in the window that it speaks to."""
+        def is_in_closed_list(control) -> bool:
+            # Qt 6.8 says of the current item of a closed list that it shows and has the focus.
+            return (control.get_role() == self._atspi.Role.LIST_ITEM
+                    and not self.has(control.get_parent(), "SHOWING"))
+
         names = [self._if_there(control.get_name) for control in self._below(self._application)
-                 if self.has(control, "FOCUSED") and self.has(control, "SHOWING")]
+                 if self.has(control, "FOCUSED") and self.has(control, "SHOWING")
+                 and not self._if_there(lambda: is_in_closed_list(control))]
         return next((name for name in reversed(names) if name), "")
 
     def has(self, control, state: str) -> bool:
