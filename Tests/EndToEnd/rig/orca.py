@@ -45,14 +45,17 @@ class Orca:
 
 
 def run() -> None:
+    import orca.orca  # Since Orca 48 its parts cannot be loaded before it.
     from orca import settings, speech, speechserver
 
     class Recorder(speechserver.SpeechServer):
         def speak(self, text=None, acss=None, interrupt=True):
             print(f"{SAID}{text}", flush=True)
 
-        def speakCharacter(self, character, acss=None):
+        def speak_character(self, character, acss=None):
             self.speak(character)
+
+        speakCharacter = speak_character  # Orca 43
 
     # Every change that the launcher tells of, instead of one in ten seconds.
     settings.progressBarUpdateInterval = 0
