@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "FileDownloaderTest.h"
+#include "Support/InAnotherProcess.h"
+#include "Support/OwnMounts.h"
 #include "Support/UnchangeableScope.h"
 
 #include <utility>
 
 #include <csignal>
 
+#include <sys/mount.h>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -199,6 +202,27 @@ TEST_F(FileDownloaderTest, refusesWhatDoesNotFitOnTheDiskAsSoonAsItsLengthIsKnow
         << outcome.sentence;
     EXPECT_TRUE(folder.names().isEmpty());
 }
+
+#if defined(Q_OS_LINUX)
+TEST_F(FileDownloaderTest, endsADownloadOfUnknownLengthBeforeTheDiskIsFull)
+{
+    server.on(file, HttpServer::replyWithoutLength(QByteArray(3'000'000, 'x')));
+    const auto status = inAnotherProcess([this] {
+        if (!separateMounts() || ::mount("tmpfs", QFile::encodeName(folder.path()).constData(),
+                                         "tmpfs", 0, "size=4000k") != 0)
+            return noOwnMounts;
+        const auto sentence = download(file).sentence;
+        return sentence == u"The download of “%1” takes up all that is free in “%2”, but for a "
+                           "reserve. Make room there and try again."_s.arg(
+                               server.url(file).toString(), QFileInfo(folder.path()).path())
+                   ? 0
+                   : 1;
+    });
+    if (status == noOwnMounts)
+        GTEST_SKIP() << "This system allows no mount here.";
+    EXPECT_EQ(status, 0);
+}
+#endif
 
 TEST_F(FileDownloaderTest, keepsReadingWhatItReceivedWhateverHappensToTheName)
 {

@@ -42,7 +42,6 @@ void installArchive(const ArchiveInstallation& what, const FileDownloader& downl
     const auto temporary = Paths::newTempDir();
     log(what.announcement);
     const auto archive = downloader.start(what.url(), temporary.path(), stop);
-    throwIfCancelled(stop);
     what.beforeUnpacking(archive);
     Paths::ensure(QFileInfo(what.target).path());
     const StagingFolder staging(what.target, stop);

@@ -7,6 +7,8 @@
 #include "System/FileTree.h"
 #include "System/InstallationLock.h"
 
+#include <tuple>
+
 QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
 {
     if (!lock.isHeld() || lock.isGameRunning())
@@ -16,8 +18,10 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
             FileTree::supersede(target, complete);
         auto folders = Paths::stagingFolders();
         for (const auto& [backup, target] : Paths::backupFolders()) {
-            if (FileTree::exists(target) || FileTree::rename(backup, target) != 0)
+            if (FileTree::exists(target))
                 folders.append(backup);
+            else // If it fails, the next start tries again.
+                std::ignore = FileTree::rename(backup, target);
         }
         return folders;
     } catch (const PlatformError&) {
