@@ -70,9 +70,9 @@ void DesktopNotification::showThroughPortal(const QString& title, const QString&
     question << portalId
              << QVariantMap{
                     {u"title"_s, title}, {u"body"_s, body}, {u"default-action"_s, portalAction}};
-    show(question, [](const QDBusMessage& reply) -> Withdraw {
-        auto removal = QDBusMessage::createMethodCall(reply.service(), portalPath, portalInterface,
-                                                      u"RemoveNotification"_s);
+    show(question, [](const QDBusMessage&) -> Withdraw {
+        auto removal = portalCall(u"Notification"_s, u"RemoveNotification"_s);
+        removal.setAutoStartService(false);
         removal << portalId;
         return [removal] { QDBusConnection::sessionBus().send(removal); };
     });
@@ -99,8 +99,8 @@ void DesktopNotification::askServer(const QString& applicationId, const QString&
                              << title << (hasMarkup ? body.toHtmlEscaped() : body) << actions
                              << QVariantMap{{u"desktop-entry"_s, applicationId}} << usualDuration;
                     self->show(question, [](const QDBusMessage& shown) -> Withdraw {
-                        auto closing = QDBusMessage::createMethodCall(
-                            shown.service(), serverPath, serverInterface, u"CloseNotification"_s);
+                        auto closing = serverCall(u"CloseNotification"_s);
+                        closing.setAutoStartService(false);
                         closing << shown.arguments().value(0).toUInt();
                         return [closing] { QDBusConnection::sessionBus().send(closing); };
                     });
@@ -125,20 +125,21 @@ void DesktopNotification::show(
                 });
 }
 
-/// Connects to the unique name that sent `reply`. With a well-known name, Qt would block while it
-/// asks the bus for the owner.
+/// Connects to the signals of any sender: with a name, Qt would block while it asks the bus for the
+/// name's owner.
 void DesktopNotification::listen(const QDBusMessage& reply)
 {
+    const QString anySender;
     auto bus = QDBusConnection::sessionBus();
     if (isSandboxed()) {
-        bus.connect(reply.service(), portalPath, portalInterface, u"ActionInvoked"_s, this,
+        bus.connect(anySender, portalPath, portalInterface, u"ActionInvoked"_s, this,
                     SLOT(portalActionInvoked(QDBusMessage)));
         return;
     }
     m_id = reply.arguments().value(0).toUInt();
-    bus.connect(reply.service(), serverPath, serverInterface, u"ActivationToken"_s, this,
+    bus.connect(anySender, serverPath, serverInterface, u"ActivationToken"_s, this,
                 SLOT(setActivationToken(uint, QString)));
-    bus.connect(reply.service(), serverPath, serverInterface, u"ActionInvoked"_s, this,
+    bus.connect(anySender, serverPath, serverInterface, u"ActionInvoked"_s, this,
                 SLOT(actionInvoked(uint, QString)));
 }
 

@@ -21,13 +21,6 @@ namespace {
 /// The next service is also asked if one does not answer for this time.
 constexpr std::chrono::seconds maxSilence{2};
 
-/// Returns a call of an object of the program that sent `reply`.
-QDBusMessage callBack(const QDBusMessage& reply, const QString& path, const QString& interface,
-                      const QString& method)
-{
-    return QDBusMessage::createMethodCall(reply.service(), path, interface, method);
-}
-
 } // namespace
 
 SleepInhibition::SleepInhibition(const QString& reason)
@@ -49,10 +42,11 @@ void SleepInhibition::askPortal()
     const auto anyWindow = QString();
     question << anyWindow << suspend << QVariantMap{{u"reason"_s, m_reason}};
     const auto bus = QDBusConnection::sessionBus();
-    const auto makeRelease = [bus](const QDBusMessage& reply) -> Release {
+    const auto makeRelease = [=](const QDBusMessage& reply) -> Release {
         const auto request = reply.arguments().value(0).value<QDBusObjectPath>().path();
-        const auto close =
-            callBack(reply, request, u"org.freedesktop.portal.Request"_s, u"Close"_s);
+        auto close = QDBusMessage::createMethodCall(
+            question.service(), request, u"org.freedesktop.portal.Request"_s, u"Close"_s);
+        close.setAutoStartService(false);
         return [bus, close] { bus.send(close); };
     };
     ask(bus, question, makeRelease, [this] { askLoginManager(); });
@@ -86,7 +80,8 @@ void SleepInhibition::askScreenSaver()
     question << QCoreApplication::applicationName() << m_reason;
     const auto bus = QDBusConnection::sessionBus();
     const auto makeRelease = [=](const QDBusMessage& reply) -> Release {
-        auto end = callBack(reply, path, interface, u"UnInhibit"_s);
+        auto end = QDBusMessage::createMethodCall(interface, path, interface, u"UnInhibit"_s);
+        end.setAutoStartService(false);
         end << reply.arguments().value(0).toUInt();
         return [bus, end] { bus.send(end); };
     };
@@ -110,7 +105,7 @@ void SleepInhibition::ask(const QDBusConnection& bus, const QDBusMessage& questi
                 return;
             }
             self->m_releases.push_back(release);
-            self->watch(bus, reply.service(), next);
+            self->watch(bus, question.service(), next);
         } else if (self && !wasSilent) {
             next();
         }
