@@ -172,7 +172,8 @@ int CavernyxPlatformerApp::run(SingleInstance& instance)
         return status;
     }
     case SingleInstance::Start::handedOver:
-        return EXIT_SUCCESS;
+        // Qt 6.4 can hang when it closes a Wayland connection that is this new.
+        std::_Exit(EXIT_SUCCESS);
     case SingleInstance::Start::noAnswer:
         warn(tr("%1 is already running, but does not answer. Close it first.")
                  .arg(GameFacts::launcherName));
