@@ -15,9 +15,11 @@ SCREEN = "1920x1080x24"
 class Desktop:
     """Starts with the given environment and adds to it what programs need to find this desktop.
     What the servers print and the pictures taken are kept in `output`.
-    The environment becomes this process's own too, since it listens on the same buses."""
+    The environment becomes this process's own too, since it listens on the same buses.
+    `start_windows` starts what manages the windows, given the file for what that prints."""
 
-    def __init__(self, environment: dict[str, str], output: Path):
+    def __init__(self, environment: dict[str, str], output: Path,
+                 start_windows=window_manager.start):
         self.environment = environment
         self._output = output
         self._taken = 0
@@ -30,7 +32,7 @@ class Desktop:
         os.environ.clear()
         os.environ.update(environment)
         self._start_accessibility_bus()
-        window_manager.start(output / "window-manager.txt")
+        start_windows(output / "window-manager.txt")
 
     def lose_display(self) -> None:
         """Ends the display as a crash of its server would."""

@@ -25,6 +25,10 @@ class Launcher(Program):
         wait_for("The launcher on the accessibility bus", self._has_come)
         wait_for("The launcher's window", lambda: self._controls.showing(TITLE))
 
+    def is_active(self) -> bool:
+        """Whether the keyboard speaks to its window."""
+        return any(self._controls.has(window, "ACTIVE") for window in self._controls.showing(TITLE))
+
     def press(self, name: str) -> None:
         """Presses the button of that name, once it is there and enabled."""
         self._controls.press(name)

@@ -47,9 +47,9 @@ class SessionServices:
         lines = [json.loads(line) for line in self._notes.read_text().splitlines()]
         return [arguments for name, arguments in lines if name == what]
 
-    def click(self) -> None:
-        """Clicks on the notification."""
-        self._server.stdin.write("click\n")
+    def click(self, token: str = "token") -> None:
+        """Clicks on the notification, for which the desktop issues an activation token."""
+        self._server.stdin.write(f"{token}\n")
         self._server.stdin.flush()
 
 
@@ -83,9 +83,10 @@ def serve(notes: Path) -> None:
             invocation.return_value(None)
 
     def ordered(_source, _condition):
-        if not sys.stdin.readline():
+        token = sys.stdin.readline()
+        if not token:
             sys.exit()
-        for signal, value in ("ActivationToken", "token"), ("ActionInvoked", "default"):
+        for signal, value in ("ActivationToken", token.strip()), ("ActionInvoked", "default"):
             connection.emit_signal(None, NOTIFICATIONS_PATH, NOTIFICATIONS, signal,
                                    GLib.Variant("(us)", [SHOWN, value]))
         return True

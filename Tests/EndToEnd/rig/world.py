@@ -5,7 +5,7 @@ import shutil
 import zipfile
 from pathlib import Path
 
-from rig import engine, file_manager, private_world, sample_game, web_host
+from rig import engine, file_manager, private_world, sample_game, web_host, window_manager
 from rig.authority import Authority
 from rig.desktop import Desktop
 from rig.file_manager import Opener, Shower
@@ -19,9 +19,10 @@ from rig.web_host import WebHost
 class World:
     """A fresh player's desktop, made in the folder `scratch`. `program` is the installed one in
     `system`; pictures, the last of them of a failure, and what it prints are kept in
-    `output`."""
+    `output`. `start_windows` is as for `Desktop`."""
 
-    def __init__(self, program: Path, scratch: Path, output: Path, system: System):
+    def __init__(self, program: Path, scratch: Path, output: Path, system: System,
+                 start_windows=window_manager.start):
         self._program = program
         self._system = system
         self.output = output
@@ -33,7 +34,7 @@ class World:
         private_world.hide_displays(scratch)
         self.web = WebHost(scratch / "web", authority)
         self.opener = Opener(self.home.programs)
-        self.desktop = Desktop(self.home.environment(), output)
+        self.desktop = Desktop(self.home.environment(), output, start_windows)
         self.launcher = None
 
     def __enter__(self) -> "World":

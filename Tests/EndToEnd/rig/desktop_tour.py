@@ -1,0 +1,189 @@
+# SPDX-License-Identifier: MIT
+"""What a player does with the launcher's window, on a real desktop."""
+
+import os
+import subprocess
+from contextlib import contextmanager
+from pathlib import Path
+
+from rig.appearance import DARK, LIGHT, Appearance
+from rig.keyboard import press_keys
+from rig.launcher import TITLE
+from rig.other_window import OtherWindow
+from rig.real_desktops import RealDesktop
+from rig.waiting import wait_for
+
+APPLICATION = "io.github.brindlework_demos.cavernyxplatformer"
+DARK_WINDOW, LIGHT_WINDOW = b"\x1e\x1e\x20", b"\xf4\xf4\xf6"
+# How many points of the display have the window's colour at least when the window is in view.
+MIN_VISIBLE = 20000
+
+
+class DesktopTour:
+    """Goes on after a step that fails, and reports each."""
+
+    def __init__(self, world, desktop: RealDesktop, prefix: Path):
+        self._world = world
+        self._desktop = desktop
+        self._prefix = prefix
+        self._background = LIGHT_WINDOW
+        self._appearance = Appearance(LIGHT)
+        self._services = world.start_session_services()
+        self._files = world.start_file_manager()
+        os.environ["XDG_DATA_DIRS"] = f"{prefix}/share:/usr/local/share:/usr/share"
+
+    def run(self, name: str) -> bool:
+        """Returns whether exactly the steps fail that the desktop is known not to allow."""
+        steps = {
+            "open": self._open,
+            "title and icon": self._check_title_and_icon,
+            "appearance": self._change_appearance,
+            "notification": self._click_notification,
+            "second start": self._start_again,
+            "minimise and restore": self._minimize,
+            "sheet": self._open_sheet,
+            "alert": self._open_alert,
+            "reveal": self._reveal,
+            "close": self._close,
+        }
+        as_known = True
+        for step, take in steps.items():
+            problem = self._problem_in(take)
+            refused = step in self._desktop.refuses
+            as_known = as_known and bool(problem) == refused
+            if problem:
+                result = (f"not allowed: {self._desktop.refuses[step]}" if refused
+                          else f"FAILED: {problem}")
+            else:
+                result = "WORKS, although it is known as refused" if refused else "works"
+            print(f"{name}: {step}: {result}", flush=True)
+            self._world.picture(step.replace(" ", "-"))
+        return as_known
+
+    @staticmethod
+    def _problem_in(take) -> str:
+        try:
+            take()
+        except AssertionError as error:
+            return str(error) or "an expectation was not met"
+        return ""
+
+    def _open(self) -> None:
+        self._world.offer_game()
+        self._world.offer_scripted_engine()
+        self._world.web.start()
+        self._start()
+        wait_for("The focus on the window", self._launcher.is_active)
+        wait_for("The window on the display", self._is_visible)
+
+    def _check_title_and_icon(self) -> None:
+        for file in (f"applications/{APPLICATION}.desktop",
+                     f"icons/hicolor/scalable/apps/{APPLICATION}.svg"):
+            assert (self._prefix / "share" / file).exists(), file
+        if self._desktop.is_wayland:
+            said = (self._world.output / "launcher-output.txt").read_text()
+            assert f'set_title("{TITLE}")' in said, "There is no title."
+            assert f'set_app_id("{APPLICATION}")' in said, "The application is not named."
+        else:
+            assert x11_window_has_icon(TITLE), "No window has this title and an icon."
+
+    def _change_appearance(self) -> None:
+        for name, scheme, background in (("dark", DARK, DARK_WINDOW),
+                                         ("light", LIGHT, LIGHT_WINDOW)):
+            self._appearance.change(scheme)
+            self._background = background
+            wait_for(f"A {name} window", self._is_visible)
+            self._world.picture(name)
+
+    def _click_notification(self) -> None:
+        with self._something_in_front() as other:
+            self._launcher.press("Play")
+            try:
+                wait_for("The notification", lambda: self._services.noted("Notify"), seconds=60)
+                self._services.click(other.activation_token())
+                wait_for("The focus on the window", self._launcher.is_active)
+            finally:
+                self._launcher.press("Stop")
+                self._launcher.wait_for_label("Ready")
+
+    def _open_sheet(self) -> None:
+        settings = self._launcher.open_settings()
+        self._world.picture("sheet-open")
+        press_keys("Escape")
+        settings.wait_until_closed()
+        wait_for("The focus on the window", self._launcher.is_active)
+
+    def _open_alert(self) -> None:
+        installed = self._world.home.snapshot()
+        settings = self._launcher.open_settings()
+        settings.press(settings.remove_button())
+        alert = self._launcher.wait_for_alert()
+        self._world.picture("alert-open")
+        press_keys("Escape")
+        alert.wait_until_gone()
+        settings.close()
+        assert self._world.home.snapshot() == installed, "Escape has changed the installation."
+
+    def _reveal(self) -> None:
+        settings = self._launcher.open_settings()
+        settings.press("Reveal in Finder")
+        wait_for("A call of the file manager", self._files.shown)
+        settings.close()
+
+    def _start_again(self) -> None:
+        with self._something_in_front() as other:
+            second = self._world.start_launcher(
+                **self._environment(), XDG_ACTIVATION_TOKEN=other.activation_token())
+            assert second.wait_for_end() == 0
+            wait_for("The focus on the window", self._launcher.is_active)
+            wait_for("The window on the display", self._is_visible)
+
+    def _minimize(self) -> None:
+        assert self._desktop.minimize, "It has no function for that."
+        press_keys(self._desktop.minimize)
+        wait_for("An empty display", lambda: not self._is_visible())
+        self._world.picture("minimised")
+        self._start_again()
+
+    def _close(self) -> None:
+        press_keys(self._desktop.close)
+        assert self._launcher.wait_for_end() == 0
+
+    @contextmanager
+    def _something_in_front(self):
+        with OtherWindow() as other:
+            wait_for("The focus elsewhere", lambda: not self._launcher.is_active())
+            yield other
+
+    def _start(self) -> None:
+        self._launcher = self._world.launcher = self._world.start_launcher(**self._environment())
+        self._launcher.wait_for_window()
+
+    def _environment(self) -> dict[str, str | None]:
+        """Takes the display on which the compositor draws away from the launcher."""
+        return {"DISPLAY": None, "WAYLAND_DEBUG": "1"} if self._desktop.is_wayland else {}
+
+    def _is_visible(self) -> bool:
+        points = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], check=True,
+                                capture_output=True).stdout
+        return points.count(self._background) > MIN_VISIBLE
+
+
+def x11_window_has_icon(title: str) -> bool:
+    """Whether a window of that title is on the display, with an icon."""
+    from Xlib.display import Display
+    display = Display()
+
+    def read(window, name: str) -> bytes:
+        value = window.get_full_property(display.get_atom(name), 0)
+        return bytes(value.value) if value else b""
+
+    def windows_below(window):
+        yield window
+        for child in window.query_tree().children:
+            yield from windows_below(child)
+
+    found = any(read(window, "_NET_WM_NAME").decode() == title and read(window, "_NET_WM_ICON")
+                for window in windows_below(display.screen().root))
+    display.close()
+    return found

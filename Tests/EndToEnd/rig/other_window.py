@@ -1,0 +1,68 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""A window of another program, over the whole screen, for X11 and Wayland. It may start programs, as
+a file manager does."""
+
+import os
+import subprocess
+import sys
+from pathlib import Path
+
+if __name__ == "__main__":
+    sys.path.insert(0, str(Path(__file__).parents[1]))
+
+from rig.keyboard import press_keys
+
+TITLE = "Something else"
+
+
+class OtherWindow:
+    """Waits until it is on the display. It closes at the end of a `with` block."""
+
+    def __enter__(self) -> "OtherWindow":
+        self._program = subprocess.Popen([sys.executable, __file__], stdin=subprocess.PIPE,
+                                         stdout=subprocess.PIPE, text=True)
+        assert self._program.stdout.readline(), "The other window did not open."
+        return self
+
+    def activation_token(self) -> str:
+        """Returns what lets another program take the keyboard, which the compositor issues only for
+        a key press: nothing if it issues none."""
+        press_keys("space")
+        self._program.stdin.write("token\n")
+        self._program.stdin.flush()
+        return self._program.stdout.readline().strip()
+
+    def __exit__(self, *_error) -> None:
+        self._program.kill()
+        self._program.wait()
+
+
+def show() -> None:
+    os.environ["NO_AT_BRIDGE"] = "1"
+    import gi
+    gi.require_version("Gdk", "3.0")
+    gi.require_version("Gtk", "3.0")
+    from gi.repository import Gdk, Gio, GLib, Gtk
+    window = Gtk.Window(title=TITLE)
+    window.add(Gtk.Label(label=TITLE))
+    window.set_default_size(1400, 900)
+    window.maximize()
+    window.connect("map-event", lambda *_: print("ready", flush=True))
+    started = Gio.AppInfo.create_from_commandline("true", None, Gio.AppInfoCreateFlags.NONE)
+
+    def ordered(_source, _condition) -> bool:
+        if not sys.stdin.readline():
+            sys.exit()
+        context = Gdk.Display.get_default().get_app_launch_context()
+        print(context.get_startup_notify_id(started, []) or "", flush=True)
+        return True
+
+    GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IOCondition.IN | GLib.IOCondition.HUP,
+                      ordered)
+    window.show_all()
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    show()

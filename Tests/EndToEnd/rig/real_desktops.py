@@ -1,0 +1,79 @@
+# SPDX-License-Identifier: MIT
+"""The window managers and compositors of real desktops. They draw on the scenario's display: a
+window manager manages its windows, a Wayland compositor shows its screen in one window there."""
+
+import os
+import shutil
+import subprocess
+from dataclasses import dataclass, field
+from pathlib import Path
+
+from rig import window_manager
+from rig.waiting import wait_for
+
+WAYLAND_DISPLAY = "wayland-1"
+
+
+class NotRunning(Exception):
+    """The desktop does not start on this system. Its text is the last line that it printed."""
+
+
+@dataclass(frozen=True)
+class RealDesktop:
+    """`minimize` and `close` are its key presses for the window that has the keyboard. A desktop
+    without a key to minimise has none, and one without a key to close leaves that to the launcher's
+    own. `refuses` names the steps of the tour that it does not allow, each with the reason."""
+
+    command: list[str] = field(default_factory=list)
+    environment: dict[str, str] = field(default_factory=dict)
+    is_wayland: bool = False
+    minimize: str = ""
+    close: str = "ctrl+q"
+    refuses: dict[str, str] = field(default_factory=dict)
+
+    def start(self, log: Path) -> None:
+        """Returns when it is ready for windows."""
+        if not self.command:
+            return
+        if self.is_wayland:
+            window_manager.start(log)  # Gives the keyboard to the compositor's window.
+        with log.open("a") as printed:
+            program, *arguments = [os.path.expandvars(part) for part in self.command]
+            if not shutil.which(program):
+                raise NotRunning(f"{program} is not installed.")
+            server = subprocess.Popen([without_privileges(program), *arguments], stdout=printed,
+                                      stderr=printed, env={**os.environ, **self.environment})
+
+        def is_ready() -> bool:
+            if server.poll() is not None:
+                lines = log.read_text(errors="replace").split("\n")
+                raise NotRunning(next((line for line in reversed(lines) if line), "no message"))
+            return wayland_is_ready() if self.is_wayland else x11_is_ready()
+
+        wait_for("The desktop", is_ready, seconds=60)
+        if self.is_wayland:
+            os.environ.update(WAYLAND_DISPLAY=WAYLAND_DISPLAY, XDG_SESSION_TYPE="wayland")
+
+
+def without_privileges(program: str) -> str:
+    """Returns a copy of the program without the capabilities that its file may have: where the
+    system cannot grant them, it does not start."""
+    return shutil.copy(shutil.which(program), os.environ["TMPDIR"])
+
+
+def wayland_is_ready() -> bool:
+    return Path(os.environ["XDG_RUNTIME_DIR"], WAYLAND_DISPLAY).exists()
+
+
+def x11_is_ready() -> bool:
+    from Xlib.display import Display
+    display = Display()
+    manager = display.screen().root.get_full_property(
+        display.get_atom("_NET_SUPPORTING_WM_CHECK"), 0)
+    display.close()
+    return manager is not None
+
+
+DESKTOPS = {
+    "xfwm4": RealDesktop(["xfwm4", "--vblank=off"], minimize="alt+F9", close="alt+F4"),
+}
