@@ -3,24 +3,30 @@
 
 import os
 import subprocess
+import time
 from contextlib import contextmanager
 from pathlib import Path
 
+from rig import settings_sheet
 from rig.appearance import DARK, LIGHT, Appearance
 from rig.keyboard import press_keys
 from rig.launcher import TITLE
 from rig.other_window import OtherWindow
 from rig.real_desktops import RealDesktop
 from rig.waiting import wait_for
+from rig.x11_windows import X11Window, visible_windows
 
 APPLICATION = "io.github.brindlework_demos.cavernyxplatformer"
 DARK_WINDOW, LIGHT_WINDOW = b"\x1e\x1e\x20", b"\xf4\xf4\xf6"
 # How many points of the display have the window's colour at least when the window is in view.
 MIN_VISIBLE = 20000
+# How long a desktop takes at most to show a window that opens, in seconds.
+ANIMATION = 1
 
 
 class DesktopTour:
-    """Goes on after a step that fails, and reports each."""
+    """Goes on after a step that fails, and reports each. A Wayland compositor does not say where the
+    windows are: there, only the pictures show the places of sheets and alerts."""
 
     def __init__(self, world, desktop: RealDesktop, prefix: Path):
         self._world = world
@@ -52,7 +58,7 @@ class DesktopTour:
             refused = step in self._desktop.refuses
             as_known = as_known and bool(problem) == refused
             if problem:
-                result = (f"not allowed: {self._desktop.refuses[step]}" if refused
+                result = (f"not allowed: {self._desktop.refuses[step]} {problem}" if refused
                           else f"FAILED: {problem}")
             else:
                 result = "WORKS, although it is known as refused" if refused else "works"
@@ -73,8 +79,7 @@ class DesktopTour:
         self._world.offer_scripted_engine()
         self._world.web.start()
         self._start()
-        wait_for("The focus on the window", self._launcher.is_active)
-        wait_for("The window on the display", self._is_visible)
+        self._wait_for_front()
 
     def _check_title_and_icon(self) -> None:
         for file in (f"applications/{APPLICATION}.desktop",
@@ -85,7 +90,8 @@ class DesktopTour:
             assert f'set_title("{TITLE}")' in said, "There is no title."
             assert f'set_app_id("{APPLICATION}")' in said, "The application is not named."
         else:
-            assert x11_window_has_icon(TITLE), "No window has this title and an icon."
+            window, = visible_windows(TITLE)
+            assert window.has_icon, "The window has no icon."
 
     def _change_appearance(self) -> None:
         for name, scheme, background in (("dark", DARK, DARK_WINDOW),
@@ -101,28 +107,37 @@ class DesktopTour:
             try:
                 wait_for("The notification", lambda: self._services.noted("Notify"), seconds=60)
                 self._services.click(other.activation_token())
-                wait_for("The focus on the window", self._launcher.is_active)
+                self._wait_for_front()
             finally:
                 self._launcher.press("Stop")
                 self._launcher.wait_for_label("Ready")
 
     def _open_sheet(self) -> None:
         settings = self._launcher.open_settings()
-        self._world.picture("sheet-open")
+        self._picture_after_animation("sheet-open")
+        windows = visible_windows(TITLE, settings_sheet.NAME)
         press_keys("Escape")
         settings.wait_until_closed()
-        wait_for("The focus on the window", self._launcher.is_active)
+        self._wait_for_focus()
+        self._check_front_is_centered(windows)
 
     def _open_alert(self) -> None:
         installed = self._world.home.snapshot()
         settings = self._launcher.open_settings()
         settings.press(settings.remove_button())
         alert = self._launcher.wait_for_alert()
-        self._world.picture("alert-open")
+        self._picture_after_animation("alert-open")
+        windows = visible_windows(TITLE, settings_sheet.NAME)
         press_keys("Escape")
         alert.wait_until_gone()
         settings.close()
         assert self._world.home.snapshot() == installed, "Escape has changed the installation."
+        self._check_front_is_centered(windows)
+
+    def _check_front_is_centered(self, windows: list[X11Window]) -> None:
+        if not self._desktop.is_wayland:
+            *_, behind, front = windows
+            assert front.is_centered_over(behind), f"{front} is not over {behind}."
 
     def _reveal(self) -> None:
         settings = self._launcher.open_settings()
@@ -135,24 +150,26 @@ class DesktopTour:
             second = self._world.start_launcher(
                 **self._environment(), XDG_ACTIVATION_TOKEN=other.activation_token())
             assert second.wait_for_end() == 0
-            wait_for("The focus on the window", self._launcher.is_active)
-            wait_for("The window on the display", self._is_visible)
+            self._wait_for_front()
 
     def _minimize(self) -> None:
-        assert self._desktop.minimize, "It has no function for that."
+        assert self._desktop.minimize, "There is no key for it."
         press_keys(self._desktop.minimize)
         wait_for("An empty display", lambda: not self._is_visible())
         self._world.picture("minimised")
         self._start_again()
 
     def _close(self) -> None:
+        self._wait_for_focus()
         press_keys(self._desktop.close)
         assert self._launcher.wait_for_end() == 0
 
     @contextmanager
     def _something_in_front(self):
         with OtherWindow() as other:
-            wait_for("The focus elsewhere", lambda: not self._launcher.is_active())
+            # Without a window manager it takes the place, but not the keyboard.
+            wait_for("Something else in front",
+                     lambda: not (self._launcher.is_active() and self._is_visible()))
             yield other
 
     def _start(self) -> None:
@@ -163,27 +180,18 @@ class DesktopTour:
         """Takes the display on which the compositor draws away from the launcher."""
         return {"DISPLAY": None, "WAYLAND_DEBUG": "1"} if self._desktop.is_wayland else {}
 
+    def _wait_for_focus(self) -> None:
+        wait_for("The focus on the window", self._launcher.is_active)
+
+    def _wait_for_front(self) -> None:
+        self._wait_for_focus()
+        wait_for("The window on the display", self._is_visible)
+
+    def _picture_after_animation(self, name: str) -> None:
+        time.sleep(ANIMATION)
+        self._world.picture(name)
+
     def _is_visible(self) -> bool:
         points = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], check=True,
                                 capture_output=True).stdout
         return points.count(self._background) > MIN_VISIBLE
-
-
-def x11_window_has_icon(title: str) -> bool:
-    """Whether a window of that title is on the display, with an icon."""
-    from Xlib.display import Display
-    display = Display()
-
-    def read(window, name: str) -> bytes:
-        value = window.get_full_property(display.get_atom(name), 0)
-        return bytes(value.value) if value else b""
-
-    def windows_below(window):
-        yield window
-        for child in window.query_tree().children:
-            yield from windows_below(child)
-
-    found = any(read(window, "_NET_WM_NAME").decode() == title and read(window, "_NET_WM_ICON")
-                for window in windows_below(display.screen().root))
-    display.close()
-    return found

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""A window of another program, over the whole screen, for X11 and Wayland. It may start programs, as
+"""A large window of another program, for X11 and Wayland. It may start programs, as
 a file manager does."""
 
 import os
@@ -26,8 +26,10 @@ class OtherWindow:
         return self
 
     def activation_token(self) -> str:
-        """Returns what lets another program take the keyboard, which the compositor issues only for
-        a key press: nothing if it issues none."""
+        """Returns what lets another program take the keyboard under Wayland. The compositor issues it
+        only for a key press: nothing if it issues none."""
+        if "WAYLAND_DISPLAY" not in os.environ:
+            return ""
         press_keys("space")
         self._program.stdin.write("token\n")
         self._program.stdin.flush()
@@ -46,8 +48,7 @@ def show() -> None:
     from gi.repository import Gdk, Gio, GLib, Gtk
     window = Gtk.Window(title=TITLE)
     window.add(Gtk.Label(label=TITLE))
-    window.set_default_size(1400, 900)
-    window.maximize()
+    window.set_default_size(1500, 900)
     window.connect("map-event", lambda *_: print("ready", flush=True))
     started = Gio.AppInfo.create_from_commandline("true", None, Gio.AppInfoCreateFlags.NONE)
 

@@ -74,6 +74,36 @@ def x11_is_ready() -> bool:
     return manager is not None
 
 
+NO_ACTIVATION = "It has no protocol for a window that asks for the keyboard."
+NO_MANAGER = "Nothing gives the keyboard back to the window when another closes."
+NO_KEY = "It minimises a window with the mouse only."
+
+# It refuses to run as root, so it takes itself for another user.
+SWAY = ["unshare", "--user", "--map-user=1000",
+        "sway", "--config", str(Path(__file__).with_name("sway.conf"))]
+
 DESKTOPS = {
     "xfwm4": RealDesktop(["xfwm4", "--vblank=off"], minimize="alt+F9", close="alt+F4"),
+    "kwin-x11": RealDesktop(["kwin_x11"], minimize="super+Next", close="alt+F4"),
+    "mutter": RealDesktop(
+        ["mutter", "--wayland", "--nested", "--no-x11", "--wayland-display", WAYLAND_DISPLAY],
+        {"MUTTER_DEBUG_DUMMY_MODE_SPECS": "1600x1000"},
+        is_wayland=True, minimize="super+h", close="alt+F4"),
+    "kwin-wayland": RealDesktop(
+        ["kwin_wayland", "--x11-display", "$DISPLAY", "--socket", WAYLAND_DISPLAY,
+         "--width", "1600", "--height", "1000"], {"KWIN_COMPOSE": "Q"},
+        is_wayland=True, minimize="super+Next", close="alt+F4"),
+    "sway": RealDesktop(
+        SWAY, {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"},
+        is_wayland=True, close="super+shift+q",
+        refuses={"minimise and restore": "It tiles the windows and minimises none."}),
+    "weston": RealDesktop(
+        ["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0",
+         "--width=1600", "--height=1000", f"--socket={WAYLAND_DISPLAY}"], is_wayland=True,
+        refuses={"notification": NO_ACTIVATION, "second start": NO_ACTIVATION,
+                 "minimise and restore": NO_KEY}),
+    "none": RealDesktop(refuses={
+        "notification": "No other window takes the keyboard, so the player seems to be here.",
+        "sheet": NO_MANAGER, "close": NO_MANAGER,
+        "minimise and restore": "Nothing there minimises a window."}),
 }
