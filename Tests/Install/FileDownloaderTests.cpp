@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "FileDownloaderTest.h"
-#include "Support/InAnotherProcess.h"
 #include "Support/OwnMounts.h"
 #include "Support/UnchangeableScope.h"
 
@@ -206,21 +205,16 @@ TEST_F(FileDownloaderTest, refusesWhatDoesNotFitOnTheDiskAsSoonAsItsLengthIsKnow
 #if defined(Q_OS_LINUX)
 TEST_F(FileDownloaderTest, endsADownloadOfUnknownLengthBeforeTheDiskIsFull)
 {
+    RUN_WITH_OWN_MOUNTS();
+    ASSERT_EQ(
+        ::mount("tmpfs", QFile::encodeName(folder.path()).constData(), "tmpfs", 0, "size=4000k"),
+        0);
     server.on(file, HttpServer::replyWithoutLength(QByteArray(3'000'000, 'x')));
-    const auto status = inAnotherProcess([this] {
-        if (!separateMounts() || ::mount("tmpfs", QFile::encodeName(folder.path()).constData(),
-                                         "tmpfs", 0, "size=4000k") != 0)
-            return noOwnMounts;
-        const auto sentence = download(file).sentence;
-        return sentence == u"The download of “%1” takes up all that is free in “%2”, but for a "
-                           "reserve. Make room there and try again."_s.arg(
-                               server.url(file).toString(), QFileInfo(folder.path()).path())
-                   ? 0
-                   : 1;
-    });
-    if (status == noOwnMounts)
-        GTEST_SKIP() << "This system allows no mount here.";
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(download(file).sentence,
+              u"The download of “%1” takes up all that is free in “%2”, but for a reserve. Make "
+              "room there and try again."_s.arg(server.url(file).toString(),
+                                                QFileInfo(folder.path()).path()));
+    EXPECT_EQ(::umount(QFile::encodeName(folder.path()).constData()), 0);
 }
 #endif
 

@@ -48,38 +48,6 @@ private:
     const bool m_wasPrivileged = ::geteuid() == 0;
 };
 
-#if defined(Q_OS_LINUX)
-
-constexpr auto ownMounts = "CAVERNYX_TEST_HAS_OWN_MOUNTS";
-
-/// Runs the current test once more, in a process with mounts of its own, and returns its exit
-/// status.
-int runAgainWithOwnMounts()
-{
-    const auto& test = *testing::UnitTest::GetInstance()->current_test_info();
-    const auto filter = u"--gtest_filter=%1.%2"_s.arg(QString::fromUtf8(test.test_suite_name()),
-                                                      QString::fromUtf8(test.name()));
-    return inAnotherProcess(
-        [program = QCoreApplication::applicationFilePath().toUtf8(), argument = filter.toUtf8()] {
-            if (!separateMounts())
-                return noOwnMounts;
-            ::setenv(ownMounts, "yes", 1);
-            return ::execl(program.constData(), program.constData(), argument.constData(), nullptr);
-        });
-}
-
-/// Continues the current test only in a process with mounts of its own.
-#define RUN_WITH_OWN_MOUNTS()                                                                      \
-    if (!qEnvironmentVariableIsSet(ownMounts)) {                                                   \
-        const auto status = runAgainWithOwnMounts();                                               \
-        if (status == noOwnMounts)                                                                 \
-            GTEST_SKIP() << "Mount namespaces are not permitted here.";                            \
-        EXPECT_EQ(status, 0);                                                                      \
-        return;                                                                                    \
-    }
-
-#endif
-
 TEST_F(RemovalTest, removesEverythingAndEmptiesTheLog)
 {
     installGame();
@@ -187,6 +155,7 @@ TEST_F(RemovalTest, leavesNoPartOfAGameThatCannotBeRenamed)
     startModel().removeEverything();
     ASSERT_TRUE(waitUntil([] { return !Paths::completeFolders().isEmpty(); }));
     EXPECT_TRUE(model().confirmQuit());
+    waitForFlow();
     EXPECT_FALSE(Paths::completeFolders().isEmpty()) << "The deletion was too fast to interrupt.";
     EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
     EXPECT_EQ(home.names(root(u"Game"_s)), QStringList());

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Support/OwnMounts.h"
 
+#include "Support/InAnotherProcess.h"
 #include "System/FileDescriptor.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
+#include <cstdlib>
 #include <string>
 
 #include <fcntl.h>
@@ -17,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr auto ownMounts = "CAVERNYX_TEST_HAS_OWN_MOUNTS";
 
 bool write(const char* path, const std::string& text)
 {
@@ -62,4 +67,23 @@ bool mountOverlay(const QString& folder, const QString& layers)
         return false;
     // The system makes a folder here that only an administrator could delete.
     return ::chmod(QFile::encodeName(parent.filePath(u"work/work"_s)).constData(), S_IRWXU) == 0;
+}
+
+bool hasOwnMounts()
+{
+    return qEnvironmentVariableIsSet(ownMounts);
+}
+
+int runAgainWithOwnMounts()
+{
+    const auto& test = *testing::UnitTest::GetInstance()->current_test_info();
+    const auto filter = u"--gtest_filter=%1.%2"_s.arg(QString::fromUtf8(test.test_suite_name()),
+                                                      QString::fromUtf8(test.name()));
+    return inAnotherProcess(
+        [program = QCoreApplication::applicationFilePath().toUtf8(), argument = filter.toUtf8()] {
+            if (!separateMounts())
+                return noOwnMounts;
+            ::setenv(ownMounts, "yes", 1);
+            return ::execl(program.constData(), program.constData(), argument.constData(), nullptr);
+        });
 }

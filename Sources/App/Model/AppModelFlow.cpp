@@ -89,8 +89,10 @@ void AppModel::cancelSetup()
 void AppModel::concludeCancelled()
 {
     m_log.append(u"Cancelled."_s);
-    m_backgroundStop = std::stop_source();
-    clearStaleFolders();
+    if (!m_quitting) { // Otherwise the next start clears them.
+        m_backgroundStop = std::stop_source();
+        clearStaleFolders();
+    }
     refreshState();
 }
 
