@@ -93,7 +93,7 @@ def purge(release: str) -> None:
     # The folder is debconf's, which leaves it behind when apt-get configures other packages.
     expect_success("piuparts", "--distribution", release, "--basetgz",
                    compressed(base_archive(release)), "--no-eatmydata", "--no-upgrade-test",
-                   "--ignore", "/var/cache/debconf/tmp.ci", deb(release))
+                   "--ignore-regex", "/var/cache/debconf/tmp.ci/?", deb(release))
 
 
 def bundle(release: str) -> str:
