@@ -177,6 +177,16 @@ TEST_F(FileTreeTest, movesAFolderToWhereNothingIsAlsoWhereTheFileSystemCannotExc
     EXPECT_EQ(m_folder.names(), QStringList{u"Game"_s});
 }
 
+TEST_F(FileTreeTest, succeedsThoughTheOldFolderCannotBeMovedToTheStagingPlace)
+{
+    writeBoth();
+    const auto backup = m_staging + u"/moves with its parent"_s;
+    EXPECT_EQ(sentenceWithoutExchange([&] { FileTree::replace(m_target, m_staging, backup); }),
+              QString());
+    EXPECT_EQ(m_folder.names(), QStringList{u"Game"_s});
+    EXPECT_TRUE(m_folder.exists(u"Game/new"_s));
+}
+
 TEST_F(FileTreeTest, putsTheOldFolderBackWhenTheNewOneCannotBeMoved)
 {
     writeBoth();

@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -69,8 +70,8 @@ void replaceInTwoSteps(const QString& target, const QString& staging, const QStr
         throwIfNotMoved(backupError, target, backup);
     const auto error = FileTree::rename(staging, target);
     if (error == 0) {
-        if (backupError == 0)
-            move(backup, staging);
+        // If it fails, the next start deletes the backup.
+        std::ignore = FileTree::rename(backup, staging);
         return;
     }
     if (backupError == 0 && FileTree::rename(backup, target) != 0) {

@@ -29,11 +29,11 @@ void removeBestEffort(const QString& path, const std::stop_token& stop = {}) noe
 ///
 /// Exchanges the two atomically where the file system supports it. Elsewhere it renames `target` to
 /// `backup`, an unused path in the same parent, and then `staging` to `target`; a later start must
-/// rename `backup` back if there is no `target`. A folder in the lower layer of overlayfs cannot be
-/// renamed: there `staging` gets the suffix `completeSuffix` and supersedes `target`, which a later
-/// start must repeat. Throws PlatformError, or Cancelled when `stop` is requested. The old folder
-/// is then intact at `target`, unless the message names another path or a later start has to
-/// finish.
+/// rename `backup` back if there is no `target`, and delete it otherwise. A folder in the lower
+/// layer of overlayfs cannot be renamed: there `staging` gets the suffix `completeSuffix` and
+/// supersedes `target`, which a later start must repeat. Throws PlatformError, or Cancelled when
+/// `stop` is requested. The old folder is then intact at `target`, unless the message names another
+/// path or a later start has to finish.
 void replace(const QString& target, const QString& staging, const QString& backup,
              const std::stop_token& stop = {});
 
