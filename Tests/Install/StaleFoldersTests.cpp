@@ -6,6 +6,7 @@
 #include "Support/Await.h"
 #include "Support/ForkedProcess.h"
 #include "Support/InstallTest.h"
+#include "Support/UnchangeableScope.h"
 
 #include <QFile>
 
@@ -126,6 +127,20 @@ TEST_F(StaleFoldersTest, supersedeTheirTargetsIfTheyAreComplete)
     EXPECT_EQ(home.names(root(u"Game"_s)), QStringList{u"new"_s});
     EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList{EngineManager::version()});
     EXPECT_TRUE(home.exists(EngineManager().folder() + u"/godot"_s));
+}
+
+TEST_F(StaleFoldersTest, areClearedThoughOneCannotSupersedeItsTarget)
+{
+    home.write(root(u"Game.new-"_s + uuid + u".complete/new"_s));
+    home.write(root(u"Game/half"_s));
+    home.write(EngineManager().folder() + u".new-"_s + uuid + u"/half"_s);
+    const UnchangeableScope unchangeable(root(u"Game"_s));
+    if (!unchangeable.isInForce())
+        GTEST_SKIP() << "This user or this file system has no unchangeable folders.";
+    clearLeftovers();
+    EXPECT_TRUE(exists(u"Game/half"_s));
+    EXPECT_TRUE(exists(u"Game.new-"_s + uuid + u".complete/new"_s));
+    EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList());
 }
 
 TEST_F(StaleFoldersTest, areNotTheFoldersThatAreJustBeingMade)

@@ -9,13 +9,26 @@
 
 #include <tuple>
 
+namespace {
+
+/// If it fails, the next start tries again.
+void supersedeBestEffort(const QString& target, const QString& complete)
+{
+    try {
+        FileTree::supersede(target, complete);
+    } catch (const PlatformError&) {
+    }
+}
+
+} // namespace
+
 QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
 {
     if (!lock.isHeld() || lock.isGameRunning())
         return {};
     try {
         for (const auto& [complete, target] : Paths::completeFolders())
-            FileTree::supersede(target, complete);
+            supersedeBestEffort(target, complete);
         auto folders = Paths::stagingFolders();
         for (const auto& [backup, target] : Paths::backupFolders()) {
             if (FileTree::exists(target))
@@ -25,7 +38,7 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
         }
         return folders;
     } catch (const PlatformError&) {
-        return {}; // There is no home folder, or a folder cannot be changed.
+        return {}; // There is no home folder.
     }
 }
 
