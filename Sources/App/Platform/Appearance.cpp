@@ -48,7 +48,7 @@ AppearancePortal::AppearancePortal()
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
+    bus.connect(anySender, u"/org/freedesktop/portal/desktop"_s,
                 u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QDBusMessage)));
     ask();

@@ -6,6 +6,10 @@
 
 #include <functional>
 
+/// The sender of a signal for QDBusConnection::connect(). With a name, Qt would block while it asks
+/// the bus for the name's owner.
+inline const QString anySender;
+
 /// Returns a call of a method of the desktop's portal, "Settings" being the interface
 /// "org.freedesktop.portal.Settings".
 QDBusMessage portalCall(const QString& interface, const QString& method);

@@ -125,11 +125,8 @@ void DesktopNotification::show(
                 });
 }
 
-/// Connects to the signals of any sender: with a name, Qt would block while it asks the bus for the
-/// name's owner.
 void DesktopNotification::listen(const QDBusMessage& reply)
 {
-    const QString anySender;
     auto bus = QDBusConnection::sessionBus();
     if (isSandboxed()) {
         bus.connect(anySender, portalPath, portalInterface, u"ActionInvoked"_s, this,
