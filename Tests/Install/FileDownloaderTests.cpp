@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "FileDownloaderTest.h"
+#include "Support/FileSizeLimit.h"
 #include "Support/OwnMounts.h"
 #include "Support/UnchangeableScope.h"
 
 #include <utility>
 
-#include <csignal>
-
 #include <sys/mount.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -166,18 +164,11 @@ TEST_F(FileDownloaderTest, reportsAFolderThatIsNotThere)
 
 TEST_F(FileDownloaderTest, reportsAFileThatCannotBeWrittenAndLeavesNothing)
 {
-    // A limit on the size of files fails a write as a full disk does: part of the way through.
     server.on(file, HttpServer::reply(200, QByteArray(1'000'000, 'x')));
-    rlimit before = {};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit limited{100'000, before.rlim_max};
-    const auto handlerBefore = ::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const FileSizeLimit sizeLimit(100'000);
 
     const auto outcome = download(file);
 
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, handlerBefore);
     EXPECT_TRUE(outcome.isPlatformError);
     EXPECT_TRUE(outcome.sentence.startsWith(u"Could not write “"_s));
     EXPECT_TRUE(folder.names().isEmpty());

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "Support/FileSizeLimit.h"
 #include "ZipExtractorTest.h"
 
 #include <QFileInfo>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #if defined(Q_OS_LINUX)
 #include "Support/WithoutSystemCall.h"
 #include "System/Errors.h"
@@ -113,38 +111,22 @@ TEST_F(ZipDamageTest, failsOnDamagedData)
 
 TEST_F(ZipDamageTest, failsWhenAFileCannotBeWritten)
 {
-    rlimit before = {};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto archive = ZipWriter()
                              .add({.name = "a", .data = QByteArray(999'999, 'x'), .deflated = true})
                              .archive();
-    const rlimit limited{100'000, before.rlim_max};
-    const auto handlerBefore = ::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const FileSizeLimit sizeLimit(100'000);
 
-    const auto status = extract(archive);
-
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, handlerBefore);
-    EXPECT_EQ(status, 1);
+    EXPECT_EQ(extract(archive), 1);
     EXPECT_EQ(log, QStringList{u"Could not write “a”: File too large."_s});
 }
 
 TEST_F(ZipDamageTest, writesNoMoreThanTheAnnouncedSize)
 {
-    rlimit before = {};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     ZipWriter zip;
     zip.add({.name = "a", .data = QByteArray(9'999'999, 'x'), .deflated = true, .size = 10});
     const auto archive = zip.archive();
-    const rlimit limited{5'000'000, before.rlim_max};
-    const auto handlerBefore = ::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const FileSizeLimit sizeLimit(5'000'000);
 
-    const auto status = extract(archive);
-
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, handlerBefore);
-    EXPECT_EQ(status, 1);
+    EXPECT_EQ(extract(archive), 1);
     EXPECT_EQ(log, QStringList{u"The archive entry “a” does not have its announced size."_s});
 }
