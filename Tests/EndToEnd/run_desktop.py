@@ -9,7 +9,7 @@ import shutil
 import sys
 from pathlib import Path
 
-from rig import private_world
+from rig import private_world, product
 from rig.desktop_tour import DesktopTour
 from rig.real_desktops import DESKTOPS, NotRunning
 from rig.world import World
@@ -30,7 +30,7 @@ def main() -> int:
     output.mkdir(parents=True)
     desktop = DESKTOPS[arguments.name]
     prefix = arguments.prefix.absolute()
-    program = prefix / "bin" / "cavernyx-platformer"
+    program = prefix / "bin" / product.PROGRAM
     system = private_world.System(Path("/"), None)
     try:
         with World(program, scratch, output, system, desktop.start) as world:

@@ -9,7 +9,7 @@ import importlib
 import shutil
 from pathlib import Path
 
-from rig import private_world
+from rig import private_world, product
 from rig.world import World
 
 
@@ -32,7 +32,7 @@ def main() -> None:
     output.mkdir(parents=True)
     scenario = importlib.import_module(f"scenarios.{arguments.name}")
     try:
-        program = arguments.program or arguments.prefix.absolute() / "bin" / "cavernyx-platformer"
+        program = arguments.program or arguments.prefix.absolute() / "bin" / product.PROGRAM
         system = private_world.System(arguments.root.absolute(), arguments.trust)
         with World(program, scratch, output, system) as world:
             world.other = arguments.other

@@ -4,15 +4,14 @@
 
 import json
 import re
+import sys
 import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "Tests" / "EndToEnd"))
 
-
-def fact(name: str) -> str:
-    facts = (ROOT / "Sources/App/Project/GameFacts.h").read_text()
-    return re.search(rf' {name} = u"([^"]+)";', facts).group(1)
+from rig.product import fact
 
 
 def version() -> str:
@@ -35,8 +34,8 @@ class NamesTest(unittest.TestCase):
 
     def test_the_readme_names_the_files_of_the_release(self):
         readme = (ROOT / "README.md").read_text()
-        self.assertIn(f"cavernyx-platformer_{version()}+deb12_amd64.deb", readme)
-        self.assertIn(f"cavernyx-platformer-{version()}-x86_64.tar.xz", readme)
+        self.assertIn(f"{fact('programName')}_{version()}+deb12_amd64.deb", readme)
+        self.assertIn(f"{fact('programName')}-{version()}-x86_64.tar.xz", readme)
 
     def test_each_language_is_everywhere(self):
         desktop = (ROOT / "Packaging" / "launcher.desktop.in").read_text()

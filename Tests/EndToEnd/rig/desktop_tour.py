@@ -12,11 +12,11 @@ from rig.appearance import DARK, LIGHT, Appearance
 from rig.keyboard import press_keys
 from rig.launcher import TITLE
 from rig.other_window import OtherWindow
+from rig.product import APPLICATION
 from rig.real_desktops import RealDesktop
 from rig.waiting import wait_for
 from rig.x11_windows import X11Window, visible_windows
 
-APPLICATION = "io.github.brindlework_demos.cavernyxplatformer"
 DARK_WINDOW, LIGHT_WINDOW = b"\x1e\x1e\x20", b"\xf4\xf4\xf6"
 # How many points of the display have the window's colour at least when the window is in view.
 MIN_VISIBLE = 20000

@@ -7,10 +7,13 @@ from pathlib import Path
 _FACTS = (Path(__file__).resolve().parents[3] / "Sources/App/Project/GameFacts.h").read_text()
 
 
-def _fact(name: str) -> str:
+def fact(name: str) -> str:
     return re.search(rf' {name} = u"([^"]+)";', _FACTS).group(1)
 
 
 # The title of its windows, and the name of its folders.
-NAME = _fact("launcherName")
-ENGINE_VERSION = _fact("engineVersion")
+NAME = fact("launcherName")
+ENGINE_VERSION = fact("engineVersion")
+# The file of the program, and the name of its desktop entry and icons.
+PROGRAM = fact("programName")
+APPLICATION = fact("applicationId")

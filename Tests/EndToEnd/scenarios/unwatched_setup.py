@@ -2,11 +2,11 @@
 """A setup while the player is elsewhere: the computer stays awake until it ends, also by a crash,
 the task bar shows how far it is, and a click on the one notification leads back to the window."""
 
-from rig import setup
+from rig import product, setup
 from rig.launcher import TITLE
 from rig.waiting import wait_for
 
-APPLICATION = "application://io.github.brindlework_demos.cavernyxplatformer.desktop"
+APPLICATION = f"application://{product.APPLICATION}.desktop"
 
 
 def run(world):
