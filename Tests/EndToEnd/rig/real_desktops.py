@@ -15,14 +15,14 @@ WAYLAND_DISPLAY = "wayland-1"
 
 
 class NotRunning(Exception):
-    """The desktop does not start on this system. Its text is the last line that it printed."""
+    """The desktop does not start on this system. The text is the last line that it printed."""
 
 
 @dataclass(frozen=True)
 class RealDesktop:
-    """`minimize` and `close` are its key presses for the window that has the keyboard. A desktop
-    without a key to minimise has none, and one without a key to close leaves that to the launcher's
-    own. `refuses` names the steps of the tour that it does not allow, each with the reason."""
+    """`minimize` and `close` are its key presses for the focused window. Without a key to minimise,
+    `minimize` is empty; without one to close, `close` is the launcher's own. `refuses` names the
+    steps of the tour that the desktop does not allow, each with the reason."""
 
     command: list[str] = field(default_factory=list)
     environment: dict[str, str] = field(default_factory=dict)
@@ -74,11 +74,11 @@ def x11_is_ready() -> bool:
     return manager is not None
 
 
-NO_ACTIVATION = "It has no protocol for a window that asks for the keyboard."
-NO_MANAGER = "Nothing gives the keyboard back to the window when another closes."
-NO_KEY = "It minimises a window with the mouse only."
+NO_ACTIVATION = "It does not support xdg-activation."
+NO_MANAGER = "When a window closes, no other one gets the keyboard."
+NO_KEY = "It has a button to minimise a window, but no key."
 
-# It refuses to run as root, so it takes itself for another user.
+# It refuses to run as root.
 SWAY = ["unshare", "--user", "--map-user=1000",
         "sway", "--config", str(Path(__file__).with_name("sway.conf"))]
 
@@ -96,14 +96,14 @@ DESKTOPS = {
     "sway": RealDesktop(
         SWAY, {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"},
         is_wayland=True, close="super+shift+q",
-        refuses={"minimise and restore": "It tiles the windows and minimises none."}),
+        refuses={"minimise and restore": "It tiles windows and cannot minimise them."}),
     "weston": RealDesktop(
         ["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0",
          "--width=1600", "--height=1000", f"--socket={WAYLAND_DISPLAY}"], is_wayland=True,
         refuses={"notification": NO_ACTIVATION, "second start": NO_ACTIVATION,
                  "minimise and restore": NO_KEY}),
     "none": RealDesktop(refuses={
-        "notification": "No other window takes the keyboard, so the player seems to be here.",
+        "notification": "No other window can take the keyboard, so the launcher thinks it is in front.",
         "sheet": NO_MANAGER, "close": NO_MANAGER,
-        "minimise and restore": "Nothing there minimises a window."}),
+        "minimise and restore": "Only a window manager can minimise a window."}),
 }
