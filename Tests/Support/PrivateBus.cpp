@@ -54,6 +54,7 @@ BusService::BusService(const QString& name, Answer answer)
 
 BusService::~BusService()
 {
+    waitForDelivery(); // Qt leaks a message that arrives while it disconnects.
     QDBusConnection::disconnectFromBus(m_connectionName);
 }
 
