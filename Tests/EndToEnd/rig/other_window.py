@@ -17,11 +17,12 @@ TITLE = "Something else"
 
 
 class OtherWindow:
-    """Waits until it is on the display. It closes at the end of a `with` block."""
+    """Waits until it is on the display, under Wayland until it has the keyboard. It closes at the end
+    of a `with` block."""
 
     def __enter__(self) -> "OtherWindow":
-        self._program = subprocess.Popen([sys.executable, __file__], stdin=subprocess.PIPE,
-                                         stdout=subprocess.PIPE, text=True)
+        self._program = subprocess.Popen([sys.executable, __file__], stdout=subprocess.PIPE,
+                                         text=True)
         assert self._program.stdout.readline(), "The other window did not open."
         return self
 
@@ -31,8 +32,6 @@ class OtherWindow:
         if "WAYLAND_DISPLAY" not in os.environ:
             return ""
         press_keys("space")
-        self._program.stdin.write("token\n")
-        self._program.stdin.flush()
         return self._program.stdout.readline().strip()
 
     def __exit__(self, *_error) -> None:
@@ -45,22 +44,22 @@ def show() -> None:
     import gi
     gi.require_version("Gdk", "3.0")
     gi.require_version("Gtk", "3.0")
-    from gi.repository import Gdk, Gio, GLib, Gtk
+    from gi.repository import Gdk, Gio, Gtk
+    started = Gio.AppInfo.create_from_commandline("true", None, Gio.AppInfoCreateFlags.NONE)
+
+    def token() -> str | None:
+        return Gdk.Display.get_default().get_app_launch_context().get_startup_notify_id(started, [])
+
+    def ready() -> None:
+        window.disconnect(handler)
+        print("ready", flush=True)
+
     window = Gtk.Window(title=TITLE)
     window.add(Gtk.Label(label=TITLE))
     window.set_default_size(1500, 900)
-    window.connect("map-event", lambda *_: print("ready", flush=True))
-    started = Gio.AppInfo.create_from_commandline("true", None, Gio.AppInfoCreateFlags.NONE)
-
-    def ordered(_source, _condition) -> bool:
-        if not sys.stdin.readline():
-            sys.exit()
-        context = Gdk.Display.get_default().get_app_launch_context()
-        print(context.get_startup_notify_id(started, []) or "", flush=True)
-        return True
-
-    GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IOCondition.IN | GLib.IOCondition.HUP,
-                      ordered)
+    in_front = "focus-in-event" if "WAYLAND_DISPLAY" in os.environ else "map-event"
+    handler = window.connect(in_front, lambda *_: ready())
+    window.connect("key-press-event", lambda *_: print(token() or "", flush=True))
     window.show_all()
     Gtk.main()
 
