@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Support/FailOnWarning.h"
-#include "Support/WebHostScope.h"
+#include "Support/RunTests.h"
 
 #include "Controls/LauncherStyle.h"
 #include "Controls/Palettes.h"
@@ -8,8 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-
-using namespace Qt::StringLiterals;
 
 int main(int argumentCount, char** arguments)
 {
@@ -21,7 +18,5 @@ int main(int argumentCount, char** arguments)
     QApplication::setStyle(new LauncherStyle);
     const QApplication application(argumentCount, arguments);
     QApplication::setPalette(Palettes::light());
-    failTestsOnWarnings();
-    const WebHostScope nowhere(u"http://127.0.0.1:1"_s);
-    return RUN_ALL_TESTS();
+    return runTests();
 }

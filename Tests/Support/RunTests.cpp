@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Support/FailOnWarning.h"
+#include "Support/RunTests.h"
 
 #include "Support/QtPrinters.h"
+#include "Support/WebHostScope.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,10 @@
 
 #include <cstdlib>
 #include <iostream>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +38,13 @@ void fail(QtMsgType type, const QMessageLogContext&, const QString& message)
 
 } // namespace
 
-void failTestsOnWarnings()
+int runTests()
 {
     qInstallMessageHandler(fail);
+    const WebHostScope nowhere(u"http://127.0.0.1:1"_s);
+    const auto status = RUN_ALL_TESTS();
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_do_leak_check();
+#endif
+    return status;
 }
