@@ -115,17 +115,13 @@ def wait_for_game(world: World, stages: Stages) -> None:
 
 
 def main(name: str, program: str, folder: str) -> None:
-    scratch = private_world.enter()
     output = Path(folder) / f"first-run-{os.getpid()}"
-    output.mkdir()
-    try:
-        with World(Path(program), scratch, output, private_world.System()) as world:
-            world.offer_game()
-            world.offer_real_engine()
-            world.web.start()
-            stages = {"ours": ours, "by hand": by_hand}[name](world)
-    finally:
-        private_world.end_descendants()
+    with (private_world.entered(output) as scratch,
+          World(Path(program), scratch, output, private_world.System()) as world):
+        world.offer_game()
+        world.offer_real_engine()
+        world.web.start()
+        stages = {"ours": ours, "by hand": by_hand}[name](world)
     print(json.dumps(stages.moments))
 
 

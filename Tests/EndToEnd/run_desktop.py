@@ -5,7 +5,6 @@ on one real desktop, with the launcher that is installed below the prefix. Exits
 desktop does not run on this system."""
 
 import argparse
-import shutil
 import sys
 from pathlib import Path
 
@@ -24,22 +23,17 @@ def main() -> int:
     parser.add_argument("--output", type=Path, required=True)
     arguments = parser.parse_args()
 
-    scratch = private_world.enter()
-    output = (arguments.output / arguments.name).absolute()
-    shutil.rmtree(output, ignore_errors=True)
-    output.mkdir(parents=True)
     desktop = DESKTOPS[arguments.name]
     prefix = arguments.prefix.absolute()
     program = prefix / "bin" / product.PROGRAM
-    system = private_world.System(Path("/"), None)
-    try:
-        with World(program, scratch, output, system, desktop.start) as world:
-            return 0 if DesktopTour(world, desktop, prefix).run(arguments.name) else 1
-    except NotRunning as reason:
-        print(f"{arguments.name}: NOT RUN: {reason}", flush=True)
-        return NOT_RUN
-    finally:
-        private_world.end_descendants()
+    output = (arguments.output / arguments.name).absolute()
+    with private_world.entered(output) as scratch:
+        try:
+            with World(program, scratch, output, private_world.System(), desktop.start) as world:
+                return 0 if DesktopTour(world, desktop, prefix).run(arguments.name) else 1
+        except NotRunning as reason:
+            print(f"{arguments.name}: NOT RUN: {reason}", flush=True)
+            return NOT_RUN
 
 
 if __name__ == "__main__":

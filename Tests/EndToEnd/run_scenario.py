@@ -6,7 +6,6 @@ is in that system, which is not the one that the scenario itself runs in."""
 
 import argparse
 import importlib
-import shutil
 from pathlib import Path
 
 from rig import private_world, product
@@ -26,20 +25,15 @@ def main() -> None:
     parser.add_argument("--output", type=Path, required=True)
     arguments = parser.parse_args()
 
-    scratch = private_world.enter()
     output = (arguments.output / arguments.name).absolute()
-    shutil.rmtree(output, ignore_errors=True)
-    output.mkdir(parents=True)
-    scenario = importlib.import_module(f"scenarios.{arguments.name}")
-    try:
+    with private_world.entered(output) as scratch:
+        scenario = importlib.import_module(f"scenarios.{arguments.name}")
         program = arguments.program or arguments.prefix.absolute() / "bin" / product.PROGRAM
         system = private_world.System(arguments.root.absolute(), arguments.trust)
         with World(program, scratch, output, system) as world:
             world.other = arguments.other
             world.upgrade = arguments.upgrade
             scenario.run(world)
-    finally:
-        private_world.end_descendants()
 
 
 if __name__ == "__main__":

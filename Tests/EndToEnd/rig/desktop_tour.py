@@ -114,9 +114,7 @@ class DesktopTour:
 
     def _open_sheet(self) -> None:
         settings = self._launcher.open_settings()
-        self._picture_after_animation("sheet-open")
-        windows = visible_windows(TITLE, settings_sheet.NAME)
-        press_keys("Escape")
+        windows = self._close_front("sheet-open")
         settings.wait_until_closed()
         self._wait_for_focus()
         self._check_front_is_centered(windows)
@@ -126,13 +124,19 @@ class DesktopTour:
         settings = self._launcher.open_settings()
         settings.press(settings.remove_button())
         alert = self._launcher.wait_for_alert()
-        self._picture_after_animation("alert-open")
-        windows = visible_windows(TITLE, settings_sheet.NAME)
-        press_keys("Escape")
+        windows = self._close_front("alert-open")
         alert.wait_until_gone()
         settings.close()
         assert self._world.home.snapshot() == installed, "Escape has changed the installation."
         self._check_front_is_centered(windows)
+
+    def _close_front(self, picture: str) -> list[X11Window]:
+        """Returns the windows that were visible."""
+        time.sleep(ANIMATION)
+        self._world.picture(picture)
+        windows = visible_windows(TITLE, settings_sheet.NAME)
+        press_keys("Escape")
+        return windows
 
     def _check_front_is_centered(self, windows: list[X11Window]) -> None:
         if not self._desktop.is_wayland:
@@ -186,10 +190,6 @@ class DesktopTour:
     def _wait_for_front(self) -> None:
         self._wait_for_focus()
         wait_for("The window on the display", self._is_visible)
-
-    def _picture_after_animation(self, name: str) -> None:
-        time.sleep(ANIMATION)
-        self._world.picture(name)
 
     def _is_visible(self) -> bool:
         points = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], check=True,

@@ -12,6 +12,8 @@ import subprocess
 import sys
 import tempfile
 import time
+from collections.abc import Iterator
+from contextlib import contextmanager
 from pathlib import Path
 
 SCRATCH = "CAVERNYX_SCENARIO_SCRATCH"
@@ -63,6 +65,18 @@ def enter() -> Path:
     subprocess.run(["ip", "link", "set", "lo", "up"], check=True)
     _become_subreaper()
     return Path(scratch)
+
+
+@contextmanager
+def entered(output: Path) -> Iterator[Path]:
+    """Does enter(), empties the folder `output`, and ends every process at the end."""
+    scratch = enter()
+    shutil.rmtree(output, ignore_errors=True)
+    output.mkdir(parents=True)
+    try:
+        yield scratch
+    finally:
+        end_descendants()
 
 
 def redirect_hosts(scratch: Path, authority: Path, hosts: list[str], system: System) -> None:
