@@ -13,7 +13,7 @@ def start(log: Path) -> None:
     with log.open("a") as printed:
         server = subprocess.Popen([sys.executable, __file__], stdout=subprocess.PIPE,
                                   stderr=printed)
-    assert server.stdout.readline(), "The window manager did not start."
+    assert server.stdout.readline(), f"The window manager did not start: {log.read_text()}"
 
 
 def serve() -> None:
