@@ -30,7 +30,7 @@ class InstallationLock;
 ///
 /// It publishes everything that the window shows and emits changed() after each change. It derives
 /// its phase from the files on disk, and is the only layer that turns errors into state. Everything
-/// here runs on the main thread and does not block it.
+/// here runs on the main thread and blocks it only for short reads and writes of files.
 ///
 /// Play and the maintenance actions start a flow. One flow runs at a time.
 ///
