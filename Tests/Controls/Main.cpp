@@ -15,6 +15,7 @@ int main(int argumentCount, char** arguments)
     // on and a smaller one.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREENS_FILE);
+    const LeakCheck leakCheck;
     QApplication::setStyle(new LauncherStyle);
     const QApplication application(argumentCount, arguments);
     QApplication::setPalette(Palettes::light());

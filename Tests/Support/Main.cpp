@@ -8,6 +8,7 @@
 int main(int argumentCount, char** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
+    const LeakCheck leakCheck;
     const QCoreApplication application(argumentCount, arguments);
     return runTests();
 }
