@@ -10,6 +10,9 @@ namespace {
 
 using GameUpdateTest = SetupTest;
 
+/// The project of a new game whose target is still to be deleted.
+const auto completeGame = u"Game.new-01234567-89AB-CDEF-0123-456789ABCDEF.complete/project.godot"_s;
+
 TEST_F(GameUpdateTest, downloadsAgainAfterAnUpdateWasCancelledInItsSilentChecks)
 {
     playToTheEnd();
@@ -163,6 +166,7 @@ TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
     waitForFlow();
     model().play();
     waitForPhase(Phase::Kind::downloading);
+    ASSERT_FALSE(stagingFolders().isEmpty()) << "The deletion was too fast for a cancel.";
     model().cancelSetup();
     waitForFlow();
     EXPECT_FALSE(stagingFolders().isEmpty()) << "The cancel has waited for the deletion.";
@@ -185,6 +189,37 @@ TEST_F(GameUpdateTest, endsInTheSentenceOfADeletionThatFailed)
     EXPECT_EQ(requestsOf(gamePath()), 1);
     playToTheEnd();
     EXPECT_EQ(model().phase(), Phase::ready());
+}
+
+TEST_F(GameUpdateTest, finishesAReplacementThatFailedBeforeItPlays)
+{
+    playToTheEnd();
+    home.write(root(completeGame), "config_version=4\nconfig/name=\"Newer\"\n");
+    const auto stuck = home.write(root(u"Game/many/stuck"_s));
+    {
+        const UnchangeableScope unchangeable(stuck);
+        if (!unchangeable.isInForce())
+            GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+        model().play();
+        waitForFlow();
+        EXPECT_EQ(model().phase().message(),
+                  u"Could not remove “%1”: Operation not permitted."_s.arg(stuck));
+    }
+    playToTheEnd();
+    EXPECT_EQ(model().info()->name, u"Newer");
+    EXPECT_EQ(requestsOf(gamePath()), 1);
+    EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(GameUpdateTest, discardsAnOlderReplacementWhenItReinstalls)
+{
+    playToTheEnd();
+    home.write(root(completeGame), "config_version=4\nconfig/name=\"Older\"\n");
+    model().reinstall();
+    waitForFlow();
+    EXPECT_EQ(model().info()->name, u"Tether");
+    EXPECT_EQ(requestsOf(gamePath()), 2);
+    EXPECT_EQ(leftovers(), QStringList());
 }
 
 TEST_F(GameUpdateTest, reinstallsGameAndEngine)

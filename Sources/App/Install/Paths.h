@@ -45,8 +45,8 @@ QStringList stagingFolders();
 /// Returns the existing backup folders, each with the path of its target.
 QList<std::pair<QString, QString>> backupFolders();
 
-/// Returns the existing folders that must supersede their targets, each with the path of its
-/// target.
+/// Returns the complete new folders whose targets must still be deleted and replaced, each with the
+/// path of its target.
 QList<std::pair<QString, QString>> completeFolders();
 
 /// Creates a folder "CavernyxPlatformer-" + a random UUID with mode 0700, in `$TMPDIR`, or in

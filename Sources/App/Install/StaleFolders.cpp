@@ -42,6 +42,12 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
     }
 }
 
+void StaleFolders::finishReplacements(const std::stop_token& stop)
+{
+    for (const auto& [complete, target] : Paths::completeFolders())
+        FileTree::supersede(target, complete, stop);
+}
+
 void StaleFolders::remove(const QStringList& folders, const std::stop_token& stop)
 {
     for (const auto& folder : folders)

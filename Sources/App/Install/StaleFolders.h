@@ -11,9 +11,13 @@ class InstallationLock;
 namespace StaleFolders {
 
 /// Moves each backup folder without a target back to its target, finishes what
-/// FileTree::supersede() began, and returns the other stale folders below the storage root. Does
-/// nothing unless `lock` is held and no game runs. No installation may run meanwhile.
+/// FileTree::supersede() began, and returns the other stale folders below the storage root. Ignores
+/// errors. Does nothing unless `lock` is held and no game runs. No installation may run meanwhile.
 QStringList restoreAndList(const InstallationLock& lock);
+
+/// Finishes what FileTree::supersede() began. Otherwise, a partly deleted folder could count as
+/// installed. Throws PlatformError, or Cancelled when `stop` is requested. Blocks.
+void finishReplacements(const std::stop_token& stop);
 
 /// Removes `folders`, and the temporary folders of this user whose owner has ended. Ignores errors.
 /// Returns early when `stop` is requested. Blocks.

@@ -94,8 +94,8 @@ public:
     /// Stops the running game; that is not a failure. Returns at once; flowEnded() follows.
     void stopGame();
 
-    /// Each asks the player for confirmation, then starts a flow. Does nothing while busy. The
-    /// first two end in playing the game.
+    /// Each asks the player for confirmation, then starts a flow. Does nothing while busy.
+    /// updateGame() and reinstall() start the game at the end.
     void updateGame();
     void reinstall();
     void removeEverything();
@@ -150,6 +150,7 @@ private:
 
     // Setup.
     QCoro::Task<> setUpAndPlay(std::stop_token stop);
+    QCoro::Task<> finishReplacements(std::stop_token stop);
     QCoro::Task<QString> getGame(std::stop_token stop);
     QCoro::Task<ProjectInfo> readProject(QString project);
     void useProject(const std::optional<ProjectInfo>& info, const RepoFacts& facts);

@@ -17,6 +17,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <tuple>
 
 namespace {
 
@@ -28,15 +29,28 @@ void emptyInPlace(const QString& folder, const std::stop_token& stop)
     FileTree::supersede(folder, empty, stop);
 }
 
-/// Renames the game and the engines, so that a partly deleted folder is never at its final path.
-void moveAside(const std::stop_token& stop)
+/// Renames a folder, so that it is not at its final path while it is deleted.
+void moveAside(const QString& folder, const std::stop_token& stop)
+{
+    const auto error = FileTree::rename(folder, Paths::newStagingFolder(folder));
+    if (error == EXDEV)
+        emptyInPlace(folder, stop);
+    else if (error != 0 && error != ENOENT)
+        FileTree::remove(folder, stop);
+    for (const auto& [complete, target] : Paths::completeFolders()) {
+        if (target == folder)
+            std::ignore = FileTree::rename(complete, Paths::newStagingFolder(folder));
+    }
+}
+
+/// Moves the game and the engines aside. The caller finds what could not be moved.
+void moveAllAside(const std::stop_token& stop)
 {
     for (const auto& folder : {Paths::game(), Paths::engines()}) {
-        const auto error = FileTree::rename(folder, Paths::newStagingFolder(folder));
-        if (error == EXDEV)
-            emptyInPlace(folder, stop);
-        else if (error != 0 && error != ENOENT)
-            FileTree::removeBestEffort(folder, stop);
+        try {
+            moveAside(folder, stop);
+        } catch (const PlatformError&) {
+        }
     }
 }
 
@@ -76,7 +90,7 @@ void AppModel::reinstall()
 QCoro::Task<> AppModel::deleteAndSetUp(std::stop_token stop)
 {
     co_await waitForDeletion();
-    const auto moving = offThread([stop] { moveAside(stop); });
+    const auto moving = offThread([stop] { moveAllAside(stop); });
     co_await moving;
     clearStaleFolders();
     refreshState();
@@ -104,7 +118,7 @@ QCoro::Task<> AppModel::deleteEverything(std::stop_token stop)
     co_await waitForDeletion();
     // If the root is a symbolic link, only the link is removed.
     if (!QFileInfo(Paths::root()).isSymLink()) {
-        const auto moving = offThread([stop] { moveAside(stop); });
+        const auto moving = offThread([stop] { moveAllAside(stop); });
         co_await moving;
         throwIfCancelled(stop);
     }
@@ -198,7 +212,7 @@ void AppModel::copyFailure()
 
 void AppModel::copyLog()
 {
-    m_desktop.copyText(m_log.newest(LogStore::usualMaxLines).join(u'\n'));
+    m_desktop.copyText(m_log.newest(LogStore::defaultMaxLines).join(u'\n'));
 }
 
 bool AppModel::confirmQuit()

@@ -7,6 +7,7 @@
 #include "Install/EngineManager.h"
 #include "Install/Paths.h"
 #include "Install/RepoDownloader.h"
+#include "Install/StaleFolders.h"
 #include "Project/ImportChecker.h"
 #include "Project/ProjectInspector.h"
 #include "System/Errors.h"
@@ -59,11 +60,21 @@ void AppModel::play()
 
 QCoro::Task<> AppModel::setUpAndPlay(std::stop_token stop)
 {
+    co_await finishReplacements(stop);
     const auto project = co_await getGame(stop);
     const auto info = co_await readProject(project);
     const auto engine = co_await getEngine(info, stop);
     co_await importAssets(engine, info, stop);
     co_await launch(engine, info.folder);
+}
+
+QCoro::Task<> AppModel::finishReplacements(std::stop_token stop)
+{
+    if (Paths::completeFolders().isEmpty())
+        co_return;
+    ensureOwner();
+    const auto finishing = offThread([stop] { StaleFolders::finishReplacements(stop); });
+    co_await finishing;
 }
 
 QCoro::Task<QString> AppModel::getGame(std::stop_token stop)
@@ -130,7 +141,7 @@ QCoro::Task<QString> AppModel::getEngine(ProjectInfo info, std::stop_token stop)
         ensureOwner();
         //: %1 is a version, such as "3.5.3-stable-mono".
         enter(Phase::downloading(),
-              tr("Step 2 of 4 · Downloading the Godot engine (%1)").arg(manager.build()));
+              tr("Step 2 of 4 · Downloading the Godot engine (%1)").arg(manager.buildName()));
         const auto installing = manager.install(makeDownloader(), m_log.callback(), stop);
         engine = co_await installing;
     }

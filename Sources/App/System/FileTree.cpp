@@ -125,6 +125,7 @@ void FileTree::replace(const QString& target, const QString& staging, const QStr
 void FileTree::supersede(const QString& target, const QString& complete,
                          const std::stop_token& stop)
 {
+    syncDirectory(QFileInfo(complete).path(), stop);
     remove(target, stop);
     move(complete, target);
 }

@@ -37,10 +37,13 @@ void removeBestEffort(const QString& path, const std::stop_token& stop = {}) noe
 void replace(const QString& target, const QString& staging, const QString& backup,
              const std::stop_token& stop = {});
 
+/// The suffix of a complete new folder whose target is still being deleted.
 inline constexpr QLatin1StringView completeSuffix(".complete");
 
-/// Deletes `target` and renames `complete` to it. Throws PlatformError, or Cancelled when `stop` is
-/// requested; `target` may then be partly deleted, and the call can be repeated.
+/// Deletes `target` and renames `complete` to it. First writes the names in their parent folder to
+/// the disk, so that a power cut does not leave the target partly deleted without `complete`.
+/// Throws PlatformError, or Cancelled when `stop` is requested; `target` may then be partly
+/// deleted, and the call can be repeated.
 void supersede(const QString& target, const QString& complete, const std::stop_token& stop = {});
 
 } // namespace FileTree
