@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A Qt Widgets window with as many texts, in as many fonts, as the launcher's has at the start, and
-// nothing else: how much of the start is the price of text.
+// nothing else. It shows how much of the start-up time the texts take.
 #include <QApplication>
 #include <QLabel>
 #include <QVBoxLayout>

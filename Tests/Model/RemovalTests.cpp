@@ -4,14 +4,10 @@
 #include "Install/Paths.h"
 #include "Support/Await.h"
 #include "Support/BusyPool.h"
-#include "Support/InAnotherProcess.h"
 #include "Support/ModelTest.h"
 #include "Support/OwnMounts.h"
 
-#include <QCoreApplication>
 #include <QFile>
-
-#include <cstdlib>
 
 #include <sys/stat.h>
 #include <unistd.h>

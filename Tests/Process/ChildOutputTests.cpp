@@ -127,10 +127,11 @@ TEST_F(OutputOfAChild, isCompleteThoughAGrandchildFloodsThePipe)
 
 TEST_F(OutputOfAChild, mayEndBeforeTheChildDoes)
 {
-    const auto before = std::clock(); // It counts the processor's time.
+    const auto before = std::clock(); // The processor time of this process.
     EXPECT_EQ(runShell("echo last; exec >&- 2>&-; sleep 0.5; exit 6"), 6);
     EXPECT_EQ(lines(), QStringList{u"last"_s});
-    EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 5) << "The launcher does not sleep.";
+    EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 5)
+        << "It has used the processor while it waited.";
 }
 
 TEST_F(OutputOfAChild, doesNotKeepAFloodingChildFromBeingTerminated)

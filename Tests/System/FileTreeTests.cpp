@@ -177,7 +177,7 @@ TEST_F(FileTreeTest, movesAFolderToWhereNothingIsAlsoWhereTheFileSystemCannotExc
     EXPECT_EQ(m_folder.names(), QStringList{u"Game"_s});
 }
 
-TEST_F(FileTreeTest, succeedsThoughTheOldFolderCannotBeMovedToTheStagingPlace)
+TEST_F(FileTreeTest, succeedsThoughTheOldFolderCannotBeMovedToTheStagingPath)
 {
     writeBoth();
     const auto backup = m_staging + u"/moves with its parent"_s;

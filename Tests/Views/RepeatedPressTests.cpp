@@ -118,6 +118,7 @@ TEST_F(RepeatedPressTest, onPlayStartsAGameThatClosesAtOnceOnlyOnce)
     click(position, slowly);
     EXPECT_TRUE(waitUntil([this] { return starts() == 2; }));
     waitForFlow();
+    EXPECT_EQ(starts(), 2);
 }
 
 TEST_F(RepeatedPressTest, ofTheSpaceBarOnStopDoesNotStartTheGameAgain)

@@ -94,7 +94,7 @@ QString EngineManager::version()
     return GameFacts::engineVersion.toString();
 }
 
-QString EngineManager::build() const
+QString EngineManager::buildName() const
 {
     return version() + (mono ? u"-mono"_s : QString());
 }
@@ -106,12 +106,12 @@ QString EngineManager::archiveName() const
 
 QString EngineManager::folder() const
 {
-    return Paths::engines() + u'/' + build();
+    return Paths::engines() + u'/' + buildName();
 }
 
 QString EngineManager::markerFile() const
 {
-    return Paths::game() + u"/.setup-v2-"_s + build();
+    return Paths::game() + u"/.setup-v2-"_s + buildName();
 }
 
 QUrl EngineManager::releaseURL(const QString& fileName)

@@ -25,7 +25,7 @@ struct EngineManager
     static QString version();
 
     /// Returns the version and the edition, such as "3.5.3-stable-mono".
-    [[nodiscard]] QString build() const;
+    [[nodiscard]] QString buildName() const;
 
     /// Returns the archive's name in the release. Throws AppError if there is no build for the
     /// processor.

@@ -37,7 +37,7 @@ AppModel::AppModel(Desktop& desktop, InstallationLock& lock, const Durations& du
     : m_desktop(desktop)
     , m_lock(lock)
     , m_durations(durations)
-    , m_log(LogStore::usualMaxLines, durations.logFlushInterval)
+    , m_log(LogStore::defaultMaxLines, durations.logFlushInterval)
     , m_runner(durations)
 {
     m_fullscreen = StoredSettings::value(fullscreenKey).toBool();

@@ -23,10 +23,10 @@ class LogStore final : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int usualMaxLines = 2000;
+    static constexpr int defaultMaxLines = 2000;
 
     /// Keeps at most `maxLines` lines. Belongs to the thread that creates it, the main thread.
-    explicit LogStore(int maxLines = usualMaxLines,
+    explicit LogStore(int maxLines = defaultMaxLines,
                       std::chrono::milliseconds flushInterval = Durations().logFlushInterval);
 
     /// Adds the lines of `text`, empty ones included. Any thread.

@@ -18,8 +18,9 @@ public:
     explicit CavernyxPlatformerApp(char* programName);
 
     /// Runs until the player quits. Returns the exit status. If another launcher uses the same
-    /// installation, brings that to the front instead. Shows a warning and returns 1 if that does
-    /// not answer, or if no folder is known for the installation.
+    /// installation, brings that to the front instead and exits the process with status 0. Shows a
+    /// warning and returns 1 if that does not answer, or if no folder is known for the
+    /// installation.
     int run();
 
 private:
