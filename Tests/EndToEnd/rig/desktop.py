@@ -16,7 +16,7 @@ class Desktop:
     """Starts with the given environment and adds to it what programs need to find this desktop.
     What the servers print and the pictures taken are kept in `output`.
     The environment becomes this process's own too, since it listens on the same buses.
-    `start_windows` starts what manages the windows, given the file for what that prints."""
+    `start_windows` starts the window manager or compositor, given the path of its log file."""
 
     def __init__(self, environment: dict[str, str], output: Path,
                  start_windows=window_manager.start):

@@ -4,7 +4,7 @@
 import os
 import subprocess
 import time
-from contextlib import contextmanager
+from contextlib import contextmanager, suppress
 from pathlib import Path
 
 from rig import settings_sheet
@@ -15,10 +15,10 @@ from rig.other_window import OtherWindow
 from rig.product import APPLICATION
 from rig.real_desktops import RealDesktop
 from rig.waiting import wait_for
-from rig.x11_windows import X11Window, visible_windows
+from rig.x11_windows import visible_windows
 
 DARK_WINDOW, LIGHT_WINDOW = b"\x1e\x1e\x20", b"\xf4\xf4\xf6"
-# How many points of the display have the window's colour at least when the window is in view.
+# How many pixels of the display have at least the window's colour when the window is in view.
 MIN_VISIBLE = 20000
 # How long a desktop takes at most to show a window that opens, in seconds.
 ANIMATION = 1
@@ -55,13 +55,13 @@ class DesktopTour:
         as_known = True
         for step, take in steps.items():
             problem = self._problem_in(take)
-            refused = step in self._desktop.refuses
-            as_known = as_known and bool(problem) == refused
-            if problem:
-                result = (f"not allowed: {self._desktop.refuses[step]} {problem}" if refused
-                          else f"FAILED: {problem}")
+            refusal = self._desktop.refuses.get(step)
+            if refusal and problem.startswith(refusal.problem):
+                result = f"not allowed: {refusal.reason} {problem}"
             else:
-                result = "WORKS, although it is known as refused" if refused else "works"
+                as_known = as_known and not problem and not refusal
+                result = (f"FAILED: {problem}" if problem
+                          else "WORKS, although it is known as refused" if refusal else "works")
             print(f"{name}: {step}: {result}", flush=True)
             self._world.picture(step.replace(" ", "-"))
         return as_known
@@ -71,7 +71,9 @@ class DesktopTour:
         try:
             take()
         except AssertionError as error:
-            return str(error) or "an expectation was not met"
+            return str(error) or "An expectation was not met."
+        except Exception as error:
+            return f"{type(error).__name__}: {error}"
         return ""
 
     def _open(self) -> None:
@@ -90,8 +92,9 @@ class DesktopTour:
             assert f'set_title("{TITLE}")' in said, "There is no title."
             assert f'set_app_id("{APPLICATION}")' in said, "The application is not named."
         else:
-            window, = visible_windows(TITLE)
-            assert window.has_icon, "The window has no icon."
+            windows = visible_windows(TITLE)
+            assert windows, "There is no title."
+            assert windows[0].has_icon, "The window has no icon."
 
     def _change_appearance(self) -> None:
         for name, scheme, background in (("dark", DARK, DARK_WINDOW),
@@ -108,40 +111,49 @@ class DesktopTour:
                 wait_for("The notification", lambda: self._services.noted("Notify"), seconds=60)
                 self._services.click(other.activation_token())
                 self._wait_for_front()
-            finally:
-                self._launcher.press("Stop")
-                self._launcher.wait_for_label("Ready")
+            except AssertionError:
+                with suppress(AssertionError):
+                    self._stop_game()
+                raise
+            self._stop_game()
+
+    def _stop_game(self) -> None:
+        self._launcher.press("Stop")
+        self._launcher.wait_for_label("Ready")
 
     def _open_sheet(self) -> None:
         settings = self._launcher.open_settings()
-        windows = self._close_front("sheet-open")
+        self._look_at_front("sheet-open")
         settings.wait_until_closed()
         self._wait_for_focus()
-        self._check_front_is_centered(windows)
 
     def _open_alert(self) -> None:
         installed = self._world.home.snapshot()
         settings = self._launcher.open_settings()
         settings.press(settings.remove_button())
         alert = self._launcher.wait_for_alert()
-        windows = self._close_front("alert-open")
-        alert.wait_until_gone()
-        settings.close()
+        try:
+            self._look_at_front("alert-open")
+            alert.wait_until_gone()
+        finally:
+            settings.close()
         assert self._world.home.snapshot() == installed, "Escape has changed the installation."
-        self._check_front_is_centered(windows)
 
-    def _close_front(self, picture: str) -> list[X11Window]:
-        """Returns the windows that were visible."""
-        time.sleep(ANIMATION)
-        self._world.picture(picture)
+    def _look_at_front(self, picture: str) -> None:
+        """Checks where the front window is, takes a picture, and presses Escape."""
+        try:
+            if self._desktop.is_wayland:
+                time.sleep(ANIMATION)
+            else:
+                wait_for("The front window over the one behind it", self._front_is_centered)
+        finally:
+            self._world.picture(picture)
+            press_keys("Escape")
+
+    @staticmethod
+    def _front_is_centered() -> bool:
         windows = visible_windows(TITLE, settings_sheet.NAME)
-        press_keys("Escape")
-        return windows
-
-    def _check_front_is_centered(self, windows: list[X11Window]) -> None:
-        if not self._desktop.is_wayland:
-            *_, behind, front = windows
-            assert front.is_centered_over(behind), f"{front} is not over {behind}."
+        return len(windows) > 1 and windows[-1].is_centered_over(windows[-2])
 
     def _reveal(self) -> None:
         settings = self._launcher.open_settings()
@@ -181,7 +193,7 @@ class DesktopTour:
         self._launcher.wait_for_window()
 
     def _environment(self) -> dict[str, str | None]:
-        """Takes the display on which the compositor draws away from the launcher."""
+        """Under Wayland, without the X11 display on which the compositor draws."""
         return {"DISPLAY": None, "WAYLAND_DEBUG": "1"} if self._desktop.is_wayland else {}
 
     def _wait_for_focus(self) -> None:

@@ -26,8 +26,8 @@ class Launcher(Program):
         wait_for("The launcher's window", lambda: self._controls.showing(TITLE))
 
     def is_active(self) -> bool:
-        """Whether the keyboard speaks to its window."""
-        return any(self._controls.has(window, "ACTIVE") for window in self._controls.showing(TITLE))
+        """Whether its window has the focus."""
+        return self._controls.active(TITLE, "FRAME") is not None
 
     def press(self, name: str) -> None:
         """Presses the button of that name, once it is there and enabled."""

@@ -4,6 +4,7 @@
 a file manager does."""
 
 import os
+import select
 import subprocess
 import sys
 from pathlib import Path
@@ -14,6 +15,8 @@ if __name__ == "__main__":
 from rig.keyboard import press_keys
 
 TITLE = "Something else"
+# In seconds.
+TIMEOUT = 20
 
 
 class OtherWindow:
@@ -23,15 +26,20 @@ class OtherWindow:
     def __enter__(self) -> "OtherWindow":
         self._program = subprocess.Popen([sys.executable, __file__], stdout=subprocess.PIPE,
                                          text=True)
-        assert self._program.stdout.readline(), "The other window did not open."
+        assert self._read_line(), "The other window did not open."
         return self
 
     def activation_token(self) -> str:
-        """Returns what lets another program take the keyboard under Wayland. The compositor issues it
-        only for a key press: nothing if it issues none."""
+        """Returns the token with which another program may take the focus under Wayland; empty if the
+        compositor issues none. It issues one only for a key press."""
         if "WAYLAND_DISPLAY" not in os.environ:
             return ""
         press_keys("space")
+        return self._read_line()
+
+    def _read_line(self) -> str:
+        readable, _, _ = select.select([self._program.stdout], [], [], TIMEOUT)
+        assert readable, f"The other window did not answer within {TIMEOUT} s."
         return self._program.stdout.readline().strip()
 
     def __exit__(self, *_error) -> None:

@@ -69,7 +69,7 @@ def enter() -> Path:
 
 @contextmanager
 def entered(output: Path) -> Iterator[Path]:
-    """Does enter(), empties the folder `output`, and ends every process at the end."""
+    """Enters the namespaces, empties `output`, and at the end kills all processes started inside."""
     scratch = enter()
     shutil.rmtree(output, ignore_errors=True)
     output.mkdir(parents=True)

@@ -19,17 +19,25 @@ class NotRunning(Exception):
 
 
 @dataclass(frozen=True)
+class Refusal:
+    """Why a desktop does not allow a step of the tour, and how the problem of the step begins."""
+
+    reason: str
+    problem: str
+
+
+@dataclass(frozen=True)
 class RealDesktop:
     """`minimize` and `close` are its key presses for the focused window. Without a key to minimise,
     `minimize` is empty; without one to close, `close` is the launcher's own. `refuses` names the
-    steps of the tour that the desktop does not allow, each with the reason."""
+    steps of the tour that the desktop does not allow."""
 
     command: list[str] = field(default_factory=list)
     environment: dict[str, str] = field(default_factory=dict)
     is_wayland: bool = False
     minimize: str = ""
     close: str = "ctrl+q"
-    refuses: dict[str, str] = field(default_factory=dict)
+    refuses: dict[str, Refusal] = field(default_factory=dict)
 
     def start(self, log: Path) -> None:
         """Returns when it is ready for windows."""
@@ -74,9 +82,10 @@ def x11_is_ready() -> bool:
     return manager is not None
 
 
-NO_ACTIVATION = "It does not support xdg-activation."
-NO_MANAGER = "When a window closes, no other one gets the keyboard."
-NO_KEY = "It has a button to minimise a window, but no key."
+NO_FOCUS = "The focus on the window"
+NO_KEY = "There is no key"
+NO_ACTIVATION = Refusal("It does not support xdg-activation.", NO_FOCUS)
+NO_MANAGER = Refusal("When a window closes, no other one gets the focus.", NO_FOCUS)
 
 # It refuses to run as root.
 SWAY = ["unshare", "--user", "--map-user=1000",
@@ -96,14 +105,15 @@ DESKTOPS = {
     "sway": RealDesktop(
         SWAY, {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"},
         is_wayland=True, close="super+shift+q",
-        refuses={"minimise and restore": "It tiles windows and cannot minimise them."}),
+        refuses={"minimise and restore": Refusal("It tiles windows and cannot minimise them.", NO_KEY)}),
     "weston": RealDesktop(
         ["weston", "--backend=x11-backend.so", "--use-pixman", "--idle-time=0",
          "--width=1600", "--height=1000", f"--socket={WAYLAND_DISPLAY}"], is_wayland=True,
         refuses={"notification": NO_ACTIVATION, "second start": NO_ACTIVATION,
-                 "minimise and restore": NO_KEY}),
+                 "minimise and restore": Refusal("It has a button for that, but no key.", NO_KEY)}),
     "none": RealDesktop(refuses={
-        "notification": "No other window can take the keyboard, so the launcher thinks it is in front.",
+        "notification": Refusal("No other window can get the focus, so the launcher thinks it is in "
+                                "front.", "The notification"),
         "sheet": NO_MANAGER, "close": NO_MANAGER,
-        "minimise and restore": "Only a window manager can minimise a window."}),
+        "minimise and restore": Refusal("Only a window manager can minimise a window.", NO_KEY)}),
 }

@@ -3,7 +3,7 @@
 
 from dataclasses import dataclass
 
-# Without a window manager Qt leaves ten points for a frame.
+# In pixels. Without a window manager, Qt leaves ten of them for a frame.
 MAX_DEVIATION = 12
 
 
@@ -30,6 +30,7 @@ def visible_windows(*titles: str) -> list[X11Window]:
     """Returns those with one of the titles, from the back to the front."""
     from Xlib import X
     from Xlib.display import Display
+    from Xlib.error import BadDrawable, BadWindow
     display = Display()
     root = display.screen().root
 
@@ -38,8 +39,13 @@ def visible_windows(*titles: str) -> list[X11Window]:
         return bytes(value.value) if value else b""
 
     def windows_below(window):
-        yield window
-        for child in window.query_tree().children:
+        try:
+            if window.get_attributes().map_state == X.IsViewable:
+                yield describe(window)
+            children = window.query_tree().children
+        except (BadDrawable, BadWindow):
+            return  # It has closed meanwhile.
+        for child in children:
             yield from windows_below(child)
 
     def describe(window) -> X11Window:
@@ -47,7 +53,7 @@ def visible_windows(*titles: str) -> list[X11Window]:
         return X11Window(read(window, "_NET_WM_NAME").decode(), bool(read(window, "_NET_WM_ICON")),
                          place.x, place.y, size.width, size.height)
 
-    found = [describe(window) for window in windows_below(root)
-             if window.get_attributes().map_state == X.IsViewable]
-    display.close()
-    return [window for window in found if window.title in titles]
+    try:
+        return [window for window in windows_below(root) if window.title in titles]
+    finally:
+        display.close()

@@ -24,7 +24,14 @@ def run(world):
 
 
 def start_compositor(world):
-    with (world.output / "weston.txt").open("w") as printed:
-        subprocess.Popen(["weston", "--backend=headless-backend.so", f"--socket={SOCKET}"],
-                         stdout=printed, stderr=printed)
-    wait_for("The compositor", (Path(os.environ["XDG_RUNTIME_DIR"]) / SOCKET).exists)
+    log = world.output / "weston.txt"
+    with log.open("w") as printed:
+        compositor = subprocess.Popen(
+            ["weston", "--backend=headless-backend.so", f"--socket={SOCKET}"],
+            stdout=printed, stderr=printed)
+
+    def is_ready() -> bool:
+        assert compositor.poll() is None, f"The compositor did not start: {log.read_text()}"
+        return (Path(os.environ["XDG_RUNTIME_DIR"]) / SOCKET).exists()
+
+    wait_for("The compositor", is_ready)
