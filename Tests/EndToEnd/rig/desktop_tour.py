@@ -170,10 +170,15 @@ class DesktopTour:
 
     def _minimize(self) -> None:
         assert self._desktop.minimize, "There is no key for it."
-        press_keys(self._desktop.minimize)
-        wait_for("An empty display", lambda: not self._is_visible())
+        wait_for("An empty display", self._press_minimize)
         self._world.picture("minimised")
         self._start_again()
+
+    def _press_minimize(self) -> bool:
+        """Returns whether it has helped: KWin on X11 sometimes does not act on a key press."""
+        press_keys(self._desktop.minimize)
+        time.sleep(ANIMATION)
+        return not self._is_visible()
 
     def _close(self) -> None:
         self._wait_for_focus()
