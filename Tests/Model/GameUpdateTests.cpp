@@ -5,6 +5,7 @@
 #include "Support/UnchangeableScope.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace {
 
@@ -209,6 +210,23 @@ TEST_F(GameUpdateTest, finishesAReplacementThatFailedBeforeItPlays)
     EXPECT_EQ(model().info()->name, u"Newer");
     EXPECT_EQ(requestsOf(gamePath()), 1);
     EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(GameUpdateTest, finishesNoReplacementThatIsBeingDeleted)
+{
+    playToTheEnd();
+    const auto stuck = QFileInfo(home.write(root(completeGame))).path();
+    const UnchangeableScope unchangeable(stuck);
+    if (!unchangeable.isInForce())
+        GTEST_SKIP() << "This user or file system can make no file unchangeable.";
+    installManyFiles();
+    model().removeEverything();
+    waitForFlow();
+    ASSERT_GT(stagingFolders().size(), 1) << "The deletion was too fast for a press of Play.";
+    model().play();
+    waitForFlow();
+    EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "))
+        << model().statusDetail();
 }
 
 TEST_F(GameUpdateTest, discardsAnOlderReplacementWhenItReinstalls)

@@ -73,6 +73,7 @@ QCoro::Task<> AppModel::finishReplacements(std::stop_token stop)
     if (Paths::completeFolders().isEmpty())
         co_return;
     ensureOwner();
+    co_await waitForDeletion();
     const auto finishing = offThread([stop] { StaleFolders::finishReplacements(stop); });
     co_await finishing;
 }
