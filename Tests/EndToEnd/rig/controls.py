@@ -23,11 +23,12 @@ class Controls:
         """Whether the program is on the bus. It has to be, before anything else is asked."""
         desktop = self._atspi.get_desktop(0)
         desktop.clear_cache()
-        applications = [desktop.get_child_at_index(index)
+        applications = [self._if_there(lambda: desktop.get_child_at_index(index))
                         for index in range(desktop.get_child_count())]
+        # A program that has just ended is still listed for a moment.
         self._application = next(
             (application for application in applications
-             if application and application.get_process_id() == self._pid), None)
+             if application and self._if_there(application.get_process_id) == self._pid), None)
         if self._application:
             self._application.set_cache_mask(self._atspi.Cache.NONE)
         return self._application is not None

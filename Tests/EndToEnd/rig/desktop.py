@@ -63,9 +63,9 @@ class Desktop:
 
     def move_aside(self, title: str) -> None:
         """Moves a window to the right edge, from under the windows that open at the left."""
+        window = self._window(title)
         width, _ = self.windows()[title]
         x = int(SCREEN.split("x")[0]) - width
-        window, = self._visible_windows(f"^{title}$")
         subprocess.run(["xdotool", "windowmove", window, str(x), "0"], check=True)
 
     def close(self, title: str) -> None:
@@ -74,8 +74,7 @@ class Desktop:
         from Xlib.display import Display
         from Xlib.protocol.event import ClientMessage
         display = Display(self.environment["DISPLAY"])
-        number, = self._visible_windows(f"^{title}$")
-        window = display.create_resource_object("window", int(number))
+        window = display.create_resource_object("window", int(self._window(title)))
         window.send_event(ClientMessage(
             window=window, client_type=display.get_atom("WM_PROTOCOLS"),
             data=(32, [display.get_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0])))
@@ -120,17 +119,15 @@ class Desktop:
         from Xlib import X
         from Xlib.display import Display
         display = Display(self.environment["DISPLAY"])
-        number, = self._visible_windows(f"^{title}$")
-        window = display.create_resource_object("window", int(number))
+        window = display.create_resource_object("window", int(self._window(title)))
         blue, green, red = window.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data[:3]
         display.close()
         return red, green, blue
 
     def picture_of(self, title: str) -> bytes:
         """All that a window shows now, three bytes a pixel."""
-        window, = self._visible_windows(f"^{title}$")
-        return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], check=True,
-                              capture_output=True).stdout
+        return subprocess.run(["import", "-window", self._window(title), "-depth", "8", "rgb:-"],
+                              check=True, capture_output=True).stdout
 
     def clipboard(self) -> str:
         """The text that any other program would now paste: nothing before the first copy."""
@@ -144,8 +141,20 @@ class Desktop:
             ["import", "-window", "root", str(self._output / f"{self._taken:02}-{name}.png")],
             check=True)
 
+    def _window(self, title: str) -> str:
+        """The one window of that title, once it can be seen."""
+        window, = wait_for(f"The window \"{title}\"",
+                           lambda: self._visible_windows(f"^{title}$"))
+        return window
+
     def _visible_windows(self, title: str = ".") -> list[str]:
-        return self._ask("search", "--onlyvisible", "--name", title).split()
+        return wait_for("A search among the windows", lambda: self._search(title)).stdout.split()
+
+    def _search(self, title: str) -> subprocess.CompletedProcess | None:
+        """Nothing if a window, of any title, has gone meanwhile: that ends the search."""
+        search = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                                capture_output=True, text=True)
+        return None if "X Error" in search.stderr else search
 
     def _ask(self, *question: str) -> str:
         """What xdotool answers: nothing about a window that has gone meanwhile."""
