@@ -96,7 +96,7 @@ TEST_F(StaleFoldersTest, stayForTheNextStartOnceItIsToStop)
     home.write(staging);
     home.write(temporaryFile);
     stop.request_stop();
-    StaleFolders::remove(StaleFolders::restoreAndList(lock), stop.get_token());
+    StaleFolders::clear(StaleFolders::restoreAndList(lock), stop.get_token());
     EXPECT_TRUE(home.exists(staging));
     EXPECT_TRUE(home.exists(temporaryFile));
 }
@@ -122,6 +122,8 @@ TEST_F(StaleFoldersTest, supersedeTheirTargetsIfTheyAreComplete)
     home.write(root(u"Game.new-"_s + uuid + u".complete/new"_s));
     home.write(root(u"Game/half"_s));
     home.write(EngineManager().folder() + u".new-"_s + uuid + u".complete/godot"_s);
+    EXPECT_EQ(StaleFolders::restoreAndList(lock).size(), 2);
+    EXPECT_TRUE(exists(u"Game/half"_s)) << "A long deletion must not hold up the start.";
     clearLeftovers();
     EXPECT_EQ(home.names(root()), (QStringList{u"Engine"_s, u"Game"_s}));
     EXPECT_EQ(home.names(root(u"Game"_s)), QStringList{u"new"_s});

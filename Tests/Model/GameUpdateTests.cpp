@@ -3,6 +3,7 @@
 
 #include "Support/BusyPool.h"
 #include "Support/UnchangeableScope.h"
+#include "System/FileTree.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -209,6 +210,21 @@ TEST_F(GameUpdateTest, finishesAReplacementThatFailedBeforeItPlays)
     playToTheEnd();
     EXPECT_EQ(model().info()->name, u"Newer");
     EXPECT_EQ(requestsOf(gamePath()), 1);
+    EXPECT_EQ(leftovers(), QStringList());
+}
+
+TEST_F(GameUpdateTest, offersNoGameWhoseReplacementIsNotFinished)
+{
+    installGame();
+    installEngine("exit 0");
+    writeMarker();
+    const auto complete = QFileInfo(root(completeGame)).path();
+    ASSERT_EQ(FileTree::rename(root(u"Game"_s), complete), 0);
+    installGame("config/name=\"Older\"\n");
+    writeMarker();
+    EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
+    waitForPhase(Phase::Kind::ready);
+    EXPECT_EQ(model().info()->name, u"Tether");
     EXPECT_EQ(leftovers(), QStringList());
 }
 

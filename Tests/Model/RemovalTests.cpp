@@ -154,8 +154,8 @@ TEST_F(RemovalTest, leavesNoPartOfAGameThatCannotBeRenamed)
     waitForFlow();
     EXPECT_FALSE(Paths::completeFolders().isEmpty()) << "The deletion was too fast to interrupt.";
     EXPECT_EQ(startModel().phase(), Phase::notDownloaded());
-    EXPECT_EQ(home.names(root(u"Game"_s)), QStringList());
     EXPECT_EQ(leftovers(), QStringList());
+    EXPECT_EQ(home.names(root(u"Game"_s)), QStringList());
     EXPECT_EQ(::umount2(QFile::encodeName(mountPoint).constData(), MNT_DETACH), 0);
 }
 

@@ -57,7 +57,7 @@ QStringList InstallTest::leftovers() const
 
 void InstallTest::clearLeftovers()
 {
-    StaleFolders::remove(StaleFolders::restoreAndList(lock));
+    StaleFolders::clear(StaleFolders::restoreAndList(lock));
 }
 
 void InstallTest::installGame(const QByteArray& settings) const

@@ -11,12 +11,14 @@
 
 namespace {
 
-/// If it fails, the next start tries again.
-void supersedeBestEffort(const QString& target, const QString& complete)
+/// If it fails, the next Play reports why.
+void supersedeBestEffort(const QString& target, const QString& complete,
+                         const std::stop_token& stop)
 {
     try {
-        FileTree::supersede(target, complete);
+        FileTree::supersede(target, complete, stop);
     } catch (const PlatformError&) {
+    } catch (const Cancelled&) {
     }
 }
 
@@ -27,9 +29,9 @@ QStringList StaleFolders::restoreAndList(const InstallationLock& lock)
     if (!lock.isHeld() || lock.isGameRunning())
         return {};
     try {
-        for (const auto& [complete, target] : Paths::completeFolders())
-            supersedeBestEffort(target, complete);
         auto folders = Paths::stagingFolders();
+        for (const auto& [complete, target] : Paths::completeFolders())
+            folders.append(complete);
         for (const auto& [backup, target] : Paths::backupFolders()) {
             if (FileTree::exists(target))
                 folders.append(backup);
@@ -48,10 +50,16 @@ void StaleFolders::finishReplacements(const std::stop_token& stop)
         FileTree::supersede(target, complete, stop);
 }
 
-void StaleFolders::remove(const QStringList& folders, const std::stop_token& stop)
+void StaleFolders::clear(const QStringList& folders, const std::stop_token& stop)
 {
-    for (const auto& folder : folders)
-        FileTree::removeBestEffort(folder, stop);
+    for (const auto& [complete, target] : Paths::completeFolders()) {
+        if (folders.contains(complete))
+            supersedeBestEffort(target, complete, stop);
+    }
+    for (const auto& folder : folders) {
+        if (!folder.endsWith(FileTree::completeSuffix))
+            FileTree::removeBestEffort(folder, stop);
+    }
     const auto temporaryFolders = Paths::tempDirs();
     for (const auto& folder : temporaryFolders) {
         if (!stop.stop_requested())

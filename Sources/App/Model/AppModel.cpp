@@ -157,7 +157,8 @@ Phase AppModel::phaseOnDisk()
     m_device = deviceOf(Paths::root());
     const auto game = Paths::game();
     const auto project = ProjectInspector::findProject(game);
-    if (!project)
+    // While a replacement is not finished, the old folder may be partly deleted.
+    if (!project || !Paths::completeFolders().isEmpty())
         return Phase::notDownloaded();
     m_info = ProjectInspector::inspect(*project);
     if (!m_info)

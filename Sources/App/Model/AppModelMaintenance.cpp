@@ -157,16 +157,20 @@ void AppModel::concludeRemoval(const QString& failure)
         fail(failure);
 }
 
-/// Deletes stale folders in the background.
+/// Clears stale folders in the background.
 void AppModel::clearStaleFolders()
 {
     const auto folders = StaleFolders::restoreAndList(m_lock);
     m_deletion = offThread([folders, stop = m_backgroundStop.get_token()] {
-        StaleFolders::remove(folders, stop);
+        StaleFolders::clear(folders, stop);
         return QString();
     });
     whenFinished(m_deletion, this, [this, folders](const QString&) {
-        if (!folders.isEmpty())
+        if (folders.isEmpty())
+            return;
+        if (m_phase == Phase::notDownloaded() && !isFlowRunning())
+            refreshState(); // A complete game may have come to its place.
+        else
             updateSize();
     });
 }
