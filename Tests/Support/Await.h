@@ -11,9 +11,10 @@
 #include <chrono>
 #include <functional>
 
-/// Runs the event loop until `condition` is true. Returns false and fails the test on timeout.
+/// Runs the event loop until `condition` is true. Returns false and fails the test on timeout. The
+/// default is long, since other programs may keep the processors or the disk busy.
 inline bool waitUntil(const std::function<bool()>& condition,
-                      std::chrono::milliseconds timeout = std::chrono::seconds{20})
+                      std::chrono::milliseconds timeout = std::chrono::seconds{60})
 {
     const auto held = QTest::qWaitFor(condition, static_cast<int>(timeout.count()));
     EXPECT_TRUE(held) << "Timed out.";

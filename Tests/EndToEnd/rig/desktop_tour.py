@@ -108,7 +108,7 @@ class DesktopTour:
         with self._something_in_front() as other:
             self._launcher.press("Play")
             try:
-                wait_for("The notification", lambda: self._services.noted("Notify"), seconds=60)
+                wait_for("The notification", lambda: self._services.noted("Notify"))
                 self._services.click(other.activation_token())
                 self._wait_for_front()
             except AssertionError:

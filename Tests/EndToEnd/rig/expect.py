@@ -43,7 +43,7 @@ def count_imported(project: Path) -> int:
 def expect_failure(world, message: str) -> None:
     """The launcher says `message`, and its report ends with the log's last lines."""
     launcher = world.launcher
-    launcher.wait_for_label("Needs something", seconds=60)
+    launcher.wait_for_label("Needs something")
     launcher.wait_for_label(message)
     world.picture("needs-something")
     report = launcher.failure_report()
@@ -78,7 +78,7 @@ def expect_question(launcher, title: str, message: str, button: str):
 def expect_game_starts(world) -> list[str]:
     """The scripted game opens; returns what it was started with."""
     launcher = world.launcher
-    launcher.wait_for_label("Starting…", seconds=60)
+    launcher.wait_for_label("Starting…")
     launcher.wait_for_log_line("The game is on.")
     (shell, program, *arguments), = launcher.children()
     assert program == str(world.home.engine_program()), (shell, program)

@@ -9,7 +9,7 @@ from rig.alert import Alert
 from rig.controls import Controls
 from rig.program import Program
 from rig.settings_sheet import SettingsSheet
-from rig.waiting import wait_for
+from rig.waiting import PATIENCE, wait_for
 
 TITLE = product.NAME
 
@@ -54,7 +54,7 @@ class Launcher(Program):
         """Whether the window shows that text, all of it, as a label."""
         return bool(self._controls.showing(text, "LABEL"))
 
-    def wait_for_label(self, text: str, seconds: float = 20) -> None:
+    def wait_for_label(self, text: str, seconds: float = PATIENCE) -> None:
         try:
             wait_for(f"\"{text}\"", lambda: self.shows(text), seconds)
         except AssertionError as error:
@@ -67,7 +67,7 @@ class Launcher(Program):
         """The lines in the log panel, which has to be open."""
         return self._controls.text("Log").split("\n")
 
-    def wait_for_log_line(self, line: str, seconds: float = 20) -> None:
+    def wait_for_log_line(self, line: str, seconds: float = PATIENCE) -> None:
         wait_for(f"\"{line}\" in the log", lambda: line in self.log(), seconds)
 
     def failure_report(self) -> str:

@@ -28,7 +28,7 @@ class Orca:
         return [line.removeprefix(SAID) for line in self._said.read_text().splitlines()
                 if line.startswith(SAID)]
 
-    def wait_for(self, *parts: str, after: int = 0, seconds: float = 30) -> int:
+    def wait_for(self, *parts: str, after: int = 0) -> int:
         """Waits until all the parts have been said, after so many utterances. Returns the number of
         utterances until then, which may be given as `after` to the next question."""
         def heard() -> int:
@@ -39,7 +39,7 @@ class Orca:
             return 0
 
         try:
-            return wait_for(f"{parts} being said", heard, seconds)
+            return wait_for(f"{parts} being said", heard)
         except AssertionError as error:
             raise AssertionError(f"{error}; said since then: {self.said()[after:]}") from None
 

@@ -6,7 +6,7 @@ import signal
 import subprocess
 from pathlib import Path
 
-from rig.waiting import wait_for
+from rig.waiting import PATIENCE, wait_for
 
 
 class Program:
@@ -24,7 +24,7 @@ class Program:
     def pid(self) -> int:
         return self._process.pid
 
-    def wait_for_end(self, seconds: float = 20) -> int:
+    def wait_for_end(self, seconds: float = PATIENCE) -> int:
         """Returns the status it ended with; below zero, the signal that ended it."""
         wait_for("The end of the program", lambda: not self.is_running(), seconds)
         return self._process.returncode

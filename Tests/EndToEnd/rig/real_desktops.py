@@ -58,7 +58,7 @@ class RealDesktop:
                 raise NotRunning(next((line for line in reversed(lines) if line), "no message"))
             return wayland_is_ready() if self.is_wayland else x11_is_ready()
 
-        wait_for("The desktop", is_ready, seconds=60)
+        wait_for("The desktop", is_ready)
         if self.is_wayland:
             os.environ.update(WAYLAND_DISPLAY=WAYLAND_DISPLAY, XDG_SESSION_TYPE="wayland")
 

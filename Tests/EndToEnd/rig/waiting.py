@@ -3,7 +3,12 @@
 
 import time
 
-def wait_for(what: str, condition, seconds: float = 20, interval: float = 0.05):
+# In seconds. Long, since other programs may keep the processors busy, or the disk: each unpacked
+# folder waits until all that was written to its file system is on the disk.
+PATIENCE = 60
+
+
+def wait_for(what: str, condition, seconds: float = PATIENCE, interval: float = 0.05):
     """Returns the first value of `condition()` that is true. When none has come after `seconds`,
     fails with `what` and the last value."""
     deadline = time.monotonic() + seconds

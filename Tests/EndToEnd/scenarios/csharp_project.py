@@ -13,7 +13,7 @@ def run(world):
 
     launcher = world.open_launcher()
     launcher.press("Play")
-    launcher.wait_for_label("Starting…", seconds=60)
+    launcher.wait_for_label("Starting…")
     launcher.wait_for_log_line("The game is on.")
     world.picture("starting")
     expected = [

@@ -44,7 +44,7 @@ def play_from_a_new_engine(world):
     launcher = world.open_launcher()
     launcher.open_settings().press("Reinstall")
     launcher.wait_for_alert().answer("Reinstall")
-    launcher.wait_for_label("Starting…", seconds=60)
+    launcher.wait_for_label("Starting…")
     launcher.wait_for_log_line("The game is on.")
 
 

@@ -34,7 +34,7 @@ def run(world):
     expect_installed(world)
     expect_real_requests(world)
 
-    launcher.wait_for_label("Playing", seconds=60)
+    launcher.wait_for_label("Playing")
     launcher.wait_for_label("The game is running in its own window.")
     world.picture("playing")
     expect_stop(world)

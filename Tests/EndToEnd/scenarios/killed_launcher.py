@@ -50,7 +50,7 @@ def kill_during_the_game(world):
     launcher = world.open_launcher()
     launcher.open_settings().press("Reinstall")
     launcher.wait_for_alert().answer("Reinstall")
-    launcher.wait_for_label("Starting…", seconds=60)
+    launcher.wait_for_label("Starting…")
     launcher.wait_for_log_line("On and on.")
     launcher.kill()
 

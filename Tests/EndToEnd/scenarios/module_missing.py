@@ -21,4 +21,4 @@ def run(world):
 
     world.install()
     launcher.press("Play")
-    launcher.wait_for_label("Starting…", seconds=30)
+    launcher.wait_for_label("Starting…")

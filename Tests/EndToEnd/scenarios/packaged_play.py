@@ -22,7 +22,7 @@ def run(world):
 
     world.web.stop()
     launcher.press("Play")
-    launcher.wait_for_label("Playing", seconds=30)
+    launcher.wait_for_label("Playing")
     stop(world)
     world.home.expect_nothing_left_over()
 

@@ -11,7 +11,7 @@ def run(world):
     saved = world.home.save_a_game()
     launcher = world.open_launcher()
     launcher.press("Play")
-    launcher.wait_for_label("Playing", seconds=30)
+    launcher.wait_for_label("Playing")
     before = world.home.snapshot()
 
     subprocess.run(world.upgrade, check=True)
@@ -27,6 +27,6 @@ def run(world):
     assert world.home.snapshot() == before
     assert saved.exists()
     launcher.press("Play")
-    launcher.wait_for_label("Playing", seconds=30)
+    launcher.wait_for_label("Playing")
     launcher.press("Stop")
     launcher.wait_for_label("Ready")

@@ -18,7 +18,7 @@ def run(world):
     launcher.wait_for_window()
     assert "libQt6WaylandClient" in Path(f"/proc/{launcher.pid}/maps").read_text()
     launcher.press("Play")
-    launcher.wait_for_label("Playing", seconds=30)
+    launcher.wait_for_label("Playing")
     launcher.press("Stop")
     launcher.wait_for_label("Ready")
 

@@ -36,8 +36,8 @@ def finish_the_setup(world, services):
     world.desktop.cover("Something else")
     attention = world.desktop.watch_attention()
     launcher.press("Play")
-    wait_for("The notification", lambda: services.noted("Notify"), seconds=60)
-    launcher.wait_for_label("The game is running in its own window.", seconds=60)
+    wait_for("The notification", lambda: services.noted("Notify"))
+    launcher.wait_for_label("The game is running in its own window.")
 
     (_, _, icon, title, sentence, actions, hints, _), = services.noted("Notify")
     assert (title, sentence) == (TITLE, "The game is ready and starting."), (title, sentence)
