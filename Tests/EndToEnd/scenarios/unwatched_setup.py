@@ -24,7 +24,7 @@ def kill_during_the_setup(world, services):
     wait_for("The progress", lambda: services.noted("Update"))
     assert services.noted("Release") == []
     world.launcher.kill()
-    wait_for("The end of the inhibition", lambda: len(services.noted("Release")) == 1, seconds=2)
+    wait_for("The end of the inhibition", lambda: len(services.noted("Release")) == 1)
     assert services.noted("Notify") == []
     world.web.stop()
 

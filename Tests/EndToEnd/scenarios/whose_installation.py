@@ -53,9 +53,8 @@ def start_beside_one_that_hangs(world):
     second = world.start_launcher()
     assert second.wait_for_alert().texts() == [WAITING]
     world.picture("waiting")
-    assert time.monotonic() - start < 3
-    wait_for("The second sentence", lambda: second.wait_for_alert().texts() == [NO_ANSWER], 5)
-    assert time.monotonic() - start < 6
+    wait_for("The second sentence", lambda: second.wait_for_alert().texts() == [NO_ANSWER])
+    assert time.monotonic() - start < 10  # Five seconds, and what a busy machine adds.
     world.picture("no-answer")
     second.wait_for_alert().answer("OK")
     assert second.wait_for_end() == 1
