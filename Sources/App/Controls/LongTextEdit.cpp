@@ -23,7 +23,7 @@ constexpr auto maxWordLength = 128;
 /// The user state of a text block that continues the line of the block before it.
 constexpr auto continuesLine = 1;
 
-/// Replaces paragraph separators by line separators.
+/// Replaces paragraph separators by line separators, and removes a carriage return at the end.
 QString withoutParagraphEnds(QString line)
 {
     if (line.endsWith(u'\r'))

@@ -48,7 +48,7 @@ struct EngineManager
     /// Downloads the engine, checks it against the published checksum list, unpacks it, replaces
     /// folder() and returns the engine program. Until the replacement, folder() is unchanged. Runs
     /// on the worker pool. The future may carry AppError, PlatformError, or Cancelled when `stop`
-    /// is requested. `platform` must outlive the work.
+    /// is requested. `platform` provides the tools, and must outlive the work.
     [[nodiscard]] QFuture<QString> install(std::shared_ptr<const FileDownloader> downloader,
                                            LogCallback log, std::stop_token stop,
                                            const Platform& platform = hostPlatform()) const;

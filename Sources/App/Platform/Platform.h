@@ -15,8 +15,11 @@ struct ToolCommand
     bool operator==(const ToolCommand&) const = default;
 };
 
-/// The decisions that differ between operating systems. All implementations are compiled and tested
-/// on every system; hostPlatform() returns the one in use. Thread-safe.
+/// The paths, names and tools that differ between operating systems. All implementations are
+/// compiled and tested on every system; hostPlatform() returns the one in use. Thread-safe.
+///
+/// The services of the desktop, such as FileBrowser and DesktopNotification, are not here: the
+/// build selects their sources.
 class Platform
 {
 public:

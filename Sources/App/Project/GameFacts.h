@@ -9,7 +9,8 @@
 /// Everything specific to the game of this launcher. ARCHITECTURE.md says what else a launcher for
 /// another Godot 3 game changes.
 ///
-/// CMake reads the launcher's names from this file, so each of them must be on one line.
+/// CMake and the scripts of the tests read the launcher's names and the engine's version from this
+/// file, so each of them must be on one line.
 namespace GameFacts {
 
 // The launcher.

@@ -80,8 +80,8 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
 QWidget* SettingsView::displayPickers()
 {
     //: Whether the game runs in a window or on the whole screen.
-    m_window = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
-    connect(m_window, &SegmentedPicker::currentChanged, this,
+    m_windowMode = new SegmentedPicker(tr("Window"), {tr("Windowed"), tr("Fullscreen")});
+    connect(m_windowMode, &SegmentedPicker::currentChanged, this,
             [this](int index) { m_model.setFullscreen(index == 1); });
 
     m_resolution = new QComboBox;
@@ -96,7 +96,7 @@ QWidget* SettingsView::displayPickers()
     });
 
     auto* const pickers =
-        verticalStack({.spacing = spacing}, {pickerRow(tr("Window"), m_window),
+        verticalStack({.spacing = spacing}, {pickerRow(tr("Window"), m_windowMode),
                                              pickerRow(tr("Resolution"), m_resolution)});
     arrangePickers();
     return pickers;
@@ -154,9 +154,9 @@ void SettingsView::refresh()
     const auto choice = std::ranges::find(allResolutionChoices, m_model.resolution());
 
     // Showing a setting must not change it.
-    const QSignalBlocker windowBlocker(m_window);
+    const QSignalBlocker windowModeBlocker(m_windowMode);
     const QSignalBlocker resolutionBlocker(m_resolution);
-    m_window->setCurrent(m_model.fullscreen() ? 1 : 0);
+    m_windowMode->setCurrent(m_model.fullscreen() ? 1 : 0);
     m_resolution->setCurrentIndex(static_cast<int>(choice - allResolutionChoices.begin()));
     // Screen readers do not find the choice by themselves. This setter notifies them even if the
     // value is unchanged.

@@ -41,7 +41,7 @@ private:
 
     AppModel& m_model;
     QList<PickerRow> m_pickerRows;
-    SegmentedPicker* m_window = nullptr;
+    SegmentedPicker* m_windowMode = nullptr;
     QComboBox* m_resolution = nullptr;
     QPushButton* m_update = nullptr;
     QPushButton* m_reinstall = nullptr;
