@@ -99,8 +99,8 @@ std::optional<TreeRemoval::Failure> TreeRemoval::remove(const QString& path,
     return removal.m_failure;
 }
 
-TreeRemoval::TreeRemoval(QString path, const std::stop_token& stop)
-    : m_parentPath(std::move(path))
+TreeRemoval::TreeRemoval(QString parentPath, const std::stop_token& stop)
+    : m_parentPath(std::move(parentPath))
     , m_stop(stop)
 {
 }
@@ -114,7 +114,7 @@ void TreeRemoval::run(const std::string& name)
             report(name, errno);
         return;
     }
-    m_mount = mountOf(m_parent.get(), "");
+    m_parentMount = mountOf(m_parent.get(), "");
     if (!removeFile(m_parent.get(), name))
         enter(m_parent.get(), name);
     while (!m_folders.empty() && !m_stop.stop_requested()) {
@@ -129,11 +129,11 @@ void TreeRemoval::run(const std::string& name)
     }
 }
 
-/// Returns true if `name` in `folder` lies on another mount than the folder to be removed.
+/// Returns true if `name` in `folder` lies on another mount than the parent of the whole tree.
 bool TreeRemoval::isMount(int folder, const char* name) const
 {
     const auto mount = mountOf(folder, name);
-    return mount && mount != m_mount;
+    return mount && mount != m_parentMount;
 }
 
 /// Removes anything but a folder; returns false for a folder.

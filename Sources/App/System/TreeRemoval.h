@@ -43,7 +43,7 @@ private:
         bool isEmptied = true;
     };
 
-    TreeRemoval(QString path, const std::stop_token& stop);
+    TreeRemoval(QString parentPath, const std::stop_token& stop);
 
     void run(const std::string& name);
     [[nodiscard]] bool isMount(int folder, const char* name) const;
@@ -62,7 +62,7 @@ private:
     FileDescriptor m_parent;
     /// The descriptor of the last of m_folders.
     FileDescriptor m_current;
-    /// The mount of the folder to be removed.
-    std::optional<quint64> m_mount;
+    /// The mount of the parent folder. On another one lies what is mounted, which is not removed.
+    std::optional<quint64> m_parentMount;
     std::optional<Failure> m_failure;
 };
