@@ -18,7 +18,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -64,7 +63,7 @@ void run(InstallationLock& lock, const QString& action)
     // What the model leaves to the background, and what it makes of its end.
     workerPool().waitForDone();
     QCoreApplication::processEvents();
-    for (const auto& line : model.log().newest(std::numeric_limits<int>::max()))
+    for (const auto& line : model.log().newest())
         std::puts(qPrintable(line));
     std::puts(qPrintable(model.statusTitle() + u": "_s + model.statusDetail()));
 }

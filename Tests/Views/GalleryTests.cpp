@@ -64,7 +64,7 @@ TEST_P(Gallery, showsTheState)
 {
     enterState();
     auto& log = model().log();
-    ASSERT_TRUE(waitUntil([&] { return log.lines() == log.newest(2000); }));
+    ASSERT_TRUE(waitUntil([&] { return log.lines() == log.newest(); }));
     showAll();
     save(window(), state);
 }

@@ -30,7 +30,7 @@ protected:
     void waitUntilShown()
     {
         EXPECT_TRUE(waitUntil([this] {
-            return model().log().lines() == model().log().newest(2000) &&
+            return model().log().lines() == model().log().newest() &&
                    edit().text() == model().log().lines().join(u'\n');
         }));
     }

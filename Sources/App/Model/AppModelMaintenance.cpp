@@ -216,7 +216,7 @@ void AppModel::copyFailure()
 
 void AppModel::copyLog()
 {
-    m_desktop.copyText(m_log.newest(LogStore::defaultMaxLines).join(u'\n'));
+    m_desktop.copyText(m_log.newest().join(u'\n'));
 }
 
 bool AppModel::confirmQuit()

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <mutex>
 
 /// Takes one line for the log, or several separated by line feeds. Thread-safe.
@@ -40,7 +41,7 @@ public:
 
     /// Returns the newest `count` lines, or all if there are fewer, including lines not published
     /// yet. Any thread.
-    [[nodiscard]] QStringList newest(qsizetype count) const;
+    [[nodiscard]] QStringList newest(qsizetype count = std::numeric_limits<qsizetype>::max()) const;
 
     /// The published lines, oldest first. Main thread.
     [[nodiscard]] const QStringList& lines() const { return m_lines; }
