@@ -36,7 +36,7 @@ protected:
 
 TEST_F(Launch, skipsWhatIsDoneAndStartsTheGameAtOnce)
 {
-    startReady("sleep 0.5; exit 0");
+    startReady("sleep 1; exit 0");
     watchTitles();
     model().play();
     waitForFlow();

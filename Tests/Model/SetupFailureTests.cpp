@@ -54,7 +54,7 @@ TEST_F(SetupFailureTest, discardsAnEngineThatDoesNotMatchItsChecksum)
 
 TEST_F(SetupFailureTest, showsNoProgressOfADownloadThatFailed)
 {
-    durations.stallTimeout = 500ms;
+    durations.stallTimeout = 3s;
     startModel();
     enterDownload(50, 200);
     ASSERT_EQ(model().progress(), 0.25);
@@ -100,6 +100,7 @@ TEST_F(SetupFailureTest, reportsAssetsThatTheEngineDidNotImport)
 TEST_F(SetupFailureTest, stopsAnImportThatTakesTooLong)
 {
     durations.importTimeout = 50ms;
+    durations.killTimeout = 10min; // It ends by SIGTERM, however busy the machine is.
     startModel();
     serveScript("exec sleep 60");
     playToTheEnd();

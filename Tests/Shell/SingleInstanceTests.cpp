@@ -106,7 +106,7 @@ TEST_F(SingleInstanceTest, knowsAnInstallationByEveryPathThatLeadsToIt)
 {
     const auto link = folder.path(u"link"_s);
     ASSERT_TRUE(QFile::link(folder.path(u"folder"_s), link));
-    Start second(link + u"/lock"_s, {}, 1000);
+    Start second(link + u"/lock"_s);
     EXPECT_EQ(second.nextLine(), "handed over");
 }
 
@@ -155,7 +155,7 @@ TEST_F(SingleInstanceTest, givesUpALauncherThatDoesNotAnswerInTime)
     timer.start();
     Start second(lock, {}, 300);
     EXPECT_EQ(second.nextLine(), "no answer");
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(timer.elapsed(), 15'000);
     first.resume();
 }
 

@@ -141,7 +141,7 @@ QList<QByteArray> HttpServer::requests() const
 
 bool HttpServer::waitForRequests(int count) const
 {
-    return QTest::qWaitFor([&] { return requests().size() >= count; }, 20'000);
+    return QTest::qWaitFor([&] { return requests().size() >= count; }, 60'000);
 }
 
 void HttpServer::accept()

@@ -66,7 +66,7 @@ public:
 
     /// The heads of all requests so far.
     [[nodiscard]] QList<QByteArray> requests() const;
-    /// Waits until `count` requests have arrived. Returns false after 20 s.
+    /// Waits until `count` requests have arrived. Returns false after 60 s.
     [[nodiscard]] bool waitForRequests(int count) const;
 
 private:

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QDBusPendingCall>
-#include <QDateTime>
 #include <QProcess>
 #include <QUuid>
 
@@ -125,6 +124,5 @@ TaskBarListener::~TaskBarListener() = default;
 void TaskBarListener::receive(const QString& application, const QVariantMap& properties)
 {
     updates.append({application, properties.value(u"progress"_s).toDouble(),
-                    properties.value(u"progress-visible"_s).toBool(),
-                    QDateTime::currentMSecsSinceEpoch()});
+                    properties.value(u"progress-visible"_s).toBool()});
 }

@@ -66,7 +66,6 @@ public:
         QString application;
         double progress = 0;
         bool isVisible = false;
-        qint64 milliseconds = 0;
     };
     QList<Update> updates;
 

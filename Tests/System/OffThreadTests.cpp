@@ -44,7 +44,11 @@ private:
     void run()
     {
         while (true) {
-            while (!m_isFull) {
+            // It polls for some microseconds, so as to finish in the same instant, and then lets a
+            // thread of a busy machine work.
+            for (int polls = 0; !m_isFull; ++polls) {
+                if (polls > 10'000)
+                    std::this_thread::yield();
             }
             const auto promise = std::exchange(m_promise, nullptr);
             m_isFull = false;

@@ -15,6 +15,8 @@ class Controls:
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
+        # By default it takes a program that is silent for 0.8 s for one without controls.
+        Atspi.set_timeout(30_000, 30_000)
         self._atspi = Atspi
         self._pid = pid
         self._application = None
@@ -24,7 +26,7 @@ class Controls:
         desktop = self._atspi.get_desktop(0)
         desktop.clear_cache()
         applications = [self._if_there(lambda: desktop.get_child_at_index(index))
-                        for index in range(desktop.get_child_count())]
+                        for index in range(self._if_there(desktop.get_child_count) or 0)]
         # A program that has just ended is still listed for a moment.
         self._application = next(
             (application for application in applications

@@ -7,7 +7,7 @@ import subprocess
 from pathlib import Path
 
 from rig import window_manager
-from rig.waiting import wait_for
+from rig.waiting import PATIENCE, wait_for
 
 SCREEN = "1920x1080x24"
 
@@ -97,7 +97,7 @@ class Desktop:
 
     def front(self) -> str:
         """The title of the window that lies over all others."""
-        return self._ask("getwindowname", self._visible_windows()[-1]).strip()
+        return self._ask("getwindowname", *self._visible_windows()[-1:]).strip()
 
     def watch_attention(self):
         """Returns a function that says whether a window has asked for attention since."""
@@ -132,7 +132,7 @@ class Desktop:
     def clipboard(self) -> str:
         """The text that any other program would now paste: nothing before the first copy."""
         return subprocess.run(["xclip", "-selection", "clipboard", "-out"],
-                              capture_output=True, timeout=20).stdout.decode()
+                              capture_output=True, timeout=PATIENCE).stdout.decode()
 
     def take_picture(self, name: str) -> None:
         """Keeps a picture of the whole display, numbered in the order taken."""
@@ -142,10 +142,12 @@ class Desktop:
             check=True)
 
     def _window(self, title: str) -> str:
-        """The one window of that title, once it can be seen."""
-        window, = wait_for(f"The window \"{title}\"",
-                           lambda: self._visible_windows(f"^{title}$"))
-        return window
+        """The window of that title, once there is only one that can be seen."""
+        def only_one() -> str | None:
+            windows = self._visible_windows(f"^{title}$")
+            return windows[0] if len(windows) == 1 else None
+
+        return wait_for(f"The window \"{title}\"", only_one)
 
     def _visible_windows(self, title: str = ".") -> list[str]:
         return wait_for("A search among the windows", lambda: self._search(title)).stdout.split()
@@ -182,5 +184,5 @@ class Desktop:
     def _start_accessibility_bus(self) -> None:
         """The session bus starts it when somebody asks for its address."""
         subprocess.run(
-            ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
-             "org.a11y.Bus.GetAddress"], check=True, capture_output=True)
+            ["dbus-send", "--session", "--print-reply", "--reply-timeout=60000",
+             "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"], check=True, capture_output=True)

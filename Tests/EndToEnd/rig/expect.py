@@ -40,6 +40,21 @@ def count_imported(project: Path) -> int:
     return len(found)
 
 
+def failure_in_log(launcher) -> str:
+    """The sentence of the newest failure, once there is one."""
+    errors = wait_for("An error in the log", lambda: [
+        line for line in launcher.log() if line.startswith("Error: ")])
+    return errors[-1].removeprefix("Error: ")
+
+
+def expect_failed_start(world) -> None:
+    """The launcher says that the scripted game which ends at once did not start."""
+    message = failure_in_log(world.launcher)
+    assert re.fullmatch(r"The game closed after \d+ seconds? \(exit code 3\), so it did not start "
+                        r"properly\.", message), message
+    expect_failure(world, message)
+
+
 def expect_failure(world, message: str) -> None:
     """The launcher says `message`, and its report ends with the log's last lines."""
     launcher = world.launcher
@@ -57,7 +72,7 @@ def expect_cancelled(world) -> None:
     """The launcher is back where it was before the first Play, and says so in the log."""
     launcher = world.launcher
     launcher.press("Cancel")
-    launcher.wait_for_label("Not downloaded", seconds=5)
+    launcher.wait_for_label("Not downloaded", seconds=20)
     launcher.wait_for_log_line("Cancelled.")
     world.picture("cancelled")
     assert launcher.log()[-1] == "Cancelled.", launcher.log()

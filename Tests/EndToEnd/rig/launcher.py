@@ -38,7 +38,7 @@ class Launcher(Program):
         another button to be there by the second click."""
         x, y = map(str, self._controls.right_end(name))
         subprocess.run(["xdotool", "mousemove", x, y,
-                        "click", "--repeat", "2", "--delay", "250", "1"], check=True)
+                        "click", "--repeat", "2", "--delay", "150", "1"], check=True)
 
     def is_left_of(self, name: str, other: str) -> bool:
         """Whether the right end of one button is further left than that of another."""

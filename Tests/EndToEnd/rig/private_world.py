@@ -213,6 +213,9 @@ def _call(function: str, *arguments) -> None:
 
 
 def _descendants(pid: int) -> list[int]:
-    children = Path(f"/proc/{pid}/task/{pid}/children")
-    found = [int(child) for child in children.read_text().split()] if children.exists() else []
+    try:
+        children = Path(f"/proc/{pid}/task/{pid}/children").read_text().split()
+    except (FileNotFoundError, ProcessLookupError):
+        return []
+    found = [int(child) for child in children]
     return found + [grandchild for child in found for grandchild in _descendants(child)]

@@ -39,6 +39,7 @@ def listen() -> None:
     import gi
     gi.require_version("Atspi", "2.0")
     from gi.repository import Atspi
+    Atspi.set_timeout(30_000, 30_000)
 
     def shown(event) -> None:
         # What it was called when it showed before is not what it says now.

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A setup that has got as far as one of its steps and would stay there for minutes, so that
+"""A setup that has got as far as one of its steps and would stay there for a minute, so that
 something can be done to it."""
 
 from rig import engine
@@ -9,7 +9,7 @@ GAME = "Step 1 of 4 · Downloading the game"
 ENGINE = f"Step 2 of 4 · Downloading the Godot engine ({engine.VERSION})"
 IMPORT = "Step 3 of 4 · First-time setup, this can take a minute or more"
 
-RATES = {GAME: {"branch_rate": "4k"}, ENGINE: {"release_rate": "8k"}, IMPORT: {}}
+RATES = {GAME: {"branch_rate": "2k"}, ENGINE: {"branch_rate": "40k", "release_rate": "5k"}, IMPORT: {}}
 LOG_LINES = {
     GAME: "Downloading the game source from GitHub (branch master)…",
     ENGINE: f"Downloading {engine.archive_name()} from godotengine/godot releases…",

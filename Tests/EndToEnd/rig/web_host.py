@@ -108,7 +108,7 @@ class WebHost:
 
     def stop(self) -> None:
         self._server.send_signal(signal.SIGTERM)
-        self._server.wait(timeout=10)
+        self._server.wait()
         self._server = None
 
     def requests(self) -> list[str]:

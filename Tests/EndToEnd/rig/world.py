@@ -13,6 +13,7 @@ from rig.home import Home
 from rig.launcher import TITLE, Launcher
 from rig.private_world import System
 from rig.session_services import SessionServices
+from rig.waiting import wait_for
 from rig.web_host import WebHost
 
 
@@ -97,6 +98,7 @@ class World:
         open before has to have ended."""
         self.launcher = self.start_launcher(**environment)
         self.launcher.wait_for_window()
+        wait_for("The focus on the window", self.launcher.is_active)
         self.desktop.move_aside(TITLE)
         self.launcher.press("Show log")
         return self.launcher

@@ -2,7 +2,7 @@
 """What the launcher copies is what another program then pastes."""
 
 from rig import engine
-from rig.expect import expect_failure
+from rig.expect import expect_failed_start
 from rig.waiting import wait_for
 
 
@@ -11,9 +11,7 @@ def run(world):
 
     launcher = world.open_launcher()
     launcher.press("Play")
-    expect_failure(
-        world,
-        "The game closed after 0 seconds (exit code 3), so it did not start properly.")
+    expect_failed_start(world)
     assert "A library is missing." in launcher.failure_report()
     expect_copied(world, "Copy", launcher.failure_report())
     expect_copied(world, "Copy log", "\n".join(launcher.log()))

@@ -3,7 +3,7 @@
 Play goes through the import again."""
 
 from rig import engine
-from rig.expect import expect_failure
+from rig.expect import expect_failed_start
 
 
 def run(world):
@@ -13,9 +13,7 @@ def run(world):
 
     launcher = world.open_launcher()
     launcher.press("Play")
-    expect_failure(
-        world,
-        "The game closed after 0 seconds (exit code 3), so it did not start properly.")
+    expect_failed_start(world)
     assert "A library is missing." in launcher.log()
     assert not world.home.marker().exists()
     world.home.expect_nothing_left_over()

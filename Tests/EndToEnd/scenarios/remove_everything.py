@@ -30,7 +30,7 @@ def run(world):
     launcher.wait_for_label("Not downloaded")
     wait_for("The button without a size", lambda: settings.remove_button() == "Remove everything")
     assert settings.is_open()
-    assert not world.home.root.exists()
+    wait_for("The removal", lambda: not world.home.root.exists())
     assert saved.read_text() == "The third cave.\n"
     world.picture("removed")
 

@@ -23,7 +23,7 @@ def run(world):
     wait_for("A call of the file manager", manager.shown)
     settings.press("Show saves")
     wait_for("The opening of the saves", world.opener.opened)
-    assert len(launcher.children()) == 1, launcher.children()
+    wait_for("The end of all other programs", lambda: len(launcher.children()) == 1)
     settings.close()
 
     expect_stop(world)

@@ -17,6 +17,7 @@ def run(world):
     for scale in SCALES:
         launcher = world.launcher = world.start_launcher(QT_SCALE_FACTOR=scale)
         launcher.wait_for_window()
+        wait_for("The focus on the window", launcher.is_active)
         wait_for("Play in view", lambda: shows_play(world, float(scale)))
         world.picture(f"scale-{scale}")
         width, height = world.desktop.windows()[TITLE]

@@ -52,7 +52,7 @@ TEST(ZipCompare, unpacksTheNamesAndBytesThatAnotherReaderFinds)
     QProcess comparison;
     comparison.setProcessChannelMode(QProcess::MergedChannels);
     comparison.start(QStringLiteral(COMPARE_WITH_ZIPFILE), {folder.path()});
-    ASSERT_TRUE(comparison.waitForFinished());
+    ASSERT_TRUE(comparison.waitForFinished(-1));
     EXPECT_EQ(comparison.exitCode(), 0) << comparison.readAll().constData();
 }
 

@@ -121,7 +121,7 @@ TEST_F(ZipExtractorTest, unpacksWhatTheUsualToolsMake)
         QProcess process;
         process.setWorkingDirectory(folder.path(u"tree"_s));
         process.start(tool.first(), tool.sliced(1));
-        ASSERT_TRUE(process.waitForFinished() && process.exitCode() == 0)
+        ASSERT_TRUE(process.waitForFinished(-1) && process.exitCode() == 0)
             << tool.first() << process.readAllStandardError().constData();
 
         EXPECT_EQ(extract(folder.read(u"made.zip"_s)), 0) << tool.first() << ": " << log.join(u' ');
