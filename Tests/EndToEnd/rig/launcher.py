@@ -2,6 +2,7 @@
 """The launcher as a player meets it: its window, through the accessibility bus."""
 
 import subprocess
+import time
 from pathlib import Path
 
 from rig import product
@@ -39,6 +40,7 @@ class Launcher(Program):
         x, y = map(str, self._controls.right_end(name))
         subprocess.run(["xdotool", "mousemove", x, y,
                         "click", "--repeat", "2", "--delay", "150", "1"], check=True)
+        time.sleep(1)  # The next click is not the third of these.
 
     def is_left_of(self, name: str, other: str) -> bool:
         """Whether the right end of one button is further left than that of another."""
