@@ -7,6 +7,7 @@
 #include "Support/ForkedProcess.h"
 #include "Support/InstallTest.h"
 #include "Support/UnchangeableScope.h"
+#include "System/Errors.h"
 
 #include <QFile>
 
@@ -143,6 +144,15 @@ TEST_F(StaleFoldersTest, areClearedThoughOneCannotSupersedeItsTarget)
     EXPECT_TRUE(exists(u"Game/half"_s));
     EXPECT_TRUE(exists(u"Game.new-"_s + uuid + u".complete/new"_s));
     EXPECT_EQ(home.names(root(u"Engine"_s)), QStringList());
+}
+
+TEST_F(StaleFoldersTest, areNoneWhereTheHomeFolderIsUnknown)
+{
+    const EnvironmentScope notUtf8("XDG_DATA_HOME", "/gr\xf6\xdf"
+                                                    "e");
+    ASSERT_THROW(Paths::root(), PlatformError);
+    EXPECT_EQ(StaleFolders::restoreAndList(lock), QStringList());
+    EXPECT_NO_THROW(clearLeftovers());
 }
 
 TEST_F(StaleFoldersTest, areNotTheFoldersThatAreJustBeingMade)

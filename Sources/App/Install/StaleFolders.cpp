@@ -11,14 +11,19 @@
 
 namespace {
 
-/// If it fails, the next Play reports why.
-void supersedeBestEffort(const QString& target, const QString& complete,
-                         const std::stop_token& stop)
+/// Finishes the replacements among `folders`. If one fails, the next Play reports why.
+void finishBestEffort(const QStringList& folders, const std::stop_token& stop)
 {
-    try {
-        FileTree::supersede(target, complete, stop);
-    } catch (const PlatformError&) {
-    } catch (const Cancelled&) {
+    if (folders.isEmpty())
+        return; // There may be no home folder.
+    for (const auto& [complete, target] : Paths::completeFolders()) {
+        if (!folders.contains(complete))
+            continue;
+        try {
+            FileTree::supersede(target, complete, stop);
+        } catch (const PlatformError&) {
+        } catch (const Cancelled&) {
+        }
     }
 }
 
@@ -52,10 +57,7 @@ void StaleFolders::finishReplacements(const std::stop_token& stop)
 
 void StaleFolders::clear(const QStringList& folders, const std::stop_token& stop)
 {
-    for (const auto& [complete, target] : Paths::completeFolders()) {
-        if (folders.contains(complete))
-            supersedeBestEffort(target, complete, stop);
-    }
+    finishBestEffort(folders, stop);
     for (const auto& folder : folders) {
         if (!folder.endsWith(FileTree::completeSuffix))
             FileTree::removeBestEffort(folder, stop);
