@@ -185,4 +185,5 @@ class Desktop:
         """The session bus starts it when somebody asks for its address."""
         subprocess.run(
             ["dbus-send", "--session", "--print-reply", "--reply-timeout=60000",
-             "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"], check=True, capture_output=True)
+             "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"],
+            check=True, capture_output=True)

@@ -9,7 +9,11 @@ GAME = "Step 1 of 4 · Downloading the game"
 ENGINE = f"Step 2 of 4 · Downloading the Godot engine ({engine.VERSION})"
 IMPORT = "Step 3 of 4 · First-time setup, this can take a minute or more"
 
-RATES = {GAME: {"branch_rate": "2k"}, ENGINE: {"branch_rate": "40k", "release_rate": "5k"}, IMPORT: {}}
+RATES = {
+    GAME: {"branch_rate": "2k"},
+    ENGINE: {"branch_rate": "40k", "release_rate": "5k"},
+    IMPORT: {},
+}
 LOG_LINES = {
     GAME: "Downloading the game source from GitHub (branch master)…",
     ENGINE: f"Downloading {engine.archive_name()} from godotengine/godot releases…",
