@@ -10,7 +10,17 @@
 
 namespace {
 
-using GameUpdateTest = SetupTest;
+class GameUpdateTest : public SetupTest
+{
+protected:
+    /// Removes so many files that the deletion is still under way afterwards.
+    void removeManyFiles()
+    {
+        installManyFiles();
+        model().removeEverything();
+        waitForFlow();
+    }
+};
 
 /// The project of a new game whose target is still to be deleted.
 const auto completeGame = u"Game.new-01234567-89AB-CDEF-0123-456789ABCDEF.complete/project.godot"_s;
@@ -145,9 +155,7 @@ TEST_F(GameUpdateTest, replacesAGameThatCannotBePlayedByAnotherOne)
 TEST_F(GameUpdateTest, downloadsAfterADeletionThatIsUnderWay)
 {
     playToTheEnd();
-    installManyFiles();
-    model().removeEverything();
-    waitForFlow();
+    removeManyFiles();
     ASSERT_FALSE(stagingFolders().isEmpty()) << "The deletion was too fast for a press of Play.";
     server.on(gamePath(), [this](const HttpServer::Connection&) {
         EXPECT_EQ(stagingFolders().filter(u".new-"_s), QStringList());
@@ -163,9 +171,7 @@ TEST_F(GameUpdateTest, downloadsAfterADeletionThatIsUnderWay)
 TEST_F(GameUpdateTest, canBeCancelledWhileItWaitsForADeletion)
 {
     playToTheEnd();
-    installManyFiles();
-    model().removeEverything();
-    waitForFlow();
+    removeManyFiles();
     model().play();
     waitForPhase(Phase::Kind::downloading);
     ASSERT_FALSE(stagingFolders().isEmpty()) << "The deletion was too fast for a cancel.";
@@ -182,9 +188,7 @@ TEST_F(GameUpdateTest, endsInTheSentenceOfADeletionThatFailed)
     const UnchangeableScope unchangeable(stuck);
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no file unchangeable.";
-    installManyFiles();
-    model().removeEverything();
-    waitForFlow();
+    removeManyFiles();
     model().play();
     waitForFlow();
     EXPECT_TRUE(model().phase().message().startsWith(u"Could not remove the files: "));
@@ -235,9 +239,7 @@ TEST_F(GameUpdateTest, finishesNoReplacementThatIsBeingDeleted)
     const UnchangeableScope unchangeable(stuck);
     if (!unchangeable.isInForce())
         GTEST_SKIP() << "This user or file system can make no file unchangeable.";
-    installManyFiles();
-    model().removeEverything();
-    waitForFlow();
+    removeManyFiles();
     ASSERT_GT(stagingFolders().size(), 1) << "The deletion was too fast for a press of Play.";
     model().play();
     waitForFlow();

@@ -113,6 +113,8 @@ TEST_F(LogStoreTest, isEmptyAfterAClearWhileAPublicationIsPending)
 {
     m_log.append(u"before"_s);
     m_log.clear();
+    ASSERT_TRUE(waitUntil([this] { return m_changes.count() >= 1; }));
+    EXPECT_EQ(m_log.lines(), QStringList());
     ASSERT_TRUE(waitUntil([this] { return m_changes.count() == 2; }));
     EXPECT_EQ(m_log.lines(), QStringList());
 }
@@ -181,6 +183,8 @@ TEST_F(LogStoreTest, announcesAClearAndWhatFollows)
     m_log.append(u"gone"_s);
     m_log.clear();
     m_log.append(u"after"_s);
+    ASSERT_TRUE(waitUntil([this] { return m_changes.count() >= 2; }));
+    EXPECT_EQ(shown.lines(), QStringList{u"after"_s});
     ASSERT_TRUE(waitUntil([this] { return m_changes.count() == 3; }));
     EXPECT_EQ(shown.lines(), QStringList{u"after"_s});
     EXPECT_EQ(shown.addedCount(), 2);

@@ -162,7 +162,9 @@ TEST_F(SetupMonitorTest, saysNothingOfASetupThatThePlayerCancels)
     waitForFlow();
     waitForRelease();
     waitForHiddenProgress();
+    settle();
     EXPECT_TRUE(notifications->calls.isEmpty());
+    EXPECT_FALSE(taskBar->updates.constLast().isVisible);
 }
 
 TEST_F(SetupMonitorTest, leavesAPlayerWhoWatchesAlone)

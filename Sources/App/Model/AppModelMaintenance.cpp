@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <tuple>
 
@@ -165,12 +166,12 @@ void AppModel::clearStaleFolders()
         StaleFolders::clear(folders, stop);
         return QString();
     });
-    whenFinished(m_deletion, this, [this, folders](const QString&) {
-        if (folders.isEmpty())
-            return;
-        if (m_phase == Phase::notDownloaded() && !isFlowRunning())
+    const auto replaces = std::ranges::any_of(
+        folders, [](const QString& folder) { return folder.endsWith(FileTree::completeSuffix); });
+    whenFinished(m_deletion, this, [this, folders, replaces](const QString&) {
+        if (replaces && m_phase == Phase::notDownloaded() && !isFlowRunning())
             refreshState(); // A complete game may have come to its place.
-        else
+        else if (!folders.isEmpty())
             updateSize();
     });
 }

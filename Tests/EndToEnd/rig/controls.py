@@ -6,18 +6,22 @@ from rig.waiting import wait_for
 BUTTONS = ("PUSH_BUTTON", "TOGGLE_BUTTON", "CHECK_BOX")
 
 
+def load_atspi():
+    """The accessibility library. It connects to the bus, which has to be there by then."""
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi
+    # By default it takes a program that is silent for 0.8 s for one without controls.
+    Atspi.set_timeout(30_000, 30_000)
+    return Atspi
+
+
 class Controls:
     """The controls of the program with the process number `pid`. Roles, states and actions go by
     their names on the bus."""
 
     def __init__(self, pid: int):
-        # The library connects to the bus when it is loaded, which has to be there by then.
-        import gi
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi
-        # By default it takes a program that is silent for 0.8 s for one without controls.
-        Atspi.set_timeout(30_000, 30_000)
-        self._atspi = Atspi
+        self._atspi = load_atspi()
         self._pid = pid
         self._application = None
 

@@ -56,15 +56,15 @@ class Desktop:
         found = {}
         for window in self._visible_windows():
             title = self._ask("getwindowname", window).strip()
-            size = re.search(r"Geometry: (\d+)x(\d+)", self._ask("getwindowgeometry", window))
+            size = self._size(window)
             if title and size:
-                found[title] = (int(size.group(1)), int(size.group(2)))
+                found[title] = size
         return found
 
     def move_aside(self, title: str) -> None:
         """Moves a window to the right edge, from under the windows that open at the left."""
         window = self._window(title)
-        width, _ = self.windows()[title]
+        width, _ = self._size(window)
         x = int(SCREEN.split("x")[0]) - width
         subprocess.run(["xdotool", "windowmove", window, str(x), "0"], check=True)
 
@@ -150,17 +150,20 @@ class Desktop:
         return wait_for(f"The window \"{title}\"", only_one)
 
     def _visible_windows(self, title: str = ".") -> list[str]:
-        return wait_for("A search among the windows", lambda: self._search(title)).stdout.split()
+        """Searches again while windows, of any title, are going: that ends a search."""
+        def search() -> subprocess.CompletedProcess | None:
+            found = _run_xdotool("search", "--onlyvisible", "--name", title)
+            return None if "X Error" in found.stderr else found
 
-    def _search(self, title: str) -> subprocess.CompletedProcess | None:
-        """Nothing if a window, of any title, has gone meanwhile: that ends the search."""
-        search = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
-                                capture_output=True, text=True)
-        return None if "X Error" in search.stderr else search
+        return wait_for("A search among the windows", search).stdout.split()
+
+    def _size(self, window: str) -> tuple[int, int] | None:
+        size = re.search(r"Geometry: (\d+)x(\d+)", self._ask("getwindowgeometry", window))
+        return (int(size.group(1)), int(size.group(2))) if size else None
 
     def _ask(self, *question: str) -> str:
         """What xdotool answers: nothing about a window that has gone meanwhile."""
-        return subprocess.run(["xdotool", *question], capture_output=True, text=True).stdout
+        return _run_xdotool(*question).stdout
 
     def _start_display(self, screen: str = SCREEN) -> None:
         # A server that resets when its last client leaves refuses clients during the reset.
@@ -184,6 +187,10 @@ class Desktop:
     def _start_accessibility_bus(self) -> None:
         """The session bus starts it when somebody asks for its address."""
         subprocess.run(
-            ["dbus-send", "--session", "--print-reply", "--reply-timeout=60000",
+            ["dbus-send", "--session", "--print-reply", f"--reply-timeout={PATIENCE * 1000}",
              "--dest=org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"],
             check=True, capture_output=True)
+
+
+def _run_xdotool(*command: str) -> subprocess.CompletedProcess:
+    return subprocess.run(["xdotool", *command], capture_output=True, text=True)

@@ -40,11 +40,13 @@ def count_imported(project: Path) -> int:
     return len(found)
 
 
-def failure_in_log(launcher) -> str:
-    """The sentence of the newest failure, once there is one."""
-    errors = wait_for("An error in the log", lambda: [
-        line for line in launcher.log() if line.startswith("Error: ")])
-    return errors[-1].removeprefix("Error: ")
+def failure_in_log(launcher, count: int = 1) -> str:
+    """The sentence of the newest failure, once there are so many."""
+    def errors() -> list[str]:
+        lines = [line for line in launcher.log() if line.startswith("Error: ")]
+        return lines if len(lines) == count else []
+
+    return wait_for(f"Error {count} in the log", errors)[-1].removeprefix("Error: ")
 
 
 def expect_failed_start(world) -> None:
@@ -72,7 +74,7 @@ def expect_cancelled(world) -> None:
     """The launcher is back where it was before the first Play, and says so in the log."""
     launcher = world.launcher
     launcher.press("Cancel")
-    launcher.wait_for_label("Not downloaded", seconds=20)
+    launcher.wait_for_label("Not downloaded", seconds=10)
     launcher.wait_for_log_line("Cancelled.")
     world.picture("cancelled")
     assert launcher.log()[-1] == "Cancelled.", launcher.log()

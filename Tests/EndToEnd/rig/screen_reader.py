@@ -7,6 +7,7 @@ import subprocess
 import sys
 from pathlib import Path
 
+from rig.controls import load_atspi
 from rig.waiting import wait_for
 
 NOTICE = "Notice: "
@@ -36,10 +37,7 @@ class ScreenReader:
 
 
 def listen() -> None:
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi
-    Atspi.set_timeout(30_000, 30_000)
+    Atspi = load_atspi()
 
     def shown(event) -> None:
         # What it was called when it showed before is not what it says now.

@@ -50,6 +50,6 @@ def play_from_a_new_engine(world):
 
 def expect_end(world, number: int) -> None:
     world.launcher.signal(number)
-    assert world.launcher.wait_for_end(seconds=20) == 0
+    assert world.launcher.wait_for_end(seconds=10) == 0
     wait_for("The end of all that it started", lambda: not world.home.processes())
     world.home.expect_nothing_left_over()

@@ -16,7 +16,7 @@ def run(world):
     wait_for("The temporary folder of the download",
              lambda: any(world.home.temporary.iterdir()))
     world.desktop.close(TITLE)
-    assert first.wait_for_end(seconds=20) == 0
+    assert first.wait_for_end(seconds=10) == 0
 
     second = world.open_launcher()
     second.wait_for_label("Not downloaded")

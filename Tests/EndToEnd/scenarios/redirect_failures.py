@@ -2,9 +2,8 @@
 """What fails behind the redirect of a download is told as what it is, and by the host where it
 failed."""
 
-from rig.expect import expect_failure
+from rig.expect import expect_failure, failure_in_log
 from rig.web_host import BRANCHES, RELEASES, UNCERTIFIED
-from rig.waiting import wait_for
 
 GAME = "https://github.com/brindlework-demos/tetherwalk/archive/refs/heads/master.zip"
 FAILED = f"Could not download “{GAME}”: "
@@ -36,14 +35,9 @@ def run(world):
     for count, (target, sentence) in enumerate(FAILURES.items(), start=1):
         world.web.start(branch_target=target)
         launcher.press("Play")
-        errors = wait_for("One more error in the log", lambda: next(
-            (errors for errors in [errors_of(launcher)] if len(errors) == count), None))
-        assert errors[-1] == sentence, errors[-1]
+        error = failure_in_log(launcher, count)
+        assert error == sentence, error
         expect_failure(world, sentence)
         world.web.stop()
     assert not world.home.game.exists()
     world.home.expect_nothing_left_over()
-
-
-def errors_of(launcher):
-    return [line.removeprefix("Error: ") for line in launcher.log() if line.startswith("Error: ")]
